@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/enums.h"
+#include "model/item.h"
+#include "model/piece.h"
+#include "quirracontrol_export.h"
+
+#include <QStringList>
+
+#include <array>
+
+namespace quirra {
+
+/**
+ * @brief The piece, its five items and the envelope orientation.
+ *
+ * There is one of these per process, shared by every control: a layout that
+ * one control loads or edits is at once the layout of all of them. Dialogs
+ * work on copies and hand them back when the user accepts.
+ */
+struct QUIRRACONTROL_EXPORT PieceModel
+{
+    Piece piece;
+    std::array<Item, ItemCount> items; ///< in storage order, see ItemId
+    eEnvOrient EnvelopeOrientation = eoLandscape;
+
+    Item &item(ItemId id) { return items[static_cast<int>(id)]; }
+    const Item &item(ItemId id) const { return items[static_cast<int>(id)]; }
+
+    /** @brief The model every control of this process shares. */
+    static PieceModel &shared();
+
+    /** @brief Puts the shared model back to its state at process start (for tests). */
+    static void resetShared();
+
+    bool operator==(const PieceModel &other) const;
+    bool operator!=(const PieceModel &other) const { return !(*this == other); }
+};
+
+/**
+ * @brief The fourteen names by which a change of the piece is announced, in
+ * order. Seven are short forms ("MarginLeft", "NumAcross", ...) rather than
+ * property names: the container only needs to learn that something changed.
+ */
+QUIRRACONTROL_EXPORT const QStringList &PieceChangedNames();
+
+/**
+ * @brief The sixty item property names by which a change of the whole layout
+ * is announced: items in the order Address, Return, Stamp, Message1, Message2,
+ * and within each the fields Border, Font, Height, HorzAlign, Left,
+ * LineSpacing, Text, Top, VertAlign, Visible, Width, Wrap.
+ */
+QUIRRACONTROL_EXPORT const QStringList &ItemsChangedNames();
+
+} // namespace quirra

@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "model/error.h"
+#include "model/piecemodel.h"
+
+#include <QTest>
+
+using namespace quirra;
+
+class TestPiece : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { PieceModel::resetShared(); }
+
+    void derivePageSetup_data();
+    void derivePageSetup();
+    void slotPlacement_data();
+    void slotPlacement();
+    void zeroAcrossIsADivisionError();
+    void notificationNames();
+    void sharedModelIsOneForTheProcess();
+    void int16Overflow_data();
+    void int16Overflow();
+};
+
+void TestPiece::derivePageSetup_data()
+{
+    QTest::addColumn<int>("across");
+    QTest::addColumn<int>("down");
+    QTest::addColumn<float>("pieceW");
+    QTest::addColumn<float>("pieceH");
+    QTest::addColumn<float>("pitchH");
+    QTest::addColumn<float>("pitchV");
+    QTest::addColumn<float>("marginL");
+    QTest::addColumn<float>("marginT");
+    QTest::addColumn<QString>("pageSize");
+    QTest::addColumn<int>("orientation");
+    QTest::addColumn<int>("paper");
+
+    QTest::newRow("no10-envelope-is-landscape-paper-20")
+        << 1 << 1 << 9.5f << 4.125f << 9.5f << 4.125f << 0.f << 0.f << "4 1/8 x 9 1/2" << 1 << 20;
+    QTest::newRow("letter-label-sheet-is-portrait")
+        << 3 << 10 << 2.625f << 1.f << 2.75f << 1.f << 0.1875f << 0.5f
+        << "Letter (8 1/2 x 11 in)" << 0 << 1;
+    QTest::newRow("square-sheet-tie-is-portrait")
+        << 2 << 2 << 2.f << 2.f << 3.f << 3.f << 1.f << 1.f << "6 x 6" << 0 << 1;
+    QTest::newRow("fourteen-anywhere-is-legal")
+        << 1 << 1 << 8.5f << 14.f << 8.5f << 14.f << 0.f << 0.f << "8 1/2 x 14" << 0 << 5;
+    QTest::newRow("fourteen-inside-a-number-is-legal-too")
+        << 1 << 1 << 4.f << 6.f << 4.f << 6.f << 0.f << 0.f << "C6 (114 x 162 mm)" << 0 << 5;
+    QTest::newRow("envelope-text-must-match-exactly")
+        << 1 << 1 << 9.5f << 4.125f << 9.5f << 4.125f << 0.f << 0.f << "4 1/8 x 9 1/2 " << 1 << 1;
+    QTest::newRow("only-one-piece-reaches-across")
+        << 1 << 3 << 5.f << 1.f << 0.f << 1.5f << 0.f << 0.f << "" << 1 << 1;
+}
+
+void TestPiece::derivePageSetup()
+{
+    Piece p;
+    QFETCH(int, across);
+    QFETCH(int, down);
+    QFETCH(float, pieceW);
+    QFETCH(float, pieceH);
+    QFETCH(float, pitchH);
+    QFETCH(float, pitchV);
+    QFETCH(float, marginL);
+    QFETCH(float, marginT);
+    QFETCH(QString, pageSize);
+    p.PieceNumAcross = qint16(across);
+    p.PieceNumDown = qint16(down);
+    p.PieceWidth = pieceW;
+    p.PieceHeight = pieceH;
+    p.PiecePitchHorz = pitchH;
+    p.PiecePitchVert = pitchV;
+    p.PieceMarginLeft = marginL;
+    p.PieceMarginTop = marginT;
+    p.PageSize = pageSize;
+    p.PageSizeNum = 99;
+    p.PieceOrientation = 99;
+
+    DerivePageSetup(p);
+
+    QTEST(int(p.PieceOrientation), "orientation");
+    QTEST(int(p.PageSizeNum), "paper");
+}
+
+void TestPiece::slotPlacement_data()
+{
+    QTest::addColumn<int>("slot");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("top");
+    QTest::addColumn<int>("left");
+
+    // 3 across, 10 down; margins 0.1875 x 0.5 in, pitch 2.75 x 1 in.
+    QTest::newRow("first-slot-is-the-margin-corner") << 1 << 0 << 0 << 720 << 270;
+    QTest::newRow("slot-3-ends-the-first-row") << 3 << 0 << 2 << 720 << 8190;
+    QTest::newRow("slot-4-starts-the-second-row") << 4 << 1 << 0 << 2160 << 270;
+    QTest::newRow("last-slot-of-the-sheet") << 30 << 9 << 2 << 13680 << 8190;
+}
+
+void TestPiece::slotPlacement()
+{
+    Piece p;
+    p.PieceNumAcross = 3;
+    p.PieceNumDown = 10;
+    p.PieceMarginLeft = 0.1875f;
+    p.PieceMarginTop = 0.5f;
+    p.PiecePitchHorz = 2.75f;
+    p.PiecePitchVert = 1.f;
+    QFETCH(int, slot);
+    const SlotPlace place = placeOfSlot(p, slot);
+    QTEST(place.row, "row");
+    QTEST(place.column, "column");
+    QTEST(int(place.top), "top");
+    QTEST(int(place.left), "left");
+}
+
+void TestPiece::zeroAcrossIsADivisionError()
+{
+    Piece p;
+    p.PieceNumAcross = 0;
+    try {
+        placeOfSlot(p, 1);
+        QFAIL("no error for a piece with 0 across");
+    } catch (const Error &e) {
+        QVERIFY2(e.message().contains(QLatin1String("PieceNumAcross")), e.what());
+    }
+}
+
+void TestPiece::notificationNames()
+{
+    const QStringList &piece = PieceChangedNames();
+    QCOMPARE(piece.size(), 14);
+    QCOMPARE(piece.first(), QStringLiteral("IsCustom"));
+    QCOMPARE(piece.at(3), QStringLiteral("NumAcross")); // the short form, not the property name
+    QCOMPARE(piece.last(), QStringLiteral("PrinterTop"));
+
+    const QStringList &items = ItemsChangedNames();
+    QCOMPARE(items.size(), 60);
+    QCOMPARE(items.first(), QStringLiteral("AddressBorder"));
+    QCOMPARE(items.at(11), QStringLiteral("AddressWrap"));
+    QCOMPARE(items.at(12), QStringLiteral("ReturnBorder"));
+    QCOMPARE(items.at(24), QStringLiteral("StampBorder")); // Stamp comes third
+    QCOMPARE(items.at(36), QStringLiteral("Message1Border"));
+    QCOMPARE(items.last(), QStringLiteral("Message2Wrap"));
+    QStringList unique = items;
+    QCOMPARE(unique.removeDuplicates(), 0);
+}
+
+void TestPiece::sharedModelIsOneForTheProcess()
+{
+    PieceModel &a = PieceModel::shared();
+    a.item(ItemId::Address).Top = 1.25f;
+    a.piece.PieceName = QStringLiteral("5160 - Address Labels");
+    QCOMPARE(PieceModel::shared().item(ItemId::Address).Top, 1.25f);
+
+    PieceModel::resetShared();
+    QCOMPARE(PieceModel::shared().item(ItemId::Address).Top, 0.f);
+    QCOMPARE(PieceModel::shared().piece.PieceName, DefaultPieceName);
+    QCOMPARE(PieceModel::shared().piece.PrinterLeft, 0.25f);
+    QCOMPARE(int(PieceModel::shared().EnvelopeOrientation), int(eoLandscape));
+}
+
+void TestPiece::int16Overflow_data()
+{
+    QTest::addColumn<qint64>("value");
+    QTest::addColumn<bool>("fits");
+    QTest::newRow("largest") << qint64(32767) << true;
+    QTest::newRow("smallest") << qint64(-32768) << true;
+    QTest::newRow("one-over") << qint64(32768) << false;
+    QTest::newRow("one-under") << qint64(-32769) << false;
+}
+
+void TestPiece::int16Overflow()
+{
+    QFETCH(qint64, value);
+    QFETCH(bool, fits);
+    bool threw = false;
+    try {
+        QCOMPARE(qint64(toInt16Checked(value, "pieces per page")), value);
+    } catch (const Error &e) {
+        threw = true;
+        QVERIFY(e.message().startsWith(QLatin1String("Overflow")));
+    }
+    QCOMPARE(threw, !fits);
+}
+
+QTEST_GUILESS_MAIN(TestPiece)
+#include "tst_piece.moc"
