@@ -14,10 +14,13 @@ namespace quirra {
  * @brief A settings file in the INI format, read by the rules desktop
  * programs have always used for such files.
  *
- * Sections and keys match case-insensitively and the first match wins;
- * blanks around keys and values are ignored; a value in matching quotes loses
+ * Sections and keys match case-insensitively and the first match wins (a
+ * section repeated further down is not read at all); blanks around names and
+ * values are ignored; a value in matching quotes (double or single) loses
  * them; lines starting with ";" are comments; lines that are neither a
- * section nor "key=value" are skipped. A value is cut at 254 characters.
+ * section nor "key=value", and lines holding a NUL byte, are skipped. Lines
+ * end in LF, CR LF or CR. A value is cut at 254 characters. Parsing takes
+ * time in proportion to the text's length, whatever the text holds.
  *
  * QSettings is no substitute: it splits values at commas, and catalogue
  * records are comma-separated text.
@@ -37,9 +40,12 @@ public:
      * @brief Reads one value from a file, as the classic profile-string call
      * does: the default when the file, the section or the key is missing.
      *
-     * Parsed files are kept, and a file is parsed again when its size or
-     * modification time changes, so a catalogue edited while the program runs
-     * is seen at the next lookup.
+     * The default loses its trailing blanks and is cut like any value. Only a
+     * plain file is read (a pipe, a device or a folder counts as missing, as
+     * does a file over 64 MiB). Parsed files are kept, and a file is parsed
+     * again when its size, modification time (to the nanosecond) or inode
+     * changes, so a catalogue edited while the program runs is seen at the
+     * next lookup.
      */
     static QString readString(const QString &file, const QString &section, const QString &key,
                               const QString &defaultValue);

@@ -14,10 +14,19 @@ namespace quirra {
  */
 QUIRRACONTROL_EXPORT extern float display_scale;
 
-/** @brief inches × 1440 × display_scale, in that order, in double precision. */
+/**
+ * @brief Inches to display twips: inches × 1440 × display_scale, in that
+ * order, in double precision.
+ */
 QUIRRACONTROL_EXPORT double InchesToDisplayTwips(double inches);
 
-/** @brief value ÷ display_scale ÷ 1440 as inches, formatted "#0.##" ("2." for two inches). */
+/**
+ * @brief value ÷ display_scale ÷ 1440 as inches, formatted "#0.##" ("2." for
+ * two inches).
+ *
+ * A display_scale that is not a positive number is taken as 1 (with a
+ * warning in the log), so a field never shows an infinite length.
+ */
 QUIRRACONTROL_EXPORT QString DisplayTwipsToText(double displayTwips);
 
 /** @brief b when a <= b, else a: on equal values the second argument. */

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "settings/units.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include <cmath>
+
+using namespace quirra;
+
+class TestUnits : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { display_scale = 1.0f; }
+    void formatNumber_data();
+    void formatNumber();
+    void displayTwipsToText_data();
+    void displayTwipsToText();
+    void tiesGiveTheSecondArgument();
+};
+
+void TestUnits::formatNumber_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("whole-number-keeps-point") << 2.0 << "#0.##"
+                                              << "2.";
+    QTest::newRow("half-away-on-15-digits") << 2.675 << "#0.##"
+                                            << "2.68";
+    QTest::newRow("negative-half-away") << -2.675 << "#0.##"
+                                        << "-2.68";
+    QTest::newRow("rounds-to-zero-without-minus") << -0.001 << "#0.##"
+                                                  << "0.";
+    QTest::newRow("carry-into-a-new-digit") << 9.999 << "#0.##"
+                                            << "10.";
+    QTest::newRow("hash-drops-leading-zero") << 0.5 << "#.##"
+                                             << ".5";
+    QTest::newRow("fixed-decimals-padded") << 2.0 << "0.00"
+                                           << "2.00";
+    QTest::newRow("fixed-decimals-rounded") << 0.125 << "0.00"
+                                            << "0.13";
+    QTest::newRow("whole-half-away") << -2.5 << "#0"
+                                     << "-3";
+    QTest::newRow("tiny-number") << 1e-20 << "#0.##"
+                                 << "0.";
+    QTest::newRow("text-around-kept") << 2.0 << "0.00 in"
+                                      << "2.00 in";
+}
+
+void TestUnits::formatNumber()
+{
+    QFETCH(double, value);
+    QFETCH(QString, pattern);
+    QFETCH(QString, expected);
+    QCOMPARE(FormatNumber(value, pattern), expected);
+}
+
+void TestUnits::displayTwipsToText_data()
+{
+    QTest::addColumn<float>("scale");
+    QTest::addColumn<double>("twips");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("one-inch-keeps-point") << 1.0f << 1440.0 << "1.";
+    QTest::newRow("inch-and-a-half") << 1.0f << 2160.0 << "1.5";
+    QTest::newRow("rounded-to-hundredths") << 1.0f << 1000.0 << "0.69";
+    QTest::newRow("scale-divides") << 2.0f << 2160.0 << "0.75";
+    QTest::newRow("zero-scale-taken-as-one") << 0.0f << 1440.0 << "1.";
+}
+
+void TestUnits::displayTwipsToText()
+{
+    QFETCH(float, scale);
+    QFETCH(double, twips);
+    QFETCH(QString, expected);
+    display_scale = scale;
+    if (scale <= 0)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("display_scale")));
+    QCOMPARE(DisplayTwipsToText(twips), expected);
+    // A length placed on the editor's surface shows as itself.
+    if (scale > 0)
+        QCOMPARE(DisplayTwipsToText(InchesToDisplayTwips(4.333)), QStringLiteral("4.33"));
+}
+
+void TestUnits::tiesGiveTheSecondArgument()
+{
+    // +0 and -0 are equal, so the sign tells which argument came back.
+    QVERIFY(std::signbit(Larger(0.0f, -0.0f)));
+    QVERIFY(!std::signbit(Larger(-0.0f, 0.0f)));
+    QVERIFY(std::signbit(Smaller(0.0f, -0.0f)));
+    QVERIFY(!std::signbit(Smaller(-0.0f, 0.0f)));
+    QCOMPARE(Larger(3, 2), 3.0f);
+    QCOMPARE(Smaller(3, 2), 2.0f);
+}
+
+QTEST_GUILESS_MAIN(TestUnits)
+#include "tst_units.moc"

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Reads back what a PDF file holds with the poppler tools: page sizes from
+// pdfinfo, words and their boxes from pdftotext -bbox. Lengths in points.
+
+#include <QList>
+#include <QProcess>
+#include <QRectF>
+#include <QRegularExpression>
+#include <QSizeF>
+#include <QString>
+
+#include <algorithm>
+
+namespace pdfprobe {
+
+struct Word
+{
+    int page; // from 1
+    QString text;
+    QRectF box;
+};
+
+struct Line
+{
+    int page;
+    QString text; // words joined by one blank
+    double left, right, top;
+};
+
+inline QString run(const QString &tool, const QStringList &args)
+{
+    QProcess p;
+    p.start(tool, args);
+    return p.waitForFinished(30000) && p.exitCode() == 0
+               ? QString::fromUtf8(p.readAllStandardOutput())
+               : QString();
+}
+
+/** Size of every page; empty when the file is not a readable PDF. */
+inline QList<QSizeF> pageSizes(const QString &file)
+{
+    static const QRegularExpression re(QStringLiteral(R"(Page\s+\d+ size:\s+([\d.]+) x ([\d.]+))"));
+    QList<QSizeF> sizes;
+    for (auto it = re.globalMatch(run("pdfinfo", {"-f", "1", "-l", "100000", file}));
+         it.hasNext();) {
+        const auto m = it.next();
+        sizes.append(QSizeF(m.captured(1).toDouble(), m.captured(2).toDouble()));
+    }
+    return sizes;
+}
+
+inline QList<Word> words(const QString &file)
+{
+    static const QRegularExpression re(QStringLiteral(
+        R"re(<page |<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="([\d.]+)" yMax="([\d.]+)">([^<]*)</word>)re"));
+    QList<Word> result;
+    int page = 0;
+    for (auto it = re.globalMatch(run("pdftotext", {"-bbox", file, "-"})); it.hasNext();) {
+        const auto m = it.next();
+        if (m.captured(0).startsWith(QLatin1String("<page")))
+            ++page;
+        else
+            result.append(
+                Word{page, m.captured(5),
+                     QRectF(QPointF(m.captured(1).toDouble(), m.captured(2).toDouble()),
+                            QPointF(m.captured(3).toDouble(), m.captured(4).toDouble()))});
+    }
+    return result;
+}
+
+/** Words grouped into lines by page and top edge, top to bottom. */
+inline QList<Line> lines(const QString &file)
+{
+    QList<Line> result;
+    for (const Word &w : words(file)) {
+        auto it = std::find_if(result.begin(), result.end(), [&](const Line &l) {
+            return l.page == w.page && qAbs(l.top - w.box.top()) < 0.5;
+        });
+        if (it == result.end()) {
+            result.append(Line{w.page, w.text, w.box.left(), w.box.right(), w.box.top()});
+        } else {
+            it->text += QLatin1Char(' ') + w.text;
+            it->left = std::min(it->left, w.box.left());
+            it->right = std::max(it->right, w.box.right());
+        }
+    }
+    std::sort(result.begin(), result.end(), [](const Line &a, const Line &b) {
+        return a.page != b.page ? a.page < b.page : a.top < b.top;
+    });
+    return result;
+}
+
+} // namespace pdfprobe
