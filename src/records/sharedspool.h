@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "quirracontrol_export.h"
+#include "records/spoolreader.h"
+
+#include <QString>
+
+namespace quirra {
+
+/**
+ * @brief The spool state that belongs to the process, not to one control.
+ *
+ * There is one spool path for all controls: each new control makes a fresh
+ * spool file and names it here, replacing the one before. There is one
+ * reader, with its open and end-of-spool marks, used by every print run.
+ * Two controls in one process therefore share a spool; one active control at
+ * a time is assumed. The writers stay per control (SpoolWriter).
+ */
+class QUIRRACONTROL_EXPORT SharedSpool
+{
+public:
+    /** @brief The one instance of this process. */
+    static SharedSpool &instance();
+
+    /** @brief Closes the reader and forgets the path and the marks (for tests). */
+    static void reset();
+
+    /** @brief The full path of the spool file; empty before any control made one. */
+    QString spoolPath() const { return m_reader.path(); }
+
+    /** @brief Names the spool file for every writer and the reader. */
+    void setSpoolPath(const QString &path) { m_reader.setPath(path); }
+
+    /**
+     * @brief Creates a new, empty spool file in the temporary directory
+     * (prefix "qzv", mode 0600), names it as the spool and returns its path.
+     * @throws Error when the temporary directory cannot take a new file.
+     */
+    QString makeNewSpoolFile();
+
+    /** @brief The process's one spool reader. */
+    SpoolReader &reader() { return m_reader; }
+
+private:
+    SharedSpool() = default;
+    SharedSpool(const SharedSpool &) = delete;
+    SharedSpool &operator=(const SharedSpool &) = delete;
+
+    SpoolReader m_reader;
+};
+
+} // namespace quirra

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "quirracontrol_export.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+#include <functional>
+
+namespace quirra {
+
+class Record;
+
+/**
+ * @brief Appends one control's records to the spool, one line each.
+ *
+ * Each control has its own writer; the file it writes is the process's spool
+ * (SharedSpool::spoolPath() at the moment the file is opened). The file is
+ * UTF-8 text with CR LF line ends: a header line of the eleven quoted column
+ * names, then one line of eleven quoted values per record.
+ *
+ * Lines are collected in a 64 KiB buffer and written in blocks, so feeding a
+ * million records takes seconds and no record is kept in memory. The buffer
+ * reaches the file at the latest when EndDoc() closes it, which every print
+ * run does before it reads.
+ *
+ * The writer yields to event processing after creating the file, after each
+ * line and after closing, so a host feeding many records stays responsive.
+ */
+class QUIRRACONTROL_EXPORT SpoolWriter
+{
+public:
+    /** @brief Called where the writer yields; an empty hook does nothing. */
+    using YieldHook = std::function<void()>;
+
+    /** @brief A writer with no document yet, yielding through processPendingEvents(). */
+    SpoolWriter();
+
+    /** @brief Closes the file if open, writing what is buffered; errors are only logged. */
+    ~SpoolWriter();
+
+    SpoolWriter(const SpoolWriter &) = delete;
+    SpoolWriter &operator=(const SpoolWriter &) = delete;
+
+    /**
+     * @brief Starts a document: truncates the spool and writes its header,
+     * unless the spool is already open, in which case nothing happens (the
+     * records written so far stay, and no second header is written).
+     * @throws Error when the spool cannot be opened or written.
+     */
+    void StartDoc();
+
+    /**
+     * @brief Appends record as one line.
+     *
+     * When the spool is closed it is reopened for appending if this writer
+     * has started a document before, and created with its header otherwise.
+     * A record whose values hold a double quote or a line break is written as
+     * it stands, with a warning in the log (see Record::spoolProblem()).
+     *
+     * @throws Error when the spool cannot be opened or written.
+     */
+    void NewPiece(const Record &record);
+
+    /**
+     * @brief Closes the spool, keeping the document: a later NewPiece()
+     * appends to it, a later StartDoc() truncates it.
+     * @throws Error when the buffered lines cannot be written.
+     */
+    void EndDoc();
+
+    /** @brief True while the spool is open for writing. */
+    bool isSpoolOpen() const { return m_open; }
+
+    /** @brief True once this writer has created the spool and written its header. */
+    bool isSpoolStarted() const { return m_started; }
+
+    /** @brief Replaces the hook called where the writer yields. */
+    void setYieldHook(YieldHook hook) { m_yield = std::move(hook); }
+
+    /**
+     * @brief The default yield: processes pending events when an
+     * application object exists, else does nothing.
+     */
+    static void processPendingEvents();
+
+private:
+    void CreateSpool();
+    void openSpool(QIODevice::OpenMode mode);
+    void writeBuffer();
+    void closeFile();
+    void yieldOnce();
+
+    QFile m_file;
+    QByteArray m_buffer;
+    YieldHook m_yield;
+    bool m_open = false;
+    bool m_started = false;
+};
+
+} // namespace quirra

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "records/record.h"
+#include "records/sharedspool.h"
+#include "records/spoolwriter.h"
+
+#include <QFile>
+#include <QStringList>
+
+// Shared by the records tests: a fresh spool per test; records written as
+// "first;middle;last;..." in column order.
+namespace fixture {
+
+inline const QByteArray Header =
+    "\"nm_first\",\"nm_middle\",\"nm_last\",\"addr_1\",\"addr_2\",\"city\",\"state\",\"zip\","
+    "\"carrier_r\",\"bar_code\",\"substitute\"\r\n";
+
+inline quirra::Record record(const QString &values)
+{
+    quirra::Record r;
+    const QStringList v = values.split(QLatin1Char(';'));
+    for (int i = 0; i < v.size() && i < quirra::RecordFieldCount; ++i) {
+        r.setValue(quirra::RecordField(i), v.at(i));
+    }
+    return r;
+}
+
+inline QString newSpool()
+{
+    quirra::SharedSpool::reset();
+    return quirra::SharedSpool::instance().makeNewSpoolFile();
+}
+
+inline void feed(const QStringList &records)
+{
+    quirra::SpoolWriter writer;
+    writer.setYieldHook({});
+    for (const QString &r : records) {
+        writer.NewPiece(record(r));
+    }
+    writer.EndDoc();
+}
+
+inline QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+}
+
+inline bool overwrite(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+} // namespace fixture

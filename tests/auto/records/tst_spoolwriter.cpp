@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "model/error.h"
+#include "spoolfixture.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTimer>
+
+using namespace quirra;
+
+class TestSpoolWriter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_path = fixture::newSpool(); }
+    void cleanup() { QFile::remove(m_path); }
+    void documentStates_data();
+    void documentStates();
+    void linesOnDisk_data();
+    void linesOnDisk();
+    void failuresNameTheFile_data();
+    void failuresNameTheFile();
+    void defaultYieldProcessesEvents();
+
+private:
+    QString m_path;
+};
+
+void TestSpoolWriter::documentStates_data()
+{
+    // S StartDoc, E EndDoc, X the file removed behind the writer's back,
+    // a digit NewPiece with that record; the writer is then destroyed.
+    QTest::addColumn<QString>("calls");
+    QTest::addColumn<QString>("records");
+    QTest::addColumn<bool>("header");
+    QTest::addColumn<int>("yields");
+
+    QTest::newRow("three-records") << "S123E" << "123" << true << 5;
+    QTest::newRow("new-piece-without-start-doc-creates-header") << "1E" << "1" << true << 3;
+    QTest::newRow("start-doc-twice-keeps-records") << "S1S2E" << "12" << true << 4;
+    QTest::newRow("end-doc-then-new-piece-appends") << "S1E2E" << "12" << true << 5;
+    QTest::newRow("start-doc-after-end-doc-truncates") << "S1ES2E" << "2" << true << 6;
+    QTest::newRow("end-doc-without-document") << "E" << "" << false << 1;
+    QTest::newRow("destroyed-while-open-keeps-lines") << "S12" << "12" << true << 3;
+    QTest::newRow("removed-file-made-again-owner-only") << "XS1E" << "1" << true << 3;
+}
+
+void TestSpoolWriter::documentStates()
+{
+    QFETCH(QString, calls);
+    QFETCH(QString, records);
+    QFETCH(bool, header);
+    QFETCH(int, yields);
+
+    const Record people[] = {fixture::record(QStringLiteral("Ann;;Arden")),
+                             fixture::record(QStringLiteral("Bob;;Brook;;;Troy;NY")),
+                             fixture::record(QStringLiteral("Cy;;Cole"))};
+    int yielded = 0;
+    {
+        SpoolWriter writer;
+        writer.setYieldHook([&yielded] { ++yielded; });
+        for (const QChar c : calls) {
+            if (c == QLatin1Char('S')) {
+                writer.StartDoc();
+            } else if (c == QLatin1Char('E')) {
+                writer.EndDoc();
+            } else if (c == QLatin1Char('X')) {
+                QVERIFY(QFile::remove(m_path));
+            } else {
+                writer.NewPiece(people[c.digitValue() - 1]);
+            }
+        }
+        QCOMPARE(writer.isSpoolStarted(), header);
+        QCOMPARE(writer.isSpoolOpen(), !calls.endsWith(QLatin1Char('E')));
+    }
+    QCOMPARE(yielded, yields);
+    QByteArray expected = header ? fixture::Header : QByteArray();
+    for (const QChar c : records) {
+        people[c.digitValue() - 1].appendSpoolLine(expected);
+    }
+    QCOMPARE(fixture::contents(m_path), expected);
+    QCOMPARE(int(QFileInfo(m_path).permissions() & 0x7077),
+             int(QFile::ReadOwner | QFile::WriteOwner));
+}
+
+void TestSpoolWriter::linesOnDisk_data()
+{
+    QTest::addColumn<QString>("record");
+    QTest::addColumn<QByteArray>("line"); // the values, each in quotes, comma-separated
+    QTest::addColumn<QString>("warning");
+
+    QTest::newRow("city-and-state-get-comma") << "John;Q;Public;12 Main;;Springfield;IL;62704"
+        << QByteArray("John|Q|Public|12 Main||Springfield,|IL|62704|||") << "";
+    QTest::newRow("no-state-city-unchanged") << ";;;;;Springfield;;62704"
+        << QByteArray("|||||Springfield||62704|||") << "";
+    QTest::newRow("no-city-no-comma") << ";;;;;;IL" << QByteArray("||||||IL||||") << "";
+    QTest::newRow("setters-trim-blanks-only") << "  John ;\tQ;;;;;;;;;a^1, b^2 "
+        << QByteArray("John|\tQ|||||||||a^1, b^2") << "";
+    QTest::newRow("utf8-accents") << QString::fromUtf8("Zoë;;;;;Málaga;MA")
+        << QByteArray("Zo\xc3\xab|||||M\xc3\xa1laga,|MA||||") << "";
+    QTest::newRow("quote-written-as-is-warned") << "Ann;;The \"Old\" Mill"
+        << QByteArray("Ann||The \"Old\" Mill||||||||") << "nm_last.*double quote";
+    QTest::newRow("line-break-warned") << ";;;1 Elm\nSt" << QByteArray("|||1 Elm\nSt|||||||")
+                                       << "addr_1.*line break";
+}
+
+void TestSpoolWriter::linesOnDisk()
+{
+    QFETCH(QString, record);
+    QFETCH(QByteArray, line);
+    QFETCH(QString, warning);
+
+    if (!warning.isEmpty()) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
+    }
+    fixture::feed({record});
+    const QByteArray expected = fixture::Header + '"' + line.replace('|', "\",\"") + "\"\r\n";
+    QCOMPARE(fixture::contents(m_path), expected);
+}
+
+void TestSpoolWriter::failuresNameTheFile_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("reason");
+
+    QTest::newRow("folder-removed") << QDir::tempPath() + QStringLiteral("/gone/s.tmp")
+                                    << "No such file";
+    if (QFileInfo::exists(QStringLiteral("/dev/full"))) {
+        QTest::newRow("disk-full") << "/dev/full" << "No space";
+    }
+    QTest::newRow("no-spool-made") << "" << "no spool file";
+}
+
+void TestSpoolWriter::failuresNameTheFile()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, reason);
+
+    SharedSpool::instance().setSpoolPath(path);
+    SpoolWriter writer;
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        try {
+            attempt ? writer.NewPiece(Record()) : writer.StartDoc();
+            QFAIL("the spool was written");
+        } catch (const Error &error) {
+            QVERIFY2(error.message().contains(path) && error.message().contains(reason),
+                     qPrintable(error.message()));
+        }
+        QVERIFY(!writer.isSpoolOpen() && !writer.isSpoolStarted());
+    }
+}
+
+void TestSpoolWriter::defaultYieldProcessesEvents()
+{
+    SpoolWriter writer;
+    int fired = 0;
+    for (int call = 0; call < 3; ++call) {
+        QTimer::singleShot(0, this, [&fired] { ++fired; });
+        call == 0 ? writer.StartDoc() : call == 1 ? writer.NewPiece(Record()) : writer.EndDoc();
+        QCOMPARE(fired, call + 1);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestSpoolWriter)
+#include "tst_spoolwriter.moc"
