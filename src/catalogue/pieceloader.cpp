@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "catalogue/pieceloader.h"
+
+#include "catalogue/catalogue.h"
+#include "catalogue/logging_p.h"
+#include "settings/defaultlayout.h"
+#include "settings/files.h"
+
+namespace quirra {
+
+void ApplyPieceSpec(const PieceSpec &spec, PieceModel &model)
+{
+    Piece &piece = model.piece;
+    piece.PieceMarginLeft = spec.MarginSide;
+    piece.PieceMarginTop = spec.MarginTop;
+    piece.PieceNumAcross = spec.NumAcross;
+    piece.PieceNumDown = spec.NumDown;
+    piece.PieceHeight = spec.LabelHeight;
+    piece.PieceWidth = spec.LabelWidth;
+    piece.PiecePitchHorz = spec.PitchHorz;
+    piece.PiecePitchVert = spec.PitchVert;
+    piece.IsCustom = spec.IsCustom ? 1 : 0;
+    piece.PageSize = spec.PageDesc;
+    DerivePageSetup(piece);
+    DefaultLayout(piece.PieceHeight, piece.PieceWidth, model.item(ItemId::Address),
+                  model.item(ItemId::Return), model.item(ItemId::Stamp),
+                  model.item(ItemId::Message1), model.item(ItemId::Message2));
+}
+
+bool LoadPieceByName(const QString &name, PieceModel &model)
+{
+    const QString file = CatalogueFilePath();
+    PieceSpec spec = ReadPieceSpec(file, name);
+    const bool found = spec.NumAcross >= 1;
+    if (!found) {
+        spec = ReadPieceSpec(file, DefaultPieceName);
+        if (spec.NumAcross >= 1) {
+            qCDebug(lcCatalogue).noquote()
+                << "piece" << name << "is not in the catalogue; loaded" << DefaultPieceName;
+        } else if (file.isEmpty()) {
+            qCWarning(lcCatalogue).noquote()
+                << "No catalogue to load the piece" << name << "from:" << MasterCatalogueFileName
+                << "is not in" << SystemDirectory()
+                << "- set QUIRRA_SYSTEM_DIR to the folder that holds it. The piece's size "
+                   "stays 0.";
+        } else {
+            qCWarning(lcCatalogue).noquote()
+                << "The catalogue" << file << "holds neither the piece" << name << "nor"
+                << DefaultPieceName
+                << "- check the file, or set QUIRRA_SYSTEM_DIR to the folder of a complete "
+                   "catalogue. The piece's size stays 0.";
+        }
+    }
+    ApplyPieceSpec(spec, model);
+    model.piece.PieceName = name;
+    return found;
+}
+
+} // namespace quirra

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "catalogue/piecespec.h"
+#include "model/piecemodel.h"
+#include "quirracontrol_export.h"
+
+#include <QString>
+
+namespace quirra {
+
+/**
+ * @brief Puts a piece's geometry into the model and gives its items their
+ * default layout.
+ *
+ * Copies margins, counts, piece size, pitch (inches), the page description
+ * and the custom flag (1 when set, else 0) into model.piece, derives the
+ * orientation and paper code, then lays out the five items for the piece's
+ * size. The piece's name, the printer offsets and the envelope orientation
+ * are left as they are. Choosing or customising a piece thus always resets
+ * the item layout.
+ */
+QUIRRACONTROL_EXPORT void ApplyPieceSpec(const PieceSpec &spec, PieceModel &model);
+
+/**
+ * @brief Loads the catalogue piece name into the model, as setting the
+ * piece's name does.
+ *
+ * Reads name's record from the master catalogue; when it is missing or
+ * broken (fewer than 1 piece across) "Size 10 - Envelope" is taken instead,
+ * silently. The geometry is applied with ApplyPieceSpec, and PieceName is
+ * name even when it fell back. With no catalogue at all the geometry is 0
+ * and a warning names the folder searched.
+ *
+ * @return true when name itself was found.
+ */
+QUIRRACONTROL_EXPORT bool LoadPieceByName(const QString &name, PieceModel &model);
+
+} // namespace quirra
