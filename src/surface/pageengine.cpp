@@ -1,0 +1,702 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "surface/pageengine.h"
+
+#include "surface/logging_p.h"
+#include "surface/papercodes.h"
+#include "surface/printtarget.h"
+#include "surface/textblock_p.h"
+#include "surface/textformatter_p.h"
+
+#include <QPageLayout>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <QPicture>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace quirra {
+
+namespace {
+
+constexpr double twipsPerInch = 1440.0;
+constexpr double twipsPerPoint = 20.0;
+constexpr double maxFontPoints = 1000.0;
+constexpr int minZoom = 10;
+constexpr int maxZoom = 1000;
+constexpr int maxLineSpacing = 1000;
+
+enum ErrorCode { NoError = 0, NoOutput = 1, CannotOpen = 2 };
+
+struct RecordedPage
+{
+    QPicture picture; // in twips, the paper's corner at (0, 0)
+    QPageLayout layout;
+};
+
+// A picture played on a painter is scaled by the device's resolution over
+// the picture's own; undo that, so that the painter's transform alone says
+// how large a twip is.
+void playPicture(QPainter &painter, const QPicture &picture)
+{
+    const QPaintDevice *device = painter.device();
+    if (!device)
+        return;
+    painter.save();
+    painter.scale(double(picture.logicalDpiX()) / device->logicalDpiX(),
+                  double(picture.logicalDpiY()) / device->logicalDpiY());
+    painter.drawPicture(0, 0, picture);
+    painter.restore();
+}
+
+// Twips as a whole number, held within int so that a run far off the page
+// cannot overflow.
+int clampToInt(double twips)
+{
+    return int(std::clamp(std::round(twips), double(std::numeric_limits<int>::min()),
+                          double(std::numeric_limits<int>::max())));
+}
+
+QSizeF paperTwips(const QPageLayout &layout)
+{
+    return layout.fullRect(QPageLayout::Point).size() * twipsPerPoint;
+}
+
+Qt::Alignment alignmentForCode(int code)
+{
+    switch (code) {
+    case 0:
+        return Qt::AlignLeft;
+    case 1:
+        return Qt::AlignHCenter;
+    case 2:
+        return Qt::AlignRight;
+    case 9:
+        return Qt::AlignJustify;
+    default:
+        qCWarning(lcSurface) << "text alignment" << code << "is not known; text is set left";
+        return Qt::AlignLeft;
+    }
+}
+
+} // namespace
+
+class PageEngine::Private
+{
+public:
+    QPageLayout wantedLayout() const
+    {
+        return QPageLayout(pageSize, orientation, QMarginsF(0, 0, 0, 0));
+    }
+
+    void takeLayout(const QPageLayout &wanted, int wantedCode);
+    void startDoc(PageEngine *q);
+    void newPage();
+    void endDoc(PageEngine *q, bool aborted);
+    void printPreviewPage();
+    void beginPage();
+    void endPage();
+    void drawMarginLine(const QString &text, bool top);
+    void drawFrame(const QRectF &box);
+    QSizeF printableSize() const;
+
+    // settings
+    bool preview = true;
+    QPageLayout::Orientation orientation = QPageLayout::Portrait;
+    QPageSize pageSize{QPageSize::Letter};
+    int paperCode = 1;
+    int originLeft = 0;
+    int originTop = 0;
+    int marginLeft = 0;
+    int marginTop = 0;
+    int marginRight = 0;
+    int marginBottom = 0;
+    int indentLeft = 0;
+    int indentRight = 0;
+    QString header;
+    QString footer;
+    int firstPageNumber = 1;
+    Qt::PenStyle penStyle = Qt::SolidLine;
+    Qt::BrushStyle brushStyle = Qt::NoBrush;
+    int penWidth = 10;
+    int currentX = 0;
+    int currentY = 0;
+    TextFormatter text;
+    int lineSpacing = 100;
+    Qt::Alignment alignment = Qt::AlignLeft;
+    int textHeight = 0;
+    int error = NoError;
+    PrintTarget *target = nullptr;
+
+    // the open document
+    bool docOpen = false;
+    bool docIsPreview = true;
+    int pagesInDoc = 0;
+    QPainter painter;
+    QPicture recording;
+    QPageLayout pageLayout;
+    QPagedPaintDevice *device = nullptr;
+
+    // the preview
+    std::vector<RecordedPage> pages;
+    int previewPage = 1;
+    int zoom = 100;
+};
+
+void PageEngine::Private::takeLayout(const QPageLayout &wanted, int wantedCode)
+{
+    // Printing asks the output what it will really take; a preview takes any paper.
+    const QPageLayout taken = (!preview && target) ? target->acceptedLayout(wanted) : wanted;
+    orientation = taken.orientation();
+    const QPageSize takenSize = taken.pageSize();
+    if (takenSize.isValid() && !takenSize.isEquivalentTo(pageSizeForPaperCode(wantedCode))) {
+        pageSize = takenSize;
+        paperCode = paperCodeForPageSize(takenSize);
+    } else {
+        pageSize = wanted.pageSize();
+        paperCode = wantedCode;
+    }
+}
+
+QSizeF PageEngine::Private::printableSize() const
+{
+    const QSizeF paper = paperTwips(pageLayout);
+    return QSizeF(std::max(0.0, paper.width() - 2.0 * originLeft),
+                  std::max(0.0, paper.height() - 2.0 * originTop));
+}
+
+void PageEngine::Private::startDoc(PageEngine *q)
+{
+    if (docOpen)
+        endDoc(q, false);
+    error = NoError;
+    pagesInDoc = 0;
+    docIsPreview = preview;
+    pageLayout = wantedLayout();
+    if (docIsPreview) {
+        pages.clear();
+        previewPage = 1;
+        docOpen = true;
+        beginPage();
+        q->previewChanged();
+        return;
+    }
+    if (!target) {
+        qCWarning(lcSurface) << "printing was asked for but no printer or file is set";
+        error = NoOutput;
+        return;
+    }
+    device = target->beginDocument(pageLayout);
+    if (!device) {
+        error = CannotOpen;
+        return;
+    }
+    if (!painter.begin(device)) {
+        qCWarning(lcSurface) << "the printer or output file cannot be opened";
+        error = CannotOpen;
+        device = nullptr;
+        target->endDocument(false);
+        return;
+    }
+    docOpen = true;
+    beginPage();
+}
+
+void PageEngine::Private::beginPage()
+{
+    const QPageLayout previous = pageLayout;
+    pageLayout = wantedLayout();
+    if (docIsPreview) {
+        recording = QPicture();
+        painter.begin(&recording);
+        painter.translate(originLeft, originTop);
+    } else {
+        if (pagesInDoc > 0) {
+            if (!pageLayout.isEquivalentTo(previous))
+                device->setPageLayout(pageLayout);
+            device->newPage();
+        }
+        // Device units per twip; a new page may come with a new resolution
+        // on some printers, so the scale is set on every page.
+        painter.resetTransform();
+        painter.scale(device->logicalDpiX() / twipsPerInch, device->logicalDpiY() / twipsPerInch);
+        painter.translate(originLeft, originTop);
+    }
+    ++pagesInDoc;
+    currentX = 0;
+    currentY = 0;
+    drawMarginLine(header, true);
+    drawMarginLine(footer, false);
+}
+
+void PageEngine::Private::endPage()
+{
+    if (docIsPreview) {
+        painter.end();
+        pages.push_back(RecordedPage{recording, pageLayout});
+        recording = QPicture();
+    }
+}
+
+void PageEngine::Private::newPage()
+{
+    if (!docOpen)
+        return;
+    endPage();
+    beginPage();
+}
+
+void PageEngine::Private::endDoc(PageEngine *q, bool aborted)
+{
+    if (!docOpen)
+        return;
+    docOpen = false;
+    if (docIsPreview) {
+        endPage();
+        if (aborted)
+            pages.clear();
+        previewPage = pages.empty() ? 1 : std::clamp(previewPage, 1, int(pages.size()));
+        q->previewChanged();
+        return;
+    }
+    if (aborted)
+        target->abortDocument();
+    painter.end();
+    device = nullptr;
+    target->endDocument(aborted);
+}
+
+void PageEngine::Private::printPreviewPage()
+{
+    if (docOpen) {
+        qCWarning(lcSurface) << "a preview page cannot be printed while a document is open";
+        return;
+    }
+    if (previewPage < 1 || previewPage > int(pages.size()))
+        return;
+    error = NoError;
+    if (!target) {
+        qCWarning(lcSurface) << "printing was asked for but no printer or file is set";
+        error = NoOutput;
+        return;
+    }
+    const RecordedPage &page = pages[size_t(previewPage - 1)];
+    QPagedPaintDevice *out = target->beginDocument(page.layout);
+    if (!out) {
+        error = CannotOpen;
+        return;
+    }
+    QPainter p;
+    if (!p.begin(out)) {
+        qCWarning(lcSurface) << "the printer or output file cannot be opened";
+        error = CannotOpen;
+        target->endDocument(false);
+        return;
+    }
+    p.scale(out->logicalDpiX() / twipsPerInch, out->logicalDpiY() / twipsPerInch);
+    playPicture(p, page.picture);
+    p.end();
+    target->endDocument(false);
+}
+
+void PageEngine::Private::drawMarginLine(const QString &line, bool top)
+{
+    if (line.isEmpty())
+        return;
+    QString shown = line;
+    shown.replace(QLatin1String("%d"), QString::number(qint64(firstPageNumber) + pagesInDoc - 1));
+    const QSizeF area = printableSize();
+    const double spanWidth = area.width() - marginLeft - marginRight;
+    auto block = text.layOut(shown, spanWidth, false, Qt::AlignHCenter, 100);
+    double y;
+    if (top) {
+        y = std::max(0.0, (marginTop - block->height()) / 2.0);
+    } else {
+        y = area.height() - marginBottom + (marginBottom - block->height()) / 2.0;
+        y = std::min(y, area.height() - block->height());
+    }
+    painter.setPen(Qt::black);
+    block->draw(painter, QPointF(marginLeft, y));
+}
+
+void PageEngine::Private::drawFrame(const QRectF &box)
+{
+    if (penStyle == Qt::NoPen && brushStyle == Qt::NoBrush)
+        return;
+    if (brushStyle != Qt::NoBrush)
+        painter.fillRect(box, QBrush(Qt::black, brushStyle));
+    if (penStyle == Qt::NoPen)
+        return;
+    // The frame's ink stays inside the box: the line runs half a pen width in.
+    const double half = penWidth / 2.0;
+    const QRectF line = box.adjusted(half, half, -half, -half);
+    if (line.width() < 0 || line.height() < 0) {
+        painter.fillRect(box, Qt::black);
+        return;
+    }
+    QPen pen(Qt::black, penWidth, penStyle, Qt::SquareCap, Qt::MiterJoin);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(line);
+}
+
+PageEngine::PageEngine() : d(std::make_unique<Private>())
+{
+    d->pageLayout = d->wantedLayout();
+}
+
+PageEngine::~PageEngine()
+{
+    if (d->docOpen)
+        d->endDoc(this, false);
+}
+
+void PageEngine::setPrintTarget(PrintTarget *target)
+{
+    if (d->docOpen && !d->docIsPreview) {
+        qCWarning(lcSurface) << "the output cannot change while a document prints";
+        return;
+    }
+    d->target = target;
+}
+
+PrintTarget *PageEngine::printTarget() const
+{
+    return d->target;
+}
+
+void PageEngine::setPrintableOrigin(int leftTwips, int topTwips)
+{
+    d->originLeft = std::max(0, leftTwips);
+    d->originTop = std::max(0, topTwips);
+}
+
+int PageEngine::printableLeft() const
+{
+    return d->originLeft;
+}
+
+int PageEngine::printableTop() const
+{
+    return d->originTop;
+}
+
+QSizeF PageEngine::pageSizeTwips(int page) const
+{
+    if (page < 1 || page > int(d->pages.size()))
+        return QSizeF();
+    return paperTwips(d->pages[size_t(page - 1)].layout);
+}
+
+void PageEngine::paintPage(QPainter &painter, int page, double dotsPerInch) const
+{
+    if (page < 1 || page > int(d->pages.size()) || !(dotsPerInch > 0))
+        return;
+    painter.save();
+    painter.scale(dotsPerInch / twipsPerInch, dotsPerInch / twipsPerInch);
+    playPicture(painter, d->pages[size_t(page - 1)].picture);
+    painter.restore();
+}
+
+double PageEngine::TextWidth(const QString &text)
+{
+    return d->text.textWidth(text);
+}
+
+void PageEngine::setPreview(bool on)
+{
+    d->preview = on;
+}
+
+bool PageEngine::preview() const
+{
+    return d->preview;
+}
+
+void PageEngine::setAction(SurfaceAction action)
+{
+    switch (action) {
+    case SurfaceAction::StartDoc:
+        d->startDoc(this);
+        break;
+    case SurfaceAction::NewPage:
+        d->newPage();
+        break;
+    case SurfaceAction::EndDoc:
+        d->endDoc(this, false);
+        break;
+    case SurfaceAction::AbortDoc:
+        d->endDoc(this, true);
+        break;
+    case SurfaceAction::PrintPage:
+        d->printPreviewPage();
+        break;
+    default:
+        qCWarning(lcSurface) << "document action" << int(action) << "is not known; ignored";
+        break;
+    }
+}
+
+int PageEngine::errorCode() const
+{
+    return d->error;
+}
+
+void PageEngine::setOrientation(int orientation)
+{
+    if (orientation != 0 && orientation != 1) {
+        qCWarning(lcSurface) << "orientation" << orientation << "is neither 0 nor 1; ignored";
+        return;
+    }
+    QPageLayout wanted = d->wantedLayout();
+    wanted.setOrientation(orientation == 1 ? QPageLayout::Landscape : QPageLayout::Portrait);
+    d->takeLayout(wanted, d->paperCode);
+}
+
+int PageEngine::orientation() const
+{
+    return d->orientation == QPageLayout::Landscape ? 1 : 0;
+}
+
+void PageEngine::setPaperSize(int paperCode)
+{
+    const QPageSize size = pageSizeForPaperCode(paperCode);
+    if (!size.isValid()) {
+        qCWarning(lcSurface) << "paper code" << paperCode << "is not known; the paper stays";
+        return;
+    }
+    QPageLayout wanted = d->wantedLayout();
+    wanted.setPageSize(size);
+    d->takeLayout(wanted, paperCode);
+}
+
+int PageEngine::paperSize() const
+{
+    return d->paperCode;
+}
+
+void PageEngine::setMarginLeft(int twips)
+{
+    d->marginLeft = std::max(0, twips);
+}
+
+void PageEngine::setMarginTop(int twips)
+{
+    d->marginTop = std::max(0, twips);
+}
+
+void PageEngine::setMarginRight(int twips)
+{
+    d->marginRight = std::max(0, twips);
+}
+
+void PageEngine::setMarginBottom(int twips)
+{
+    d->marginBottom = std::max(0, twips);
+}
+
+int PageEngine::marginLeft() const
+{
+    return d->marginLeft;
+}
+
+void PageEngine::setIndentLeft(int twips)
+{
+    d->indentLeft = std::max(0, twips);
+}
+
+void PageEngine::setIndentRight(int twips)
+{
+    d->indentRight = std::max(0, twips);
+}
+
+void PageEngine::setHeader(const QString &text)
+{
+    d->header = text;
+}
+
+void PageEngine::setFooter(const QString &text)
+{
+    d->footer = text;
+}
+
+void PageEngine::setFirstPageNumber(int number)
+{
+    d->firstPageNumber = number;
+}
+
+void PageEngine::setPenStyle(int style)
+{
+    if (style < Qt::NoPen || style > Qt::DashDotDotLine) {
+        qCWarning(lcSurface) << "pen style" << style << "is not known; frames are solid";
+        style = Qt::SolidLine;
+    }
+    d->penStyle = Qt::PenStyle(style);
+}
+
+void PageEngine::setBrushStyle(int style)
+{
+    if (style < Qt::NoBrush || style > Qt::DiagCrossPattern) {
+        qCWarning(lcSurface) << "brush style" << style << "is not known; boxes are not filled";
+        style = Qt::NoBrush;
+    }
+    d->brushStyle = Qt::BrushStyle(style);
+}
+
+void PageEngine::setPenWidth(int twips)
+{
+    d->penWidth = std::max(0, twips);
+}
+
+void PageEngine::setCurrentX(int twips)
+{
+    d->currentX = twips;
+}
+
+void PageEngine::setCurrentY(int twips)
+{
+    d->currentY = twips;
+}
+
+int PageEngine::currentX() const
+{
+    return d->currentX;
+}
+
+int PageEngine::currentY() const
+{
+    return d->currentY;
+}
+
+void PageEngine::outputText(const QString &text)
+{
+    if (!d->docOpen)
+        return;
+    const QStringList lines = TextBlock::splitLines(text);
+    d->painter.setPen(Qt::black);
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        if (i > 0) {
+            d->currentX = 0;
+            d->currentY = clampToInt(d->currentY + d->text.lineHeight() * d->lineSpacing / 100.0);
+        }
+        auto block = d->text.layOut(lines.at(i), 0, false, Qt::AlignLeft, 100);
+        block->draw(d->painter, QPointF(double(d->marginLeft) + d->currentX,
+                                        double(d->marginTop) + d->currentY));
+        d->currentX = clampToInt(d->currentX + block->lastLineAdvance());
+    }
+}
+
+void PageEngine::setFontName(const QString &name)
+{
+    d->text.setFamily(name.trimmed());
+}
+
+void PageEngine::setFontSize(double points)
+{
+    if (!(points > 0)) {
+        qCWarning(lcSurface) << "font size" << points << "is not a positive number; ignored";
+        return;
+    }
+    if (points > maxFontPoints) {
+        qCWarning(lcSurface) << "font size" << points << "points is taken as" << maxFontPoints;
+        points = maxFontPoints;
+    }
+    d->text.setSizeTwips(int(std::lround(points * twipsPerPoint)));
+}
+
+void PageEngine::setFontBold(bool on)
+{
+    d->text.setBold(on);
+}
+
+void PageEngine::setFontItalic(bool on)
+{
+    d->text.setItalic(on);
+}
+
+void PageEngine::setFontUnderline(bool on)
+{
+    d->text.setUnderline(on);
+}
+
+void PageEngine::setFontStrikethrough(bool on)
+{
+    d->text.setStrikeOut(on);
+}
+
+void PageEngine::setLineSpacing(int percent)
+{
+    d->lineSpacing = percent <= 0 ? 100 : std::min(percent, maxLineSpacing);
+}
+
+void PageEngine::setTextAlign(int code)
+{
+    d->alignment = alignmentForCode(code);
+}
+
+void PageEngine::textBox(const QString &text, int left, int top, int width, int height, bool wrap,
+                         bool layoutOnly, bool border)
+{
+    width = std::max(0, width);
+    height = std::max(0, height);
+    const double textWidth = double(width) - d->indentLeft - d->indentRight;
+    auto block = d->text.layOut(text, textWidth, wrap, d->alignment, d->lineSpacing);
+    d->textHeight = clampToInt(block->height());
+    if (layoutOnly || !d->docOpen)
+        return;
+    const QRectF box(double(d->marginLeft) + left, double(d->marginTop) + top, width, height);
+    if (border)
+        d->drawFrame(box);
+    if (block->lineCount() > 0) {
+        d->painter.setPen(Qt::black);
+        block->draw(d->painter, box.topLeft() + QPointF(d->indentLeft, 0));
+    }
+}
+
+int PageEngine::textHeight() const
+{
+    return d->textHeight;
+}
+
+int PageEngine::pageCount() const
+{
+    if (d->preview)
+        return int(d->pages.size()) + (d->docOpen && d->docIsPreview ? 1 : 0);
+    return d->docIsPreview ? 0 : d->pagesInDoc;
+}
+
+void PageEngine::setPreviewPage(int page)
+{
+    const int last = std::max(1, int(d->pages.size()));
+    const int shown = std::clamp(page, 1, last);
+    if (shown != d->previewPage) {
+        d->previewPage = shown;
+        previewChanged();
+    }
+}
+
+int PageEngine::previewPage() const
+{
+    return d->previewPage;
+}
+
+void PageEngine::setZoom(int percent)
+{
+    const int zoom = std::clamp(percent, minZoom, maxZoom);
+    if (zoom != d->zoom) {
+        d->zoom = zoom;
+        previewChanged();
+    }
+}
+
+int PageEngine::zoom() const
+{
+    return d->zoom;
+}
+
+void PageEngine::previewChanged() {}
+
+} // namespace quirra

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "quirracontrol_export.h"
+#include "surface/printtarget.h"
+
+class QPrinter;
+
+namespace quirra {
+
+/**
+ * @brief Prints to a QPrinter: one of the system's printers, or a PDF file
+ * when the printer's output file name is set.
+ *
+ * The printer is used full page, so its (0, 0) is the paper's corner, as
+ * for a PDF file; the page engine moves every piece by the printable origin.
+ */
+class QUIRRACONTROL_EXPORT PrinterTarget : public PrintTarget
+{
+public:
+    /** @brief Prints on printer, which must outlive the target. */
+    explicit PrinterTarget(QPrinter &printer);
+    ~PrinterTarget() override;
+
+    /** @brief Asks the printer for the paper and orientation and reports what it took. */
+    QPageLayout acceptedLayout(const QPageLayout &wanted) override;
+    QPagedPaintDevice *beginDocument(const QPageLayout &firstPage) override;
+    void abortDocument() override;
+    void endDocument(bool aborted) override;
+
+private:
+    QPrinter &m_printer;
+};
+
+} // namespace quirra

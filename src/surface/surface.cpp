@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "surface/surface.h"
+
+namespace quirra {
+
+// Out of line so the class has one home for its vtable.
+Surface::~Surface() = default;
+
+} // namespace quirra

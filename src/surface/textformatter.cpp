@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "surface/textformatter_p.h"
+
+#include "surface/textblock_p.h"
+
+#include <QFontMetricsF>
+#include <QHashFunctions>
+
+namespace quirra {
+
+namespace {
+// Enough for every item font of a run many times over; a run that somehow
+// uses more just makes them again.
+constexpr int maxFonts = 64;
+// Blocks kept for reuse: the five items of a label, measured and drawn,
+// fit with a wide margin; the return address and messages stay cached
+// across a whole run.
+constexpr int maxBlocks = 512;
+} // namespace
+
+bool TextFormatter::FontKey::operator==(const FontKey &o) const
+{
+    return sizeTwips == o.sizeTwips && bold == o.bold && italic == o.italic &&
+           underline == o.underline && strikeOut == o.strikeOut && family == o.family;
+}
+
+bool TextFormatter::BlockKey::operator==(const BlockKey &o) const
+{
+    return width == o.width && wrap == o.wrap && alignment == o.alignment && spacing == o.spacing &&
+           font == o.font && text == o.text;
+}
+
+size_t qHash(const TextFormatter::FontKey &key, size_t seed)
+{
+    const int flags = (key.bold ? 1 : 0) | (key.italic ? 2 : 0) | (key.underline ? 4 : 0) |
+                      (key.strikeOut ? 8 : 0);
+    return qHashMulti(seed, key.family, key.sizeTwips, flags);
+}
+
+size_t qHash(const TextFormatter::BlockKey &key, size_t seed)
+{
+    return qHashMulti(seed, key.font, key.text, key.width, key.wrap, key.alignment, key.spacing);
+}
+
+TextFormatter::TextFormatter() : m_blocks(maxBlocks)
+{
+    m_key.family = QStringLiteral("Arial");
+}
+
+TextFormatter::~TextFormatter() = default;
+
+void TextFormatter::setFamily(const QString &family)
+{
+    if (family != m_key.family) {
+        m_key.family = family;
+        m_current = nullptr;
+    }
+}
+
+void TextFormatter::setSizeTwips(int twips)
+{
+    twips = std::max(twips, 1);
+    if (twips != m_key.sizeTwips) {
+        m_key.sizeTwips = twips;
+        m_current = nullptr;
+    }
+}
+
+void TextFormatter::setBold(bool on)
+{
+    if (on != m_key.bold) {
+        m_key.bold = on;
+        m_current = nullptr;
+    }
+}
+
+void TextFormatter::setItalic(bool on)
+{
+    if (on != m_key.italic) {
+        m_key.italic = on;
+        m_current = nullptr;
+    }
+}
+
+void TextFormatter::setUnderline(bool on)
+{
+    if (on != m_key.underline) {
+        m_key.underline = on;
+        m_current = nullptr;
+    }
+}
+
+void TextFormatter::setStrikeOut(bool on)
+{
+    if (on != m_key.strikeOut) {
+        m_key.strikeOut = on;
+        m_current = nullptr;
+    }
+}
+
+const TextFormatter::FontEntry &TextFormatter::currentFont()
+{
+    if (m_current)
+        return *m_current;
+    auto it = m_fonts.find(m_key);
+    if (it == m_fonts.end()) {
+        if (m_fonts.size() >= maxFonts)
+            m_fonts.clear();
+        QFont font = m_key.family.isEmpty() ? QFont() : QFont(m_key.family);
+        // One pixel is one twip. No hinting: glyphs keep their design
+        // outlines and advances at every size and on every device.
+        font.setPixelSize(m_key.sizeTwips);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        font.setStyleStrategy(QFont::PreferOutline);
+        font.setBold(m_key.bold);
+        font.setItalic(m_key.italic);
+        font.setUnderline(m_key.underline);
+        font.setStrikeOut(m_key.strikeOut);
+        const double lineHeight = QFontMetricsF(font).lineSpacing();
+        it = m_fonts.insert(m_key, FontEntry{font, lineHeight});
+    }
+    m_current = &it.value();
+    return *m_current;
+}
+
+QFont TextFormatter::font()
+{
+    return currentFont().font;
+}
+
+double TextFormatter::lineHeight()
+{
+    return currentFont().lineHeight;
+}
+
+double TextFormatter::textWidth(const QString &text)
+{
+    // Measured by the same layout that draws, so a line measured to fit
+    // does fit when it is drawn.
+    return layOut(text, 0, false, Qt::AlignLeft, 100)->naturalWidth();
+}
+
+std::shared_ptr<const TextBlock> TextFormatter::layOut(const QString &text, double width, bool wrap,
+                                                       Qt::Alignment alignment, int spacingPercent)
+{
+    BlockKey key{m_key, text, width, wrap, int(alignment), spacingPercent};
+    if (auto *cached = m_blocks.object(key))
+        return *cached;
+    const FontEntry &entry = currentFont();
+    auto block = std::make_shared<const TextBlock>(text, entry.font, entry.lineHeight, width, wrap,
+                                                   alignment, spacingPercent);
+    m_blocks.insert(key, new std::shared_ptr<const TextBlock>(block));
+    return block;
+}
+
+} // namespace quirra

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCache>
+#include <QFont>
+#include <QHash>
+#include <QString>
+
+#include <memory>
+
+namespace quirra {
+
+class TextBlock;
+
+/**
+ * @brief The current font of a surface and the text blocks laid out with it.
+ *
+ * Fonts are made once per face and size, and a laid-out block is kept for
+ * the next request of the same text, box width and paragraph settings: the
+ * print run lays every item out once to measure it and again to draw it, and
+ * the return address and messages repeat on every label.
+ */
+class TextFormatter
+{
+public:
+    TextFormatter();
+    ~TextFormatter();
+    TextFormatter(const TextFormatter &) = delete;
+    TextFormatter &operator=(const TextFormatter &) = delete;
+
+    void setFamily(const QString &family);
+    /** @brief Font size in twips (points × 20); kept at 1 or more. */
+    void setSizeTwips(int twips);
+    void setBold(bool on);
+    void setItalic(bool on);
+    void setUnderline(bool on);
+    void setStrikeOut(bool on);
+
+    QString family() const { return m_key.family; }
+    int sizeTwips() const { return m_key.sizeTwips; }
+
+    /** @brief The current font; its pixel size is its size in twips. */
+    QFont font();
+    /** @brief The current font's line height (ascent, descent and leading), in twips. */
+    double lineHeight();
+
+    /** @brief The width of the widest line of text, in twips, in the current font. */
+    double textWidth(const QString &text);
+
+    /**
+     * @brief The text laid out in the current font; see TextBlock for the
+     * parameters. The block stays valid while the caller holds it.
+     */
+    std::shared_ptr<const TextBlock> layOut(const QString &text, double width, bool wrap,
+                                            Qt::Alignment alignment, int spacingPercent);
+
+    struct FontKey
+    {
+        QString family;
+        int sizeTwips = 200;
+        bool bold = false;
+        bool italic = false;
+        bool underline = false;
+        bool strikeOut = false;
+        bool operator==(const FontKey &o) const;
+    };
+
+    struct BlockKey
+    {
+        FontKey font;
+        QString text;
+        double width;
+        bool wrap;
+        int alignment;
+        int spacing;
+        bool operator==(const BlockKey &o) const;
+    };
+
+private:
+    struct FontEntry
+    {
+        QFont font;
+        double lineHeight;
+    };
+    const FontEntry &currentFont();
+
+    FontKey m_key;
+    const FontEntry *m_current = nullptr;
+    QHash<FontKey, FontEntry> m_fonts;
+    QCache<BlockKey, std::shared_ptr<const TextBlock>> m_blocks;
+};
+
+size_t qHash(const TextFormatter::FontKey &key, size_t seed = 0);
+size_t qHash(const TextFormatter::BlockKey &key, size_t seed = 0);
+
+} // namespace quirra
