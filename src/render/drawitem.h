@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/item.h"
+#include "model/piece.h"
+#include "quirracontrol_export.h"
+
+namespace quirra {
+
+class Surface;
+
+/** @brief The box of an item on the surface, in whole twips. */
+struct ItemBox
+{
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+};
+
+/**
+ * @brief Where an item of the piece in a slot lands on the surface: the
+ * sheet position less the printer's offsets and the surface's left margin,
+ * raised to 0 where it would fall off the page.
+ * @throws Error when the piece has 0 pieces across.
+ */
+QUIRRACONTROL_EXPORT ItemBox itemBoxOnSurface(const Item &item, const Piece &piece, int slot,
+                                              int surfaceMarginLeft);
+
+/**
+ * @brief Draws one item of the piece in a slot: font, alignment and line
+ * spacing to the surface, the text laid out in its box and shifted down for
+ * middle or bottom alignment, the frame over the whole box, then the text.
+ * An invisible item leaves no trace.
+ */
+QUIRRACONTROL_EXPORT void DrawItem(const Item &item, const Piece &piece, int slot,
+                                   Surface &surface);
+
+} // namespace quirra

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "quirracontrol_export.h"
+
+#include <QString>
+
+namespace quirra {
+
+struct PieceModel;
+class SpoolReader;
+
+/** @brief What a print run to a PDF file did. */
+struct PdfRunResult
+{
+    int errorCode = 0;       ///< 0, or the surface's error when the file could not be written
+    int pages = 0;           ///< pages written
+    qint64 pieces = 0;       ///< pieces drawn
+};
+
+/**
+ * @brief Prints the spool to a PDF file with the piece and layout of the
+ * model, without any window: the headless way to run a whole job.
+ *
+ * The PDF shows every piece where it lies on the real sheet: the page is the
+ * paper, and the printable area starts at the piece's printer offsets.
+ * Needs a QGuiApplication (fonts); the offscreen platform serves.
+ *
+ * @throws Error as PrintRun::RunPrintJob does.
+ */
+QUIRRACONTROL_EXPORT PdfRunResult PrintSpoolToPdf(const QString &pdfPath, PieceModel &model,
+                                                  SpoolReader &reader);
+
+} // namespace quirra

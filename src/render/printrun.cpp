@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "render/printrun.h"
+
+#include "model/error.h"
+#include "records/addressrules.h"
+#include "records/spoolreader.h"
+#include "render/drawitem.h"
+#include "render/messagehook.h"
+#include "render/pagesetup.h"
+#include "surface/surface.h"
+
+#include <array>
+
+namespace quirra {
+
+namespace {
+
+constexpr QChar CarriageReturn(u'\r');
+
+// Puts the five item texts back when the run ends, however it ends: after a
+// run the items hold what the user set, not the last record.
+class TextTemplates
+{
+public:
+    explicit TextTemplates(PieceModel &model)
+        : m_model(model)
+    {
+        for (ItemId id : StorageOrder)
+            m_texts[int(id)] = model.item(id).Text;
+    }
+    ~TextTemplates()
+    {
+        for (ItemId id : StorageOrder)
+            m_model.item(id).Text = m_texts[int(id)];
+    }
+    const QString &text(ItemId id) const { return m_texts[int(id)]; }
+
+private:
+    PieceModel &m_model;
+    std::array<QString, ItemCount> m_texts;
+};
+
+void resetSurface(Surface &surface)
+{
+    surface.setIndentLeft(0);
+    surface.setMarginRight(0);
+    surface.setMarginBottom(0);
+    surface.setMarginLeft(0);
+    surface.setMarginTop(0);
+    surface.setIndentRight(0);
+    surface.setTextAlign(0);
+    surface.setHeader(QString());
+    surface.setFooter(QString());
+    surface.setPenStyle(1);   // solid
+    surface.setBrushStyle(0); // no fill
+    surface.setPenWidth(10);
+}
+
+// The address block: line 2 always, then each line up to the last one that
+// has text, separated by carriage returns. The carrier-route line (1) and the
+// zip line (10) are never printed.
+QString addressText(const AddressLines &lines)
+{
+    int last = 0;
+    for (int i = 9; i >= 1; --i) {
+        if (!lines[i - 1].isEmpty()) {
+            last = i;
+            break;
+        }
+    }
+    QString text = lines[1];
+    for (int i = 3; i <= last; ++i)
+        text += CarriageReturn + lines[i - 1];
+    return text;
+}
+
+} // namespace
+
+PrintRun::PrintRun(PieceModel &model, SpoolReader &reader)
+    : m_model(model)
+    , m_reader(reader)
+{
+}
+
+bool &PrintRun::abortFlag()
+{
+    static bool flag = false;
+    return flag;
+}
+
+void PrintRun::RunPrintJob(Surface &surface)
+{
+    abortFlag() = false;
+    m_piecesDrawn = 0;
+    resetSurface(surface);
+    SetOrientationVerified(surface, m_model.piece.PieceOrientation);
+    SetPaperSizeVerified(surface, m_model.piece.PageSizeNum);
+
+    if (!abortFlag()) {
+        surface.setAction(SurfaceAction::StartDoc);
+        surface.setFirstPageNumber(1);
+        const int error = surface.errorCode();
+        if (error != 0) {
+            showMessage(QStringLiteral("Ptr.error = ") + QString::number(error));
+        } else {
+            try {
+                PlacePieces(surface);
+            } catch (...) {
+                surface.setAction(SurfaceAction::AbortDoc);
+                m_reader.close();
+                throw;
+            }
+        }
+    }
+    surface.setAction(abortFlag() ? SurfaceAction::AbortDoc : SurfaceAction::EndDoc);
+}
+
+void PrintRun::PlacePieces(Surface &surface)
+{
+    const Piece &piece = m_model.piece;
+    const qint16 perPage =
+        toInt16Checked(qint64(piece.PieceNumAcross) * piece.PieceNumDown, "pieces per page");
+    if (piece.PieceNumAcross == 0)
+        placeOfSlot(piece, 1); // raises the division error with its message
+    if (perPage < 1) {
+        throw Error(QStringLiteral("The piece \"%1\" has %2 across and %3 down: no piece fits on "
+                                   "a page. Set PieceNumAcross and PieceNumDown to 1 or more.")
+                        .arg(piece.PieceName)
+                        .arg(piece.PieceNumAcross)
+                        .arg(piece.PieceNumDown));
+    }
+
+    const TextTemplates templates(m_model);
+    AddressLines lines;
+    QString substitute;
+    bool pendingNewPage = false;
+    while (!m_reader.spoolExhausted()) {
+        for (int slot = 1; slot <= perPage; ++slot) {
+            ComposeAddressLines(m_reader, surface, WidestCityLine, lines, substitute);
+            if (m_reader.spoolExhausted())
+                return;
+            if (pendingNewPage) {
+                surface.setAction(SurfaceAction::NewPage);
+                pendingNewPage = false;
+            }
+            m_model.item(ItemId::Address).Text = ReplaceTokens(addressText(lines), substitute);
+            for (ItemId id : {ItemId::Return, ItemId::Message1, ItemId::Message2, ItemId::Stamp})
+                m_model.item(id).Text = ReplaceTokens(templates.text(id), substitute);
+            DrawPiece(slot, surface);
+        }
+        pendingNewPage = true;
+    }
+}
+
+void PrintRun::DrawPiece(int slot, Surface &surface)
+{
+    // Later items paint over earlier ones where boxes overlap.
+    for (ItemId id : StorageOrder)
+        DrawItem(m_model.item(id), m_model.piece, slot, surface);
+    ++m_piecesDrawn;
+}
+
+} // namespace quirra

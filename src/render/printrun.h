@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/piecemodel.h"
+#include "quirracontrol_export.h"
+
+namespace quirra {
+
+class SpoolReader;
+class Surface;
+
+/**
+ * @brief The print run: every spooled record becomes one piece on the
+ * surface, pieces filling each page row by row.
+ *
+ * The same run serves preview and printing; only the surface's preview
+ * switch differs. It reads the spool from its first record and leaves it
+ * intact, so a preview and a print of one feed show the same pages. One
+ * record is held at a time and nothing is kept per page.
+ */
+class QUIRRACONTROL_EXPORT PrintRun
+{
+public:
+    /** @brief The widest city, state and code line, in twips. */
+    static constexpr double WidestCityLine = 3500;
+
+    PrintRun(PieceModel &model, SpoolReader &reader);
+
+    /**
+     * @brief The whole run: the surface reset, the page set up, the document
+     * started, every record placed, the document ended (or aborted).
+     *
+     * A printer that cannot start the document gets the message
+     * "Ptr.error = " and its code, and no piece is drawn.
+     *
+     * @throws Error when the piece cannot be laid out (0 pieces across, or
+     * more pieces per page than a 16-bit count holds); the surface's document
+     * is aborted first and the item texts are restored.
+     */
+    void RunPrintJob(Surface &surface);
+
+    /** @brief The page loop; the items' texts are restored when it ends, even by an error. */
+    void PlacePieces(Surface &surface);
+
+    /** @brief Draws the five items of the piece in a slot, Stamp last. */
+    void DrawPiece(int slot, Surface &surface);
+
+    /** @brief Pieces drawn by the last run. */
+    qint64 piecesDrawn() const { return m_piecesDrawn; }
+
+    /**
+     * @brief The process-wide abort flag: when set during a run, the run ends
+     * with the abort action instead of end-document. Cleared at every start.
+     */
+    static bool &abortFlag();
+
+private:
+    PieceModel &m_model;
+    SpoolReader &m_reader;
+    qint64 m_piecesDrawn = 0;
+};
+
+} // namespace quirra

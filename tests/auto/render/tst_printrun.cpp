@@ -1,0 +1,357 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "recordingsurface.h"
+#include "spoolfixture.h"
+
+#include "model/error.h"
+#include "render/drawitem.h"
+#include "render/messagehook.h"
+#include "render/printrun.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace quirra;
+
+class TestPrintRun : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { setMessageHook({}); }
+
+    void resetsTheSurfaceFirst();
+    void verifiedPageSetup_data();
+    void verifiedPageSetup();
+    void printerErrorShowsOneMessage();
+    void pagination_data();
+    void pagination();
+    void tokensAndTemplates();
+    void verticalOffset_data();
+    void verticalOffset();
+    void borderAndJustify();
+    void invisibleItemLeavesNoTrace();
+    void positionsClampAtTheEdge();
+    void badGeometryIsAnErrorOfTheRun_data();
+    void badGeometryIsAnErrorOfTheRun();
+
+private:
+    static void useLabelSheet(int across, int down);
+    QStringList m_messages;
+};
+
+void TestPrintRun::init()
+{
+    PieceModel::resetShared();
+    m_messages.clear();
+    setMessageHook([this](const QString &text) { m_messages.append(text); });
+    useLabelSheet(1, 1);
+}
+
+void TestPrintRun::useLabelSheet(int across, int down)
+{
+    Piece &p = PieceModel::shared().piece;
+    p.PieceNumAcross = qint16(across);
+    p.PieceNumDown = qint16(down);
+    p.PieceWidth = 2.f;
+    p.PieceHeight = 1.f;
+    p.PiecePitchHorz = 2.5f;
+    p.PiecePitchVert = 1.25f;
+    p.PieceMarginLeft = 0.5f;
+    p.PieceMarginTop = 0.5f;
+    for (ItemId id : StorageOrder)
+        PieceModel::shared().item(id).Visible = false;
+    Item &address = PieceModel::shared().item(ItemId::Address);
+    address.Visible = true;
+    address.Width = 1.5f;
+    address.Height = 0.75f;
+}
+
+void TestPrintRun::resetsTheSurfaceFirst()
+{
+    SpoolFixture spool;
+    spool.close();
+    RecordingSurface surface;
+    PrintRun(PieceModel::shared(), SharedSpool::instance().reader()).RunPrintJob(surface);
+    const QStringList expected = {
+        QStringLiteral("indentLeft 0"),  QStringLiteral("marginRight 0"),
+        QStringLiteral("marginBottom 0"), QStringLiteral("marginLeft 0"),
+        QStringLiteral("marginTop 0"),   QStringLiteral("indentRight 0"),
+        QStringLiteral("align 0"),       QStringLiteral("header []"),
+        QStringLiteral("footer []"),     QStringLiteral("penStyle 1"),
+        QStringLiteral("brushStyle 0"),  QStringLiteral("penWidth 10"),
+    };
+    QCOMPARE(surface.calls.mid(0, expected.size()), expected);
+    // An empty spool: the document is still started and ended, with nothing on it.
+    QCOMPARE(surface.count(QStringLiteral("action 3")), 1);
+    QCOMPARE(surface.calls.last(), QStringLiteral("action 6"));
+    QCOMPARE(surface.count(QStringLiteral("box")), 0);
+}
+
+void TestPrintRun::verifiedPageSetup_data()
+{
+    QTest::addColumn<int>("refusals");
+    QTest::addColumn<int>("attempts");
+    QTest::newRow("taken-at-once") << 0 << 1;
+    QTest::newRow("taken-on-the-fourth-try") << 3 << 4;
+    QTest::newRow("never-taken-stops-after-ten") << -1 << 10;
+}
+
+void TestPrintRun::verifiedPageSetup()
+{
+    QFETCH(int, refusals);
+    QFETCH(int, attempts);
+    SpoolFixture spool;
+    spool.close();
+    PieceModel::shared().piece.PieceOrientation = 1;
+    PieceModel::shared().piece.PageSizeNum = 20;
+    RecordingSurface surface;
+    surface.acceptOrientationAfter = refusals;
+    surface.acceptPaperAfter = refusals;
+    PrintRun(PieceModel::shared(), SharedSpool::instance().reader()).RunPrintJob(surface);
+
+    QCOMPARE(surface.count(QStringLiteral("orientation 1")), attempts);
+    QCOMPARE(surface.count(QStringLiteral("paper 20")), attempts);
+    // Each attempt writes a line of 23 blanks four times at 2000, 2000 first.
+    const QString blanks = QStringLiteral("text [%1]").arg(QString(23, QLatin1Char(' ')));
+    QCOMPARE(surface.count(blanks), 2 * 4 * attempts);
+    QCOMPARE(surface.count(QStringLiteral("x 2000")), 2 * attempts);
+    const int firstSet = int(surface.calls.indexOf(QStringLiteral("orientation 1")));
+    QCOMPARE(surface.calls.mid(firstSet - 6, 6),
+             QStringList({QStringLiteral("x 2000"), QStringLiteral("y 2000"), blanks, blanks,
+                          blanks, blanks}));
+    // The run goes on either way.
+    QCOMPARE(surface.count(QStringLiteral("action 3")), 1);
+}
+
+void TestPrintRun::printerErrorShowsOneMessage()
+{
+    SpoolFixture spool;
+    spool.addNumbered(2);
+    spool.close();
+    RecordingSurface surface;
+    surface.startError = 3;
+    PrintRun(PieceModel::shared(), SharedSpool::instance().reader()).RunPrintJob(surface);
+    QCOMPARE(m_messages, QStringList(QStringLiteral("Ptr.error = 3")));
+    QCOMPARE(surface.count(QStringLiteral("box")), 0);
+    QCOMPARE(surface.calls.last(), QStringLiteral("action 6")); // the end is sent all the same
+}
+
+void TestPrintRun::pagination_data()
+{
+    QTest::addColumn<int>("records");
+    QTest::addColumn<int>("across");
+    QTest::addColumn<int>("down");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<QStringList>("lastPageBoxes"); // "left top" of the address on the last page
+
+    QTest::newRow("seven-on-three-by-two-spill-one")
+        << 7 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")};
+    QTest::newRow("six-on-three-by-two-fill-one-page")
+        << 6 << 3 << 2 << 1
+        << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360"),
+                       QStringLiteral("7560 360"), QStringLiteral("360 2160"),
+                       QStringLiteral("3960 2160"), QStringLiteral("7560 2160")};
+    QTest::newRow("envelope-one-page-each") << 3 << 1 << 1 << 3
+                                            << QStringList{QStringLiteral("360 360")};
+    QTest::newRow("no-records-no-pages-drawn") << 0 << 3 << 2 << 1 << QStringList();
+}
+
+void TestPrintRun::pagination()
+{
+    QFETCH(int, records);
+    QFETCH(int, across);
+    QFETCH(int, down);
+    QFETCH(int, pages);
+    QFETCH(QStringList, lastPageBoxes);
+    useLabelSheet(across, down);
+    SpoolFixture spool;
+    spool.addNumbered(records);
+    spool.close();
+    RecordingSurface surface;
+    PrintRun run(PieceModel::shared(), SharedSpool::instance().reader());
+    run.RunPrintJob(surface);
+
+    QCOMPARE(run.piecesDrawn(), qint64(records));
+    QCOMPARE(surface.pageCount(), pages);
+    QCOMPARE(surface.count(QStringLiteral("action 4")), pages - 1); // no blank page at the end
+    const int lastPage = int(surface.calls.lastIndexOf(QStringLiteral("action 4")));
+    QStringList boxes;
+    for (int i = lastPage + 1; i < surface.calls.size(); ++i) {
+        const QString &c = surface.calls.at(i);
+        if (c.startsWith(QLatin1String("box ["))) {
+            const QStringList parts = c.section(QLatin1Char(']'), 1).split(QLatin1Char(' '),
+                                                                            Qt::SkipEmptyParts);
+            boxes.append(parts.at(0) + QLatin1Char(' ') + parts.at(1));
+        }
+    }
+    QCOMPARE(boxes, lastPageBoxes);
+}
+
+void TestPrintRun::tokensAndTemplates()
+{
+    PieceModel &model = PieceModel::shared();
+    Item &ret = model.item(ItemId::Return);
+    ret.Visible = true;
+    ret.Width = 2.f;
+    ret.Height = 0.5f;
+    ret.Text = QStringLiteral("Dear <<salut>>,");
+    model.item(ItemId::Address).Text = QStringLiteral("kept");
+
+    SpoolFixture spool;
+    spool.add({QStringLiteral("John"), QStringLiteral("Q"), QStringLiteral("Public"),
+               QStringLiteral("12 Main St"), QString(), QStringLiteral("Springfield"),
+               QStringLiteral("il"), QStringLiteral("62704"),
+               QStringLiteral("salut^Sir|x^y")});
+    spool.add({QStringLiteral("Ann"), QString(), QStringLiteral("Lee"), QString(), QString(),
+               QStringLiteral("Troy"), QString(), QStringLiteral("12180"), QString()});
+    spool.close();
+    RecordingSurface surface;
+    PrintRun(model, SharedSpool::instance().reader()).RunPrintJob(surface);
+
+    const QStringList drawn = surface.calls.filter(QRegularExpression(QStringLiteral("^box \\[.")));
+    QCOMPARE(drawn.size(), 4);
+    QVERIFY2(drawn.at(0).startsWith(QLatin1String(
+                 "box [John Q. Public/12 Main St/Springfield,  IL  62704]")),
+             qPrintable(drawn.at(0)));
+    QVERIFY2(drawn.at(1).startsWith(QLatin1String("box [Dear Sir,]")), qPrintable(drawn.at(1)));
+    // No street lines: the name sits right above the city line; the token stays unreplaced.
+    QVERIFY2(drawn.at(2).startsWith(QLatin1String("box [Ann Lee/Troy    12180]")),
+             qPrintable(drawn.at(2)));
+    QVERIFY2(drawn.at(3).startsWith(QLatin1String("box [Dear <<salut>>,]")),
+             qPrintable(drawn.at(3)));
+    // After the run the items hold what the user set, not the last record.
+    QCOMPARE(ret.Text, QStringLiteral("Dear <<salut>>,"));
+    QCOMPARE(model.item(ItemId::Address).Text, QStringLiteral("kept"));
+}
+
+void TestPrintRun::verticalOffset_data()
+{
+    QTest::addColumn<int>("align");
+    QTest::addColumn<float>("heightInches");
+    QTest::addColumn<int>("lines");
+    QTest::addColumn<int>("offset");
+    // The fake surface lays out 240 twips a line.
+    QTest::newRow("top-no-offset") << int(vaTop) << 1.f << 1 << 0;
+    QTest::newRow("middle-one-inch") << int(vaMiddle) << 1.f << 1 << 600;
+    QTest::newRow("middle-halving-truncates") << int(vaMiddle) << 1441.f / 1440.f << 1 << 600;
+    QTest::newRow("bottom") << int(vaBottom) << 1.f << 2 << 960;
+    QTest::newRow("taller-than-box-starts-at-top") << int(vaBottom) << 0.25f << 2 << 0;
+}
+
+void TestPrintRun::verticalOffset()
+{
+    QFETCH(int, align);
+    QFETCH(float, heightInches);
+    QFETCH(int, lines);
+    QFETCH(int, offset);
+    Piece piece = PieceModel::shared().piece;
+    piece.PrinterLeft = 0;
+    piece.PrinterTop = 0;
+    piece.PieceMarginTop = 0;
+    piece.PieceMarginLeft = 0;
+    Item item;
+    item.Height = heightInches;
+    item.Width = 2.f;
+    item.VertAlign = eVertAlign(align);
+    item.Text = lines == 1 ? QStringLiteral("one") : QStringLiteral("one\rtwo");
+    RecordingSurface surface;
+    DrawItem(item, piece, 1, surface);
+    const int height = int(std::lrint(double(heightInches) * 1440));
+    const QString last = surface.calls.last();
+    QVERIFY2(last.contains(QStringLiteral("] 0 %1 2880 %2 ").arg(offset).arg(height - offset)),
+             qPrintable(last));
+}
+
+void TestPrintRun::borderAndJustify()
+{
+    const Piece &piece = PieceModel::shared().piece;
+    Item item;
+    item.Width = 1.f;
+    item.Height = 1.f;
+    item.Text = QStringLiteral("x");
+    item.HorzAlign = haFull;
+    item.Border = 1;
+    RecordingSurface framed;
+    DrawItem(item, piece, 1, framed);
+    QVERIFY(framed.calls.contains(QStringLiteral("align 9"))); // justified, in the surface's code
+    const int frame = int(framed.calls.indexOf(QRegularExpression(QStringLiteral("^box \\[\\].*border=1"))));
+    QVERIFY(frame > 0);
+    QCOMPARE(framed.calls.at(frame - 1), QStringLiteral("penWidth 10"));
+    QVERIFY(framed.calls.last().startsWith(QLatin1String("box [x]")));
+    QVERIFY(framed.calls.last().endsWith(QLatin1String("border=0")));
+
+    item.Border = 0;
+    item.HorzAlign = haRight;
+    RecordingSurface plain;
+    DrawItem(item, piece, 1, plain);
+    QVERIFY(plain.calls.contains(QStringLiteral("align 2")));
+    QCOMPARE(plain.count(QStringLiteral("box [")), 1);
+    QCOMPARE(plain.count(QStringLiteral("penWidth")), 0);
+}
+
+void TestPrintRun::invisibleItemLeavesNoTrace()
+{
+    Item item;
+    item.Visible = false;
+    item.Border = 2;
+    item.Text = QStringLiteral("hidden");
+    RecordingSurface surface;
+    DrawItem(item, PieceModel::shared().piece, 1, surface);
+    QVERIFY(surface.calls.isEmpty());
+}
+
+void TestPrintRun::positionsClampAtTheEdge()
+{
+    Piece piece = PieceModel::shared().piece; // printer offsets 0.25 in
+    piece.PieceMarginLeft = 0;
+    piece.PieceMarginTop = 0;
+    Item item;
+    item.Left = 0.1f;
+    item.Top = 0.5f;
+    item.Width = 1.f;
+    item.Height = 1.f;
+    const ItemBox box = itemBoxOnSurface(item, piece, 1, 0);
+    QCOMPARE(box.left, 0);    // 144 - 360 would fall off the page
+    QCOMPARE(box.top, 360);   // 720 - 360
+    // The surface's left margin is taken off as well.
+    QCOMPARE(itemBoxOnSurface(item, piece, 2, 100).left, 0);
+    piece.PieceNumAcross = 2;
+    piece.PiecePitchHorz = 3.f;
+    QCOMPARE(itemBoxOnSurface(item, piece, 2, 100).left, 4320 + 144 - 100 - 360);
+}
+
+void TestPrintRun::badGeometryIsAnErrorOfTheRun_data()
+{
+    QTest::addColumn<int>("across");
+    QTest::addColumn<int>("down");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("zero-across-divides-by-zero") << 0 << 3 << QStringLiteral("Division by zero");
+    QTest::newRow("pieces-per-page-overflow") << 200 << 200 << QStringLiteral("Overflow");
+    QTest::newRow("zero-down-fits-nothing") << 3 << 0 << QStringLiteral("no piece fits");
+}
+
+void TestPrintRun::badGeometryIsAnErrorOfTheRun()
+{
+    QFETCH(int, across);
+    QFETCH(int, down);
+    QFETCH(QString, message);
+    useLabelSheet(across, down);
+    PieceModel::shared().item(ItemId::Return).Text = QStringLiteral("template");
+    SpoolFixture spool;
+    spool.addNumbered(2);
+    spool.close();
+    RecordingSurface surface;
+    try {
+        PrintRun(PieceModel::shared(), SharedSpool::instance().reader()).RunPrintJob(surface);
+        QFAIL("the run did not fail");
+    } catch (const Error &e) {
+        QVERIFY2(e.message().contains(message), e.what());
+    }
+    QCOMPARE(surface.calls.last(), QStringLiteral("action 7")); // the document is dropped
+    QCOMPARE(PieceModel::shared().item(ItemId::Return).Text, QStringLiteral("template"));
+}
+
+QTEST_GUILESS_MAIN(TestPrintRun)
+#include "tst_printrun.moc"
