@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "addresscolumns.h"
+
+#include <QHash>
+
+namespace quirra {
+
+namespace {
+
+const QHash<QString, AddressField> &fieldNames()
+{
+    static const QHash<QString, AddressField> names = {
+        {QStringLiteral("first"), AddressField::FirstName},
+        {QStringLiteral("nm_first"), AddressField::FirstName},
+        {QStringLiteral("firstname"), AddressField::FirstName},
+        {QStringLiteral("middle"), AddressField::MiddleName},
+        {QStringLiteral("nm_middle"), AddressField::MiddleName},
+        {QStringLiteral("middlename"), AddressField::MiddleName},
+        {QStringLiteral("last"), AddressField::LastName},
+        {QStringLiteral("nm_last"), AddressField::LastName},
+        {QStringLiteral("lastname"), AddressField::LastName},
+        {QStringLiteral("address1"), AddressField::Address1},
+        {QStringLiteral("addr_1"), AddressField::Address1},
+        {QStringLiteral("address2"), AddressField::Address2},
+        {QStringLiteral("addr_2"), AddressField::Address2},
+        {QStringLiteral("city"), AddressField::City},
+        {QStringLiteral("state"), AddressField::State},
+        {QStringLiteral("zip"), AddressField::Zip},
+        {QStringLiteral("substitute"), AddressField::Substitute},
+    };
+    return names;
+}
+
+QString describeProblem(const QString &value)
+{
+    if (value.contains(QLatin1Char('"')))
+        return QStringLiteral("holds a double quote");
+    if (value.contains(QLatin1Char('\r')) || value.contains(QLatin1Char('\n')))
+        return QStringLiteral("holds a line break");
+    return QString();
+}
+
+} // namespace
+
+QString AddressColumns::acceptedNames()
+{
+    return QStringLiteral("first, middle, last, address1, address2, city, state, zip (or "
+                          "nm_first, nm_middle, nm_last, addr_1, addr_2), and substitute");
+}
+
+bool AddressColumns::setHeader(const QStringList &header, QString *error)
+{
+    m_columns.clear();
+    bool anyAddressField = false;
+    QHash<int, QString> taken;
+    for (const QString &raw : header) {
+        Column column;
+        column.name = raw.trimmed();
+        const auto it = fieldNames().constFind(column.name.toLower());
+        if (it != fieldNames().constEnd()) {
+            column.field = int(*it);
+            if (taken.contains(column.field)) {
+                *error = QStringLiteral("the columns \"%1\" and \"%2\" both name the same field; "
+                                        "rename or remove one of them")
+                             .arg(taken.value(column.field), column.name);
+                return false;
+            }
+            taken.insert(column.field, column.name);
+            if (*it != AddressField::Substitute)
+                anyAddressField = true;
+        } else if (column.name.isEmpty()) {
+            // An unnamed column cannot be reached by a token; it is left out.
+        } else if (column.name.contains(QLatin1Char('^')) || column.name.contains(QLatin1Char('|'))
+                   || !describeProblem(column.name).isEmpty()) {
+            *error = QStringLiteral("the column name \"%1\" cannot be used as a substitution name "
+                                    "(it holds ^, |, a quote or a line break); rename it")
+                         .arg(column.name);
+            return false;
+        }
+        m_columns.append(column);
+    }
+    if (!anyAddressField) {
+        *error = QStringLiteral("the header row names no address column; name the columns %1")
+                     .arg(acceptedNames());
+        return false;
+    }
+    return true;
+}
+
+bool AddressColumns::mapRow(const QStringList &row, AddressRow &out, QString *error) const
+{
+    if (row.size() != m_columns.size()) {
+        *error = QStringLiteral("the row has %1 fields but the header has %2; check for a "
+                                "missing or extra comma")
+                     .arg(row.size())
+                     .arg(m_columns.size());
+        return false;
+    }
+    out = AddressRow();
+    QString entries;
+    for (qsizetype i = 0; i < row.size(); ++i) {
+        const Column &column = m_columns.at(i);
+        const QString &value = row.at(i);
+        const QString problem = describeProblem(value);
+        if (!problem.isEmpty()) {
+            *error = QStringLiteral("column \"%1\" %2, which a printed record cannot carry; "
+                                    "remove it from the value")
+                         .arg(column.name, problem);
+            return false;
+        }
+        if (column.field >= 0) {
+            out.fields[column.field] = value;
+        } else if (!column.name.isEmpty()) {
+            if (value.contains(QLatin1Char('|'))) {
+                *error = QStringLiteral("column \"%1\" holds a |, which separates substitution "
+                                        "entries; remove it from the value")
+                             .arg(column.name);
+                return false;
+            }
+            if (!entries.isEmpty())
+                entries += QLatin1Char('|');
+            entries += column.name + QLatin1Char('^') + value;
+        }
+    }
+    QString &substitute = out[AddressField::Substitute];
+    if (!entries.isEmpty())
+        substitute = substitute.isEmpty() ? entries : substitute + QLatin1Char('|') + entries;
+    return true;
+}
+
+} // namespace quirra

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "csvreader.h"
+
+#include <QIODevice>
+
+namespace quirra {
+
+namespace {
+constexpr qint64 ChunkBytes = 64 * 1024;
+} // namespace
+
+CsvReader::CsvReader(QIODevice *device)
+    : m_device(device)
+{
+}
+
+int CsvReader::peek()
+{
+    if (m_pos >= m_buffer.size()) {
+        if (m_eof)
+            return -1;
+        m_buffer = m_device->read(ChunkBytes);
+        m_pos = 0;
+        if (m_buffer.isEmpty()) {
+            m_eof = true;
+            return -1;
+        }
+    }
+    return static_cast<unsigned char>(m_buffer.at(m_pos));
+}
+
+int CsvReader::next()
+{
+    const int c = peek();
+    if (c >= 0)
+        ++m_pos;
+    return c;
+}
+
+bool CsvReader::fail(const QString &what)
+{
+    m_error = QStringLiteral("line %1: %2").arg(m_line).arg(what);
+    m_eof = true;
+    m_buffer.clear();
+    m_pos = 0;
+    return false;
+}
+
+bool CsvReader::readRow(QStringList &fields)
+{
+    fields.clear();
+    if (!m_error.isEmpty())
+        return false;
+    if (!m_started) {
+        m_started = true;
+        // A byte-order mark is no part of the first column's name.
+        if (peek() == 0xEF && m_buffer.mid(m_pos, 3) == QByteArray("\xEF\xBB\xBF"))
+            m_pos += 3;
+    }
+    if (peek() < 0)
+        return false;
+
+    m_rowLine = m_line;
+    QByteArray field;
+    bool quoted = false;      // the field began with a quote
+    bool afterQuote = false;  // the closing quote of a quoted field was read
+    auto finishField = [&] {
+        fields.append(QString::fromUtf8(field));
+        field.clear();
+        quoted = false;
+        afterQuote = false;
+    };
+
+    for (;;) {
+        const int c = next();
+        if (c < 0) {
+            if (quoted && !afterQuote)
+                return fail(QStringLiteral("a quoted field that began on line %1 is never "
+                                           "closed; add the closing double quote")
+                                .arg(m_rowLine));
+            finishField();
+            ++m_rows;
+            return true;
+        }
+        if (quoted && !afterQuote) {
+            if (c == '"') {
+                if (peek() == '"') {
+                    next();
+                    field.append('"');
+                } else {
+                    afterQuote = true;
+                }
+            } else {
+                if (c == '\n')
+                    ++m_line;
+                field.append(char(c));
+            }
+        } else if (c == ',') {
+            finishField();
+        } else if (c == '\r' || c == '\n') {
+            if (c == '\r' && peek() == '\n')
+                next();
+            ++m_line;
+            finishField();
+            ++m_rows;
+            return true;
+        } else if (afterQuote) {
+            return fail(QStringLiteral("column %1: text after the closing quote of a quoted "
+                                       "field; put the whole value in quotes and double any "
+                                       "quote inside it")
+                            .arg(fields.size() + 1));
+        } else if (c == '"' && field.isEmpty()) {
+            quoted = true;
+        } else {
+            field.append(char(c));
+        }
+        if (field.size() > MaxFieldBytes) {
+            return fail(QStringLiteral("column %1: a field longer than %2 bytes; is this a CSV "
+                                       "file?")
+                            .arg(fields.size() + 1)
+                            .arg(MaxFieldBytes));
+        }
+    }
+}
+
+} // namespace quirra
