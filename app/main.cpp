@@ -251,10 +251,10 @@ int runPieces(const QStringList &arguments)
             for (const QString &name : ReadPieceList(file, product)) {
                 if (name.isEmpty())
                     continue;
-                const PieceSpec spec = ReadPieceSpec(file, name);
+                const PieceSpec entry = ReadPieceSpec(file, name);
                 out() << family << '\t' << product << '\t' << name << '\t'
-                      << inches(spec.LabelWidth) << " x " << inches(spec.LabelHeight) << " in\t"
-                      << spec.NumAcross << " x " << spec.NumDown << '\t' << spec.PageDesc << '\n';
+                      << inches(entry.LabelWidth) << " x " << inches(entry.LabelHeight) << " in\t"
+                      << entry.NumAcross << " x " << entry.NumDown << '\t' << entry.PageDesc << '\n';
                 ++listed;
             }
         }

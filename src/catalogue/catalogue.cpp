@@ -54,32 +54,32 @@ QStringList firstFields(const QString &file, const QString &section, const QStri
 PieceSpec ReadPieceSpec(const QString &file, const QString &name)
 {
     const QString record = ReadSetting(file, DetailsSection, name);
-    PieceSpec spec;
-    spec.Name = name;
+    PieceSpec entry;
+    entry.Name = name;
     if (record.isEmpty()) {
         qCDebug(lcCatalogue).noquote() << "no record of piece" << name << "in"
                                        << (file.isEmpty() ? QStringLiteral("(no file)") : file);
-        return spec;
+        return entry;
     }
     const QStringList fields = record.split(u',');
     QString a, b;
     splitPair(field(fields, 1), a, b);
-    spec.LabelWidth = ParseSingle(a);
-    spec.LabelHeight = ParseSingle(b);
+    entry.LabelWidth = ParseSingle(a);
+    entry.LabelHeight = ParseSingle(b);
     splitPair(field(fields, 2), a, b);
-    spec.PageWidth = ParseSingle(a);
-    spec.PageHeight = ParseSingle(b);
+    entry.PageWidth = ParseSingle(a);
+    entry.PageHeight = ParseSingle(b);
     splitPair(field(fields, 3), a, b);
-    spec.MarginSide = ParseSingle(a);
-    spec.MarginTop = ParseSingle(b);
+    entry.MarginSide = ParseSingle(a);
+    entry.MarginTop = ParseSingle(b);
     splitPair(field(fields, 4), a, b);
-    spec.PitchHorz = ParseSingle(a);
-    spec.PitchVert = ParseSingle(b);
+    entry.PitchHorz = ParseSingle(a);
+    entry.PitchVert = ParseSingle(b);
     splitPair(field(fields, 5), a, b);
-    spec.NumAcross = countOf(a, name);
-    spec.NumDown = countOf(b, name);
-    spec.PageDesc = field(fields, 6);
-    return spec;
+    entry.NumAcross = countOf(a, name);
+    entry.NumDown = countOf(b, name);
+    entry.PageDesc = field(fields, 6);
+    return entry;
 }
 
 int ReadPieceType(const QString &name)

@@ -9,19 +9,19 @@
 
 namespace quirra {
 
-void ApplyPieceSpec(const PieceSpec &spec, PieceModel &model)
+void ApplyPieceSpec(const PieceSpec &entry, PieceModel &model)
 {
     Piece &piece = model.piece;
-    piece.PieceMarginLeft = spec.MarginSide;
-    piece.PieceMarginTop = spec.MarginTop;
-    piece.PieceNumAcross = spec.NumAcross;
-    piece.PieceNumDown = spec.NumDown;
-    piece.PieceHeight = spec.LabelHeight;
-    piece.PieceWidth = spec.LabelWidth;
-    piece.PiecePitchHorz = spec.PitchHorz;
-    piece.PiecePitchVert = spec.PitchVert;
-    piece.IsCustom = spec.IsCustom ? 1 : 0;
-    piece.PageSize = spec.PageDesc;
+    piece.PieceMarginLeft = entry.MarginSide;
+    piece.PieceMarginTop = entry.MarginTop;
+    piece.PieceNumAcross = entry.NumAcross;
+    piece.PieceNumDown = entry.NumDown;
+    piece.PieceHeight = entry.LabelHeight;
+    piece.PieceWidth = entry.LabelWidth;
+    piece.PiecePitchHorz = entry.PitchHorz;
+    piece.PiecePitchVert = entry.PitchVert;
+    piece.IsCustom = entry.IsCustom ? 1 : 0;
+    piece.PageSize = entry.PageDesc;
     DerivePageSetup(piece);
     DefaultLayout(piece.PieceHeight, piece.PieceWidth, model.item(ItemId::Address),
                   model.item(ItemId::Return), model.item(ItemId::Stamp),
@@ -31,11 +31,11 @@ void ApplyPieceSpec(const PieceSpec &spec, PieceModel &model)
 bool LoadPieceByName(const QString &name, PieceModel &model)
 {
     const QString file = CatalogueFilePath();
-    PieceSpec spec = ReadPieceSpec(file, name);
-    const bool found = spec.NumAcross >= 1;
+    PieceSpec entry = ReadPieceSpec(file, name);
+    const bool found = entry.NumAcross >= 1;
     if (!found) {
-        spec = ReadPieceSpec(file, DefaultPieceName);
-        if (spec.NumAcross >= 1) {
+        entry = ReadPieceSpec(file, DefaultPieceName);
+        if (entry.NumAcross >= 1) {
             qCDebug(lcCatalogue).noquote()
                 << "piece" << name << "is not in the catalogue; loaded" << DefaultPieceName;
         } else if (file.isEmpty()) {
@@ -52,7 +52,7 @@ bool LoadPieceByName(const QString &name, PieceModel &model)
                    "catalogue. The piece's size stays 0.";
         }
     }
-    ApplyPieceSpec(spec, model);
+    ApplyPieceSpec(entry, model);
     model.piece.PieceName = name;
     return found;
 }

@@ -21,7 +21,7 @@ namespace quirra {
  * are left as they are. Choosing or customising a piece thus always resets
  * the item layout.
  */
-QUIRRACONTROL_EXPORT void ApplyPieceSpec(const PieceSpec &spec, PieceModel &model);
+QUIRRACONTROL_EXPORT void ApplyPieceSpec(const PieceSpec &entry, PieceModel &model);
 
 /**
  * @brief Loads the catalogue piece name into the model, as setting the

@@ -128,12 +128,12 @@ void TestPieceLoader::noCatalogueLeavesGeometryZero()
 
 void TestPieceLoader::appliedSpecMarksCustom()
 {
-    PieceSpec spec = ReadPieceSpec(CatalogueFilePath(), QStringLiteral("5160 - Address Labels"));
-    spec.IsCustom = true;
-    spec.PageDesc = QStringLiteral("8 1/2 x 14");
+    PieceSpec entry = ReadPieceSpec(CatalogueFilePath(), QStringLiteral("5160 - Address Labels"));
+    entry.IsCustom = true;
+    entry.PageDesc = QStringLiteral("8 1/2 x 14");
     PieceModel m;
     m.piece.PieceName = QStringLiteral("Mine");
-    ApplyPieceSpec(spec, m);
+    ApplyPieceSpec(entry, m);
     QCOMPARE(m.piece.PieceName, QStringLiteral("Mine"));
     QCOMPARE(m.piece.IsCustom, qint16(1));
     QCOMPARE(m.piece.PageSizeNum, qint16(PaperLegal));
