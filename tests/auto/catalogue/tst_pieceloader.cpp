@@ -69,16 +69,16 @@ void TestPieceLoader::loadPieceByName_data()
     const QString no10 = QStringLiteral("4 1/8 x 9 1/2");
     QTest::newRow("no10-envelope") << "Size 10 - Envelope" << true << "1x1 20 1" << no10 << true;
     QTest::newRow("5160-letter-labels") << "5160 - Address Labels" << true << "3x10 1 0"
-                                        << "Letter (8 1/2 x 11 in)" << false;
+                                        << "Letter (8 1/2 x 11 in.)" << false;
     QTest::newRow("unknown-falls-back-keeping-name")
         << "No Such Piece" << false << "1x1 20 1" << no10 << true;
     QTest::newRow("name-ignores-case")
         << "size 10 - envelope" << true << "1x1 20 1" << no10 << true;
     QTest::newRow("c6-envelope-not-legal") << "C6 - Envelope" << true << "1x1 1 1"
-                                           << "C6 (4 1/2 x 6 3/8 in)" << true;
+                                           << "C6 (4 1/2 x 6 3/8 in.)" << true;
     QTest::newRow("widest-continuous-not-legal")
         << "4-Up 3 1/2 x 15/16 - Pin-Fed Address Labels" << true << "4x1 1 1"
-        << "Continuous 4-up (15 in carriage)" << false;
+        << "Continuous 4-up (15 in. carriage)" << false;
 }
 
 void TestPieceLoader::loadPieceByName()
