@@ -21,6 +21,11 @@ void setMessageHook(MessageHook hook)
     hookSlot() = std::move(hook);
 }
 
+bool hasMessageHook()
+{
+    return bool(hookSlot());
+}
+
 void showMessage(const QString &text)
 {
     if (hookSlot()) {

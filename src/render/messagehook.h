@@ -22,6 +22,9 @@ using MessageHook = std::function<void(const QString &text)>;
 /** @brief Installs the process-wide hook; an empty hook restores the default. */
 QUIRRACONTROL_EXPORT void setMessageHook(MessageHook hook);
 
+/** @brief True while a hook is installed; false while messages go to the log. */
+QUIRRACONTROL_EXPORT bool hasMessageHook();
+
 /** @brief Shows a message through the installed hook. */
 QUIRRACONTROL_EXPORT void showMessage(const QString &text);
 

@@ -1,0 +1,553 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "control/quirra.h"
+
+#include "catalogue/catalogue.h"
+#include "catalogue/pieceloader.h"
+#include "catalogue/piecespec.h"
+#include "control/fontconversion.h"
+#include "control/logging_p.h"
+#include "control/previewpane.h"
+#include "control/propertybag.h"
+#include "dialogs/piece_customization_form.h"
+#include "dialogs/piece_select_form.h"
+#include "model/error.h"
+#include "model/piecemodel.h"
+#include "records/sharedspool.h"
+#include "records/spoolwriter.h"
+#include "render/messagehook.h"
+#include "render/printrun.h"
+#include "render/textlines.h"
+#include "settings/defaultlayout.h"
+#include "settings/files.h"
+#include "surface/printsurface.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QPointer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <exception>
+
+using namespace quirra;
+
+namespace {
+
+PieceModel &model()
+{
+    return PieceModel::shared();
+}
+
+// While a run lasts, its messages ("Ptr.error = 2") go to a message box over
+// the control, unless the host takes them itself with a hook of its own.
+class RunMessages
+{
+public:
+    explicit RunMessages(QWidget *owner) : m_installed(!hasMessageHook())
+    {
+        if (!m_installed)
+            return;
+        setMessageHook([owner = QPointer<QWidget>(owner)](const QString &text) {
+            QMessageBox box(QMessageBox::NoIcon, QCoreApplication::applicationName(), text,
+                            QMessageBox::Ok, owner);
+            box.exec();
+        });
+    }
+    ~RunMessages()
+    {
+        if (m_installed)
+            setMessageHook({});
+    }
+    RunMessages(const RunMessages &) = delete;
+    RunMessages &operator=(const RunMessages &) = delete;
+
+private:
+    bool m_installed;
+};
+
+} // namespace
+
+Quirra::Quirra(QWidget *parent) : QWidget(parent), m_pane(new PreviewPane(this))
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_pane);
+    // The pane's "Pr All" button has no caller to hand an error to: the user
+    // sees it in the same way as the run's own messages.
+    connect(m_pane, &PreviewPane::printAllRequested, this, [this] {
+        RunMessages messages(this);
+        try {
+            PrintNow();
+        } catch (const Error &e) {
+            showMessage(e.message());
+        }
+    });
+    startInstance();
+    // Icon1 is no part of a new control's initialisation: it starts as the
+    // default set has it.
+    m_icon1 = m_defaults.Icon1;
+    InitProperties();
+}
+
+Quirra::~Quirra()
+{
+    // Close what this control holds on the spool before deleting it: the
+    // writer would otherwise flush its buffer after the file is gone.
+    m_writer.reset();
+    SharedSpool &spool = SharedSpool::instance();
+    spool.reader().close();
+    const QString shared = spool.spoolPath();
+    if (!shared.isEmpty())
+        DeleteFileAndWait(shared);
+    // A later control took over the spool path; the file this control made is
+    // no one's any more.
+    if (!m_ownSpoolPath.isEmpty() && m_ownSpoolPath != shared)
+        DeleteFileAndWait(m_ownSpoolPath);
+}
+
+void Quirra::startInstance()
+{
+    m_defaults = DefaultSet::compute();
+
+    // A fresh writer has no document and no open file; the old one closes its
+    // file as it goes.
+    m_writer = std::make_unique<SpoolWriter>();
+    const QString previous = m_ownSpoolPath;
+    SharedSpool &spool = SharedSpool::instance();
+    try {
+        m_ownSpoolPath = spool.makeNewSpoolFile();
+    } catch (const Error &e) {
+        // The control still opens; feeding it records then fails with the
+        // spool's own error.
+        qCWarning(lcControl).noquote() << e.message();
+        m_ownSpoolPath.clear();
+        spool.setSpoolPath(QString());
+    }
+    if (!previous.isEmpty() && previous != m_ownSpoolPath)
+        DeleteFileAndWait(previous);
+
+    PaneSettings settings = m_pane->settings();
+    settings.paneFraction = 0.85f;
+    m_pane->setSettings(settings);
+
+    model().item(ItemId::Address).Text.clear();
+    model().piece.PrinterLeft = 0.25f;
+    model().piece.PrinterTop = 0.25f;
+
+    PrintRun::abortFlag() = false;
+    spool.reader().close();
+    spool.reader().setSpoolExhausted(false);
+}
+
+void Quirra::UserControl_Initialize()
+{
+    startInstance();
+}
+
+// --- The recipient record ---------------------------------------------------
+
+void Quirra::FirstName(const QString &value)
+{
+    m_record.setValue(RecordField::nm_first, value);
+}
+
+void Quirra::MiddleName(const QString &value)
+{
+    m_record.setValue(RecordField::nm_middle, value);
+}
+
+void Quirra::LastName(const QString &value)
+{
+    m_record.setValue(RecordField::nm_last, value);
+}
+
+void Quirra::Address1(const QString &value)
+{
+    m_record.setValue(RecordField::addr_1, value);
+}
+
+void Quirra::Address2(const QString &value)
+{
+    m_record.setValue(RecordField::addr_2, value);
+}
+
+void Quirra::city(const QString &value)
+{
+    m_record.setValue(RecordField::city, value);
+}
+
+void Quirra::State(const QString &value)
+{
+    m_record.setValue(RecordField::state, value);
+}
+
+void Quirra::zip(const QString &value)
+{
+    m_record.setValue(RecordField::zip, value);
+}
+
+void Quirra::Substitute(const QString &value)
+{
+    m_record.setValue(RecordField::substitute, value);
+}
+
+void Quirra::ClearPiece()
+{
+    m_record.clear();
+}
+
+// --- The spool and the runs ---------------------------------------------------
+
+void Quirra::NewPiece()
+{
+    m_writer->NewPiece(m_record);
+}
+
+void Quirra::StartDoc()
+{
+    m_writer->StartDoc();
+}
+
+void Quirra::EndDoc()
+{
+    m_writer->EndDoc();
+}
+
+void Quirra::PreviewNow()
+{
+    runPrintJob(true);
+    m_pane->Navigate(0);
+}
+
+void Quirra::PrintNow()
+{
+    runPrintJob(false);
+}
+
+void Quirra::runPrintJob(bool preview)
+{
+    if (m_writer->isSpoolOpen())
+        EndDoc();
+    PrintSurface *printSurface = surface();
+    printSurface->setPreview(preview);
+    PrintRun::abortFlag() = false;
+    // The preview and a PDF file show each piece where it lies on the sheet:
+    // their printable area starts where the printer's does.
+    printSurface->setPrintableOrigin(inchesToTwips(model().piece.PrinterLeft),
+                                     inchesToTwips(model().piece.PrinterTop));
+
+    // Every run reads the spool from its first record, also after a run that
+    // stopped half way.
+    SpoolReader &reader = SharedSpool::instance().reader();
+    reader.close();
+    reader.setSpoolExhausted(false);
+
+    RunMessages messages(this);
+    PrintRun run(model(), reader);
+    run.RunPrintJob(*printSurface);
+}
+
+QPrinter *Quirra::printer() const
+{
+    return surface()->printer();
+}
+
+PrintSurface *Quirra::surface() const
+{
+    return m_pane->surface();
+}
+
+// --- Item texts -------------------------------------------------------------
+
+void Quirra::ClearMessage1()
+{
+    Message1Text(QString());
+}
+
+void Quirra::ClearMessage2()
+{
+    Message2Text(QString());
+}
+
+void Quirra::ClearReturn()
+{
+    ReturnText(QString());
+}
+
+void Quirra::ClearStamp()
+{
+    StampText(QString());
+}
+
+void Quirra::SetMessage1Text(const QString &singleOrMultiLine)
+{
+    Message1Text(AppendTextLine(Message1Text(), singleOrMultiLine));
+}
+
+void Quirra::SetMessage2Text(const QString &singleOrMultiLine)
+{
+    Message2Text(AppendTextLine(Message2Text(), singleOrMultiLine));
+}
+
+void Quirra::SetReturnText(const QString &singleOrMultiLine)
+{
+    ReturnText(AppendTextLine(ReturnText(), singleOrMultiLine));
+}
+
+void Quirra::SetStampText(const QString &singleOrMultiLine)
+{
+    StampText(AppendTextLine(StampText(), singleOrMultiLine));
+}
+
+// --- The piece ----------------------------------------------------------------
+
+void Quirra::loadPiece(const QString &name)
+{
+    // The name is kept even when the catalogue lacks it and the default
+    // envelope's geometry is taken.
+    LoadPieceByName(name, model());
+}
+
+void Quirra::PieceSelectDialogShow(bool &changed)
+{
+    QString name = PieceName();
+    changed = ShowPieceSelectDialog(this, name);
+    if (!changed)
+        return;
+    const QString master = CatalogueFilePath();
+    PieceSpec entry = ReadPieceSpec(master, name);
+    if (entry.NumAcross < 1)
+        entry = ReadPieceSpec(master, DefaultPieceName);
+    ApplyPiece(entry);
+}
+
+void Quirra::PieceCustomizationDialogShow(bool &changed)
+{
+    const Piece &piece = model().piece;
+    PieceSpec entry;
+    entry.Name = piece.PieceName;
+    entry.MarginTop = piece.PieceMarginTop;
+    entry.MarginSide = piece.PieceMarginLeft;
+    entry.NumAcross = piece.PieceNumAcross;
+    entry.NumDown = piece.PieceNumDown;
+    entry.LabelHeight = piece.PieceHeight;
+    entry.LabelWidth = piece.PieceWidth;
+    entry.PitchHorz = piece.PiecePitchHorz;
+    entry.PitchVert = piece.PiecePitchVert;
+    // The paper goes in as its code; the dialog shows the page size whose
+    // caption matches, or the first one, for the user to choose.
+    entry.PageDesc = QString::number(piece.PageSizeNum);
+    changed = ShowPieceCustomizationDialog(this, entry);
+    if (changed)
+        ApplyPiece(entry);
+}
+
+void Quirra::ApplyPiece(const PieceSpec &entry)
+{
+    PieceName(entry.Name);
+    PieceMarginLeft(entry.MarginSide);
+    PieceMarginTop(entry.MarginTop);
+    PieceNumAcross(entry.NumAcross);
+    PieceNumDown(entry.NumDown);
+    PieceHeight(entry.LabelHeight);
+    PieceWidth(entry.LabelWidth);
+    PiecePitchHorz(entry.PitchHorz);
+    PiecePitchVert(entry.PitchVert);
+    IsCustom(entry.IsCustom ? 1 : 0);
+    PageSize(entry.PageDesc);
+
+    Piece derived = model().piece;
+    DerivePageSetup(derived);
+    PieceOrientation(derived.PieceOrientation);
+    PageSizeNum(derived.PageSizeNum);
+
+    // Choosing or customising a piece always lays the items out afresh.
+    PieceModel &shared = model();
+    DefaultLayout(shared.piece.PieceHeight, shared.piece.PieceWidth, shared.item(ItemId::Address),
+                  shared.item(ItemId::Return), shared.item(ItemId::Stamp),
+                  shared.item(ItemId::Message1), shared.item(ItemId::Message2));
+    notifyPieceChanged();
+    notifyItemsChanged();
+}
+
+void Quirra::notify(const QString &name)
+{
+    Q_EMIT propertyChanged(name);
+}
+
+void Quirra::notifyPieceChanged()
+{
+    for (const QString &name : PieceChangedNames())
+        notify(name);
+}
+
+void Quirra::notifyItemsChanged()
+{
+    for (const QString &name : ItemsChangedNames())
+        notify(name);
+}
+
+// --- Persistence --------------------------------------------------------------
+
+void Quirra::InitProperties()
+{
+    // The set is read afresh before the first value is taken from it.
+    m_defaults = DefaultSet::compute();
+    const QFont ambient = font();
+    for (const PropertyInfo *property : PropertyTable::initialisedInOrder())
+        property->write(*this, property->initialValue(m_defaults, ambient));
+}
+
+void Quirra::ReadProperties(PropertyBag &bag)
+{
+    const QFont ambient = font();
+    for (const PropertyInfo *property : PropertyTable::savedInOrder()) {
+        const QVariant fallback = property->defaultValue(m_defaults, ambient);
+        QVariant value;
+        try {
+            value = bag.read(property->name, fallback);
+        } catch (const std::exception &e) {
+            qCInfo(lcControl).noquote()
+                << "cannot read" << property->name << "-" << e.what() << "- the default is taken";
+            value = fallback;
+        }
+        if (!value.isValid() ||
+            (value.metaType() != property->savedType && !value.convert(property->savedType))) {
+            qCInfo(lcControl).noquote() << "the saved" << property->name
+                                        << "is not a value of its type; the default is taken";
+            value = fallback;
+        }
+        property->write(*this, value);
+    }
+    // Loading the piece gave the address block its placeholder text, and the
+    // address text is never saved: a reopened control starts with an empty
+    // address, as every control does.
+    model().item(ItemId::Address).Text.clear();
+}
+
+void Quirra::WriteProperties(PropertyBag &bag) const
+{
+    const QFont ambient = font();
+    for (const PropertyInfo *property : PropertyTable::savedInOrder())
+        bag.write(property->name, property->read(*this),
+                  property->defaultValue(m_defaults, ambient));
+}
+
+// --- The properties -----------------------------------------------------------
+//
+// One getter and one setter per row of control/properties.def; the kind of
+// row (its "where" column) picks the pair.
+
+#define QUIRRA_PROPERTY(type, name, save, init, defaultValue, initialValue, where, ...)            \
+    QUIRRA_ACCESSORS_##where(type, name, __VA_ARGS__)
+
+#define QUIRRA_SETTER(type, name) void Quirra::name(PropertyArg<type> value)
+#define QUIRRA_NOTIFY(name) notify(QStringLiteral(#name))
+
+#define QUIRRA_ACCESSORS_PANE(type, name, field)                                                   \
+    type Quirra::name() const                                                                      \
+    {                                                                                              \
+        return m_pane->settings().field;                                                           \
+    }                                                                                              \
+    QUIRRA_SETTER(type, name)                                                                      \
+    {                                                                                              \
+        PaneSettings settings = m_pane->settings();                                                \
+        settings.field = value;                                                                    \
+        m_pane->setSettings(settings);                                                             \
+        QUIRRA_NOTIFY(name);                                                                       \
+    }
+
+#define QUIRRA_ACCESSORS_PANE_CLAMPED(type, name, field, lowest, highest)                          \
+    type Quirra::name() const                                                                      \
+    {                                                                                              \
+        return m_pane->settings().field;                                                           \
+    }                                                                                              \
+    QUIRRA_SETTER(type, name)                                                                      \
+    {                                                                                              \
+        PaneSettings settings = m_pane->settings();                                                \
+        settings.field = std::clamp<type>(value, lowest, highest);                                 \
+        m_pane->setSettings(settings);                                                             \
+        QUIRRA_NOTIFY(name);                                                                       \
+    }
+
+#define QUIRRA_ACCESSORS_PIECE_NAME(type, name, field)                                             \
+    type Quirra::name() const                                                                      \
+    {                                                                                              \
+        return model().piece.field;                                                                \
+    }                                                                                              \
+    QUIRRA_SETTER(type, name)                                                                      \
+    {                                                                                              \
+        loadPiece(value);                                                                          \
+        QUIRRA_NOTIFY(name);                                                                       \
+        notifyPieceChanged();                                                                      \
+        notifyItemsChanged();                                                                      \
+    }
+
+#define QUIRRA_ACCESSORS_MODEL(type, name, field)                                                  \
+    type Quirra::name() const                                                                      \
+    {                                                                                              \
+        return model().field;                                                                      \
+    }                                                                                              \
+    QUIRRA_SETTER(type, name)                                                                      \
+    {                                                                                              \
+        model().field = value;                                                                     \
+        QUIRRA_NOTIFY(name);                                                                       \
+    }
+
+#define QUIRRA_ACCESSORS_PIECE(type, name, field)                                                  \
+    type Quirra::name() const                                                                      \
+    {                                                                                              \
+        return model().piece.field;                                                                \
+    }                                                                                              \
+    QUIRRA_SETTER(type, name)                                                                      \
+    {                                                                                              \
+        model().piece.field = value;                                                               \
+        QUIRRA_NOTIFY(name);                                                                       \
+    }
+
+#define QUIRRA_ACCESSORS_ITEM(type, name, itemId, field)                                           \
+    type Quirra::name() const                                                                      \
+    {                                                                                              \
+        return model().item(ItemId::itemId).field;                                                 \
+    }                                                                                              \
+    QUIRRA_SETTER(type, name)                                                                      \
+    {                                                                                              \
+        model().item(ItemId::itemId).field = value;                                                \
+        QUIRRA_NOTIFY(name);                                                                       \
+    }
+
+#define QUIRRA_ACCESSORS_ITEM_FONT(type, name, itemId)                                             \
+    type Quirra::name() const                                                                      \
+    {                                                                                              \
+        return toQFont(model().item(ItemId::itemId).Font);                                         \
+    }                                                                                              \
+    QUIRRA_SETTER(type, name)                                                                      \
+    {                                                                                              \
+        model().item(ItemId::itemId).Font = toItemFont(value);                                     \
+        QUIRRA_NOTIFY(name);                                                                       \
+    }
+
+#define QUIRRA_ACCESSORS_SURFACE(type, name, getter, setter)                                       \
+    type Quirra::name() const                                                                      \
+    {                                                                                              \
+        return type(surface()->getter());                                                          \
+    }                                                                                              \
+    QUIRRA_SETTER(type, name)                                                                      \
+    {                                                                                              \
+        surface()->setter(value);                                                                  \
+        QUIRRA_NOTIFY(name);                                                                       \
+    }
+
+#define QUIRRA_ACCESSORS_INSTANCE(type, name, member)                                              \
+    type Quirra::name() const                                                                      \
+    {                                                                                              \
+        return member;                                                                             \
+    }                                                                                              \
+    QUIRRA_SETTER(type, name)                                                                      \
+    {                                                                                              \
+        member = value;                                                                            \
+        QUIRRA_NOTIFY(name);                                                                       \
+    }
+
+#include "control/properties.def"

@@ -1,0 +1,350 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "control/jsonpropertybag.h"
+
+#include "control/propertytable.h"
+#include "control/quirra.h"
+#include "model/error.h"
+#include "model/piecemodel.h"
+#include "publishedproperties.h"
+#include "records/sharedspool.h"
+#include "render/messagehook.h"
+
+#include <QApplication>
+#include <QJsonArray>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace quirra;
+
+namespace {
+
+const QString ShippingLabels = QStringLiteral("5163 - Shipping Labels");
+
+QStringList savedNames()
+{
+    QStringList names;
+    for (const PublishedProperty &property : SavedProperties)
+        names.append(QLatin1String(property.name));
+    return names;
+}
+
+// Remembers what the control asks for; fails the names it is told to fail.
+class ScriptedBag : public PropertyBag
+{
+public:
+    QStringList reads, writes;
+    QHash<QString, QVariant> answers; // an invalid answer is a failed read
+    QString throwing;
+
+    QVariant read(const QString &name, const QVariant &defaultValue) override
+    {
+        reads.append(name);
+        if (name == throwing)
+            throw Error(QStringLiteral("unreadable"));
+        return answers.value(name, defaultValue);
+    }
+    void write(const QString &name, const QVariant &, const QVariant &) override
+    {
+        writes.append(name);
+    }
+};
+
+} // namespace
+
+class TestPersistence : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+
+    // Saves control into a file and reads it back into a fresh bag.
+    JsonPropertyBag throughFile(const Quirra &control)
+    {
+        JsonPropertyBag bag;
+        control.WriteProperties(bag);
+        const QString path = m_dir.filePath(QStringLiteral("form.json"));
+        bag.save(path);
+        JsonPropertyBag reread;
+        reread.load(path);
+        return reread;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        PieceModel::resetShared();
+        SharedSpool::reset();
+        setMessageHook([](const QString &) {});
+    }
+
+    void cleanup()
+    {
+        setMessageHook({});
+        qDeleteAll(QApplication::topLevelWidgets());
+    }
+
+    void savedInTheirOrder()
+    {
+        QStringList table;
+        for (const PropertyInfo *property : PropertyTable::savedInOrder())
+            table.append(property->name);
+        QCOMPARE(table, savedNames());
+
+        Quirra control;
+        ScriptedBag bag;
+        control.WriteProperties(bag);
+        control.ReadProperties(bag);
+        QCOMPARE(bag.writes, savedNames());
+        QCOMPARE(bag.reads, savedNames());
+    }
+
+    void newControlInitialisedInOrder()
+    {
+        QStringList expected = {"ButtonMaxHeight",      "ButtonPgAdvanceVisible",
+                                "ButtonPrintPgVisible", "ButtonPrintAllVisible",
+                                "TextPgNumberVisible",  "BoarderInside",
+                                "BoarderButtonTop",     "PieceName"};
+        Quirra control;
+        QSignalSpy spy(&control, &Quirra::propertyChanged);
+        control.InitProperties();
+        QCOMPARE(spy.size(), 84 + 74);
+        for (int i = 0; i < 74; ++i) // what PieceName announces besides itself
+            expected.append(spy.at(expected.size()).at(0).toString());
+        expected.append(QStringLiteral("EnvelopeOrientation"));
+        const QStringList group = {"Font",   "Border", "Visible",   "Top",      "Left",
+                                   "Height", "Width",  "HorzAlign", "VertAlign"};
+        const QStringList items = {"Address", "Message1", "Message2", "Return", "Stamp"};
+        for (const QString &field : group)
+            expected.append(QStringLiteral("Address") + field);
+        for (const char *field : {"Wrap", "Text", "LineSpacing"}) {
+            for (const QString &item : items)
+                expected.append(item + field);
+        }
+        for (const QString &item : items.mid(1)) {
+            for (const QString &field : group)
+                expected.append(item + field);
+        }
+        expected += QStringList{
+            "PreviewZoom",    "PieceMarginLeft",  "PieceMarginTop", "PieceHeight", "PieceWidth",
+            "PiecePitchHorz", "PiecePitchVert",   "PrinterLeft",    "PrinterTop",  "PieceNumAcross",
+            "PieceNumDown",   "PieceOrientation", "PageSizeNum",    "PageSize",    "IsCustom"};
+        QStringList names;
+        for (const QList<QVariant> &arguments : spy)
+            names.append(arguments.at(0).toString());
+        QCOMPARE(names, expected);
+    }
+
+    void roundTrip_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::newRow("ButtonMaxHeight") << QVariant(300);
+        QTest::newRow("TextPgNumberVisible") << QVariant(false);
+        QTest::newRow("PieceName") << QVariant(ShippingLabels);
+        QTest::newRow("EnvelopeOrientation") << QVariant(0);
+        QTest::newRow("PreviewZoom") << QVariant(75);
+        QTest::newRow("Message1Font")
+            << QVariant(QFont(QStringLiteral("DejaVu Serif"), 14, QFont::Bold, true));
+        QTest::newRow("StampBorder") << QVariant(0); // a new control's 2 can be undone
+        QTest::newRow("ReturnVisible") << QVariant(false);
+        QTest::newRow("AddressTop") << QVariant(1.3);
+        QTest::newRow("ReturnHorzAlign") << QVariant(1);
+        QTest::newRow("Message2VertAlign") << QVariant(2);
+        QTest::newRow("StampWrap") << QVariant(false);
+        QTest::newRow("ReturnText") << QVariant(QStringLiteral("Acme\r\n1 Way"));
+        QTest::newRow("Message1LineSpacing") << QVariant(150);
+        QTest::newRow("PrinterTop") << QVariant(0.1);
+        QTest::newRow("PieceNumAcross") << QVariant(3);
+        QTest::newRow("PageSize") << QVariant(QStringLiteral("8 1/2 x 14"));
+        QTest::newRow("IsCustom") << QVariant(1);
+        QTest::newRow("Icon1") << QVariant(QStringLiteral("custom"));
+    }
+
+    void roundTrip()
+    {
+        QFETCH(QVariant, value);
+        const char *name = QTest::currentDataTag();
+        JsonPropertyBag bag;
+        QVariant saved;
+        {
+            Quirra original;
+            original.setProperty(name, value);
+            saved = original.property(name);
+            bag = throughFile(original);
+        }
+        PieceModel::resetShared();
+        Quirra reopened;
+        reopened.ReadProperties(bag);
+        if (saved.metaType() == QMetaType::fromType<QFont>())
+            QCOMPARE(reopened.property(name).value<QFont>().toString(),
+                     saved.value<QFont>().toString());
+        else
+            QCOMPARE(reopened.property(name), saved);
+    }
+
+    void newControlSavedAndReopened()
+    {
+        JsonPropertyBag bag;
+        {
+            Quirra original;
+            original.AddressText(QStringLiteral("Set at design time")); // never saved
+            bag = throughFile(original);
+        }
+        // A new control frames its stamp, unlike the saved default; everything
+        // else equals its default and is left out.
+        QCOMPARE(bag.values().keys(), QStringList{QStringLiteral("StampBorder")});
+        Quirra reopened;
+        reopened.StampBorder(0);
+        reopened.ReadProperties(bag);
+        QCOMPARE(reopened.StampBorder(), short(2));
+        QCOMPARE(reopened.AddressText(), QString());
+    }
+
+    void bagWithOnlyThePieceName()
+    {
+        JsonPropertyBag bag;
+        bag.setValues(QJsonObject{{QStringLiteral("PieceName"), ShippingLabels}});
+        Quirra control;
+        control.ReadProperties(bag);
+        // The name stays; the geometry and boxes read after it are the defaults,
+        // the values of "Size 10 - Envelope".
+        QCOMPARE(control.PieceName(), ShippingLabels);
+        const DefaultSet &set = control.defaultSet();
+        QCOMPARE(control.PieceNumDown(), set.piece.PieceNumDown);
+        QCOMPARE(control.PieceWidth(), 9.5f);
+        QCOMPARE(control.ReturnTop(), set.item(ItemId::Return).Top);
+        QCOMPARE(control.StampBorder(), short(0));
+        QCOMPARE(control.ReturnText(), QString());
+        QCOMPARE(control.AddressLineSpacing(), short(100));
+    }
+
+    void readValues_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QJsonValue>("saved");
+        QTest::addColumn<QVariant>("expected"); // invalid: the inherited font
+        QTest::newRow("button-height-clamped")
+            << "ButtonMaxHeight" << QJsonValue(1000) << QVariant(400);
+        QTest::newRow("text-for-a-number")
+            << "ButtonMaxHeight" << QJsonValue("tall") << QVariant(240);
+        QTest::newRow("fraction-for-a-count") << "PieceNumDown" << QJsonValue(2.5) << QVariant(1);
+        QTest::newRow("count-beyond-16-bits")
+            << "PieceNumAcross" << QJsonValue(70000) << QVariant(1);
+        QTest::newRow("text-for-a-flag") << "AddressVisible" << QJsonValue("yes") << QVariant(true);
+        QTest::newRow("number-for-a-text")
+            << "Message1Text" << QJsonValue(5) << QVariant(QString());
+        QTest::newRow("null-for-a-text") << "StampText" << QJsonValue() << QVariant(QString());
+        QTest::newRow("text-for-a-length") << "PrinterLeft" << QJsonValue("wide") << QVariant(0.25);
+        QTest::newRow("length-beyond-float")
+            << "PrinterLeft" << QJsonValue(1e300) << QVariant(0.25);
+        QTest::newRow("name-for-an-enumeration")
+            << "EnvelopeOrientation" << QJsonValue("portrait") << QVariant(1);
+        QTest::newRow("saved-portrait") << "EnvelopeOrientation" << QJsonValue(0) << QVariant(0);
+        QTest::newRow("number-for-a-font") << "AddressFont" << QJsonValue(12) << QVariant();
+        QTest::newRow("empty-font") << "AddressFont" << QJsonValue("") << QVariant();
+    }
+
+    void readValues()
+    {
+        QFETCH(QString, name);
+        QFETCH(QJsonValue, saved);
+        QFETCH(QVariant, expected);
+        JsonPropertyBag bag;
+        // Icon1 is read last: reading goes on after a bad value.
+        bag.setValues(
+            QJsonObject{{name, saved}, {QStringLiteral("Icon1"), QStringLiteral("kept")}});
+        Quirra control;
+        control.setFont(QFont(QStringLiteral("DejaVu Sans Mono"), 11));
+        // Something else than the expected value, so that taking it shows.
+        QVariant other = 7;
+        if (name == QLatin1String("AddressFont"))
+            other = QFont(QStringLiteral("DejaVu Serif"));
+        else if (name == QLatin1String("AddressVisible"))
+            other = false;
+        control.setProperty(name.toLatin1(), other);
+        control.ReadProperties(bag);
+        const QVariant read = control.property(name.toLatin1());
+        if (!expected.isValid()) {
+            QCOMPARE(read.value<QFont>().family(), QStringLiteral("DejaVu Sans Mono"));
+        } else {
+            QVERIFY(expected.convert(read.metaType()));
+            QCOMPARE(read, expected);
+        }
+        QCOMPARE(control.Icon1(), QStringLiteral("kept"));
+    }
+
+    void bagFailuresTakeDefaults()
+    {
+        Quirra control;
+        control.PreviewZoom(80);
+        control.BoarderInside(100);
+        control.PieceNumDown(9);
+        ScriptedBag bag;
+        bag.throwing = QStringLiteral("PreviewZoom");
+        bag.answers.insert(QStringLiteral("BoarderInside"), QVariant());
+        bag.answers.insert(QStringLiteral("PieceNumDown"), QStringLiteral("many"));
+        control.ReadProperties(bag);
+        QCOMPARE(control.PreviewZoom(), short(30));
+        QCOMPARE(control.BoarderInside(), short(60));
+        QCOMPARE(control.PieceNumDown(), control.defaultSet().piece.PieceNumDown);
+        QCOMPARE(bag.reads.size(), 84);
+    }
+
+    void fontsDefaultToTheInheritedFont()
+    {
+        Quirra control;
+        control.setFont(QFont(QStringLiteral("DejaVu Serif"), 15));
+        control.InitProperties();
+        QCOMPARE(control.StampFont().family(), QStringLiteral("DejaVu Serif"));
+        QCOMPARE(control.StampFont().pointSize(), 15);
+        JsonPropertyBag bag;
+        control.WriteProperties(bag);
+        QVERIFY(!bag.values().contains(QStringLiteral("StampFont")));
+        // Against another inherited font the item fonts are no longer defaults.
+        control.setFont(QFont(QStringLiteral("DejaVu Sans"), 11));
+        control.WriteProperties(bag);
+        QVERIFY(bag.values()
+                    .value(QStringLiteral("StampFont"))
+                    .toString()
+                    .startsWith("DejaVu Serif,15"));
+        JsonPropertyBag empty;
+        control.ReadProperties(empty);
+        QCOMPARE(control.StampFont().family(), QStringLiteral("DejaVu Sans"));
+    }
+
+    void fileErrors_data()
+    {
+        QTest::addColumn<QByteArray>("content"); // empty: no file
+        QTest::addColumn<QString>("problem");
+        QTest::newRow("missing-file") << QByteArray() << "Cannot read";
+        QTest::newRow("broken-json") << QByteArray("{\"PieceName\": ") << "not valid JSON";
+        QTest::newRow("array-not-object") << QByteArray("[1, 2]") << "no JSON object";
+    }
+
+    void fileErrors()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, problem);
+        const QString path = m_dir.filePath(QString::fromLatin1(QTest::currentDataTag()));
+        if (!content.isEmpty()) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(content);
+        }
+        JsonPropertyBag bag;
+        bag.setValues(QJsonObject{{QStringLiteral("Icon1"), QStringLiteral("before")}});
+        try {
+            bag.load(path);
+            QFAIL("no error");
+        } catch (const Error &e) {
+            QVERIFY2(e.message().contains(path) && e.message().contains(problem),
+                     qPrintable(e.message()));
+        }
+        QCOMPARE(bag.values().value(QStringLiteral("Icon1")).toString(), QStringLiteral("before"));
+        QVERIFY_THROWS_EXCEPTION(Error, bag.save(QStringLiteral("/quirra-no-such-dir/form.json")));
+    }
+};
+
+QTEST_MAIN(TestPersistence)
+#include "tst_persistence.moc"

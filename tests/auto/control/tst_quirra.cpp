@@ -1,0 +1,536 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "control/quirra.h"
+
+#include "catalogue/piecespec.h"
+#include "control/previewpane.h"
+#include "model/error.h"
+#include "model/piecemodel.h"
+#include "pdfprobe.h"
+#include "publishedproperties.h"
+#include "records/record.h"
+#include "records/sharedspool.h"
+#include "render/messagehook.h"
+#include "surface/printsurface.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMetaProperty>
+#include <QPrinter>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <memory>
+
+using namespace quirra;
+
+namespace {
+
+const QString ShippingLabels = QStringLiteral("5163 - Shipping Labels"); // 2 x 5, 4 x 2 inches
+
+QStringList emitted(const QSignalSpy &spy)
+{
+    QStringList names;
+    for (const QList<QVariant> &arguments : spy)
+        names.append(arguments.at(0).toString());
+    return names;
+}
+
+// A whole new piece is announced by the piece's fourteen names (short forms
+// among them), then every item field, items in Address, Return, Stamp,
+// Message1, Message2 order.
+QStringList pieceAndItemNames()
+{
+    QStringList names = {"IsCustom",    "MarginLeft", "MarginTop",   "NumAcross",   "NumDown",
+                         "Orientation", "PageSize",   "PageSizeNum", "PieceHeight", "PieceWidth",
+                         "PitchHorz",   "PitchVert",  "PrinterLeft", "PrinterTop"};
+    for (const char *item : {"Address", "Return", "Stamp", "Message1", "Message2"}) {
+        for (const char *field : {"Border", "Font", "Height", "HorzAlign", "Left", "LineSpacing",
+                                  "Text", "Top", "VertAlign", "Visible", "Width", "Wrap"})
+            names.append(QLatin1String(item) + QLatin1String(field));
+    }
+    return names;
+}
+
+// The spool's record lines, each as its list of values; headers counted apart.
+QList<QStringList> spooled(int *headers)
+{
+    QFile file(SharedSpool::instance().spoolPath());
+    if (!file.open(QIODevice::ReadOnly))
+        return {{QStringLiteral("<no spool>")}};
+    QList<QStringList> records;
+    *headers = 0;
+    const QString text = QString::fromUtf8(file.readAll());
+    for (const QString &line : text.split(QStringLiteral("\r\n"), Qt::SkipEmptyParts)) {
+        if (line == Record::spoolHeaderLine())
+            ++*headers;
+        else
+            records.append(line.mid(1, line.size() - 2).split(QStringLiteral("\",\"")));
+    }
+    return records;
+}
+
+void feed(Quirra &control, const QStringList &firstNames)
+{
+    for (const QString &name : firstNames) {
+        control.ClearPiece();
+        control.FirstName(name);
+        control.LastName(QStringLiteral("Smith"));
+        control.Address1(QStringLiteral("1 Main St"));
+        control.Substitute(QStringLiteral("who^") + name);
+        control.NewPiece();
+    }
+}
+
+} // namespace
+
+class TestQuirra : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    QStringList m_messages;
+
+private Q_SLOTS:
+    void init()
+    {
+        PieceModel::resetShared();
+        SharedSpool::reset();
+        m_messages.clear();
+        setMessageHook([this](const QString &text) { m_messages.append(text); });
+    }
+
+    void cleanup()
+    {
+        setMessageHook({});
+        qDeleteAll(QApplication::topLevelWidgets());
+    }
+
+    void properties_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QVariant>("value"); // as a host script passes it
+        auto add = [](const PublishedProperty &property) {
+            const QString type = QLatin1String(property.type);
+            QVariant value = 2; // an enumeration by number: haRight, vaBottom
+            if (type == QLatin1String("short"))
+                value = 123;
+            else if (type == QLatin1String("float"))
+                value = 1.75;
+            else if (type == QLatin1String("bool"))
+                value = false; // every flag starts true
+            else if (type == QLatin1String("QString"))
+                value = QStringLiteral("Sample text");
+            else if (type == QLatin1String("QFont"))
+                value = QFont(QStringLiteral("DejaVu Serif"), 13, QFont::Bold, true);
+            else if (type == QLatin1String("quirra::eEnvOrient"))
+                value = 0;
+            QTest::newRow(property.name) << type << value;
+        };
+        for (const PublishedProperty &property : SavedProperties)
+            add(property);
+        for (const PublishedProperty &property : UnsavedProperties)
+            add(property);
+    }
+
+    void properties()
+    {
+        QFETCH(QString, type);
+        QFETCH(QVariant, value);
+        const QByteArray name = QTest::currentDataTag();
+
+        Quirra control;
+        const int index = control.metaObject()->indexOfProperty(name);
+        QVERIFY2(index >= 0, "not a property");
+        const QMetaProperty property = control.metaObject()->property(index);
+        QCOMPARE(QString::fromLatin1(property.typeName()), type);
+
+        QSignalSpy spy(&control, &Quirra::propertyChanged);
+        QVERIFY(control.setProperty(name, value));
+        const QStringList names = emitted(spy);
+        QVERIFY(!names.isEmpty());
+        QCOMPARE(names.first(), QString::fromLatin1(name));
+        // Only the piece's name announces more: the whole piece and its items.
+        QCOMPARE(names.size(), name == "PieceName" ? 75 : 1);
+
+        const QVariant read = control.property(name);
+        QCOMPARE(QString::fromLatin1(read.metaType().name()), type);
+        if (type == QLatin1String("QFont")) {
+            const QFont font = read.value<QFont>();
+            QCOMPARE(font.family(), QStringLiteral("DejaVu Serif"));
+            QCOMPARE(font.pointSize(), 13);
+            QVERIFY(font.bold() && font.italic() && !font.underline());
+        } else if (property.isEnumType()) {
+            QCOMPARE(read.toInt(), value.toInt());
+        } else {
+            QVERIFY(value.convert(read.metaType()));
+            QCOMPARE(read, value);
+        }
+    }
+
+    void clamps_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<int>("value");
+        QTest::addColumn<int>("stored");
+        QTest::newRow("button-height-below-range") << QByteArray("ButtonMaxHeight") << 10 << 50;
+        QTest::newRow("button-height-within") << QByteArray("ButtonMaxHeight") << 200 << 200;
+        QTest::newRow("button-height-above-range") << QByteArray("ButtonMaxHeight") << 1000 << 400;
+        QTest::newRow("inside-border-negative") << QByteArray("BoarderInside") << -5 << 0;
+        QTest::newRow("inside-border-above-range") << QByteArray("BoarderInside") << 401 << 400;
+        QTest::newRow("button-top-negative") << QByteArray("BoarderButtonTop") << -5 << 0;
+        QTest::newRow("button-top-highest") << QByteArray("BoarderButtonTop") << 300 << 300;
+        QTest::newRow("button-top-above-range") << QByteArray("BoarderButtonTop") << 1000 << 300;
+    }
+
+    void clamps()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(int, value);
+        QFETCH(int, stored);
+        Quirra control;
+        control.setProperty(name, value);
+        QCOMPARE(control.property(name).toInt(), stored);
+        // The pane was laid out with the value kept.
+        const PaneSettings &pane = control.findChild<PreviewPane *>()->settings();
+        QCOMPARE(name == "ButtonMaxHeight" ? pane.ButtonMaxHeight
+                 : name == "BoarderInside" ? pane.BoarderInside
+                                           : pane.BoarderButtonTop,
+                 short(stored));
+    }
+
+    void pieceName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QList<float>>(
+            "geometry"); // across, down, width, height, paper, orientation
+        QTest::newRow("label-sheet") << ShippingLabels << QList<float>{2, 5, 4, 2, 1, 0};
+        QTest::newRow("unknown-name-takes-envelope-keeps-name")
+            << "No Such Piece" << QList<float>{1, 1, 9.5f, 4.125f, 20, 1};
+    }
+
+    void pieceName()
+    {
+        QFETCH(QString, name);
+        QFETCH(QList<float>, geometry);
+        Quirra control;
+        control.AddressTop(3.0f);
+        QSignalSpy spy(&control, &Quirra::propertyChanged);
+        control.PieceName(name);
+
+        QCOMPARE(emitted(spy), QStringList{QStringLiteral("PieceName")} + pieceAndItemNames());
+        QCOMPARE(control.PieceName(), name);
+        const QList<float> read = {float(control.PieceNumAcross()),
+                                   float(control.PieceNumDown()),
+                                   control.PieceWidth(),
+                                   control.PieceHeight(),
+                                   float(control.PageSizeNum()),
+                                   float(control.PieceOrientation())};
+        QCOMPARE(read, geometry);
+        // The items were laid out for the piece: the address lies inside it.
+        QVERIFY(control.AddressTop() + control.AddressHeight() <= control.PieceHeight());
+    }
+
+    void applyPiece()
+    {
+        Quirra control;
+        PieceSpec entry{ShippingLabels,
+                        QStringLiteral("8 1/2 x 14"),
+                        0,
+                        0,
+                        0.5f,
+                        0.25f,
+                        2.5f,
+                        4.0f,
+                        2.25f,
+                        3.75f,
+                        2,
+                        5,
+                        true};
+        control.AddressLineSpacing(150);
+        QSignalSpy spy(&control, &Quirra::propertyChanged);
+        control.ApplyPiece(entry);
+
+        // The entry's geometry wins over the catalogue's record of the same name;
+        // the orientation and paper follow from it ("14": legal, taller than wide).
+        const QList<float> read = {control.PieceWidth(),
+                                   control.PieceHeight(),
+                                   control.PiecePitchVert(),
+                                   control.PieceMarginLeft(),
+                                   float(control.IsCustom()),
+                                   float(control.PageSizeNum()),
+                                   float(control.PieceOrientation())};
+        QCOMPARE(read, (QList<float>{3.75f, 2.25f, 2.5f, 0.25f, 1, 5, 0}));
+        QCOMPARE(control.PageSize(), entry.PageDesc);
+        // The items were laid out afresh for a 3.75 x 2.25 inch piece.
+        QCOMPARE(control.AddressWidth(), 3.0f);
+        QVERIFY(control.AddressLineSpacing() != 150);
+        const QStringList setters = {"PieceMarginLeft", "PieceMarginTop",   "PieceNumAcross",
+                                     "PieceNumDown",    "PieceHeight",      "PieceWidth",
+                                     "PiecePitchHorz",  "PiecePitchVert",   "IsCustom",
+                                     "PageSize",        "PieceOrientation", "PageSizeNum"};
+        QCOMPARE(emitted(spy).mid(75), setters + pieceAndItemNames());
+    }
+
+    void twoControlsShareLayoutAndSpool()
+    {
+        auto first = std::make_unique<Quirra>();
+        const QString firstSpool = SharedSpool::instance().spoolPath();
+        Quirra second;
+        const QString secondSpool = SharedSpool::instance().spoolPath();
+        QVERIFY(!firstSpool.isEmpty() && secondSpool != firstSpool);
+
+        first->AddressTop(1.25f);
+        QCOMPARE(second.AddressTop(), 1.25f);
+        // Both feed the newest spool file, and ending either removes it.
+        feed(*first, {QStringLiteral("Ann")});
+        first->EndDoc();
+        int headers = 0;
+        QCOMPARE(spooled(&headers).size(), 1);
+        first.reset();
+        QVERIFY(!QFile::exists(secondSpool));
+        QVERIFY(!QFile::exists(firstSpool));
+    }
+
+    void spoolRemovedWithControl_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::newRow("fresh-control") << "";
+        QTest::newRow("document-still-open") << "open";
+        QTest::newRow("after-a-failed-preview") << "failed-preview";
+        QTest::newRow("after-a-failed-print") << "failed-print";
+        QTest::newRow("after-a-failed-write") << "failed-write";
+    }
+
+    void spoolRemovedWithControl()
+    {
+        QFETCH(QString, before);
+        auto control = std::make_unique<Quirra>();
+        const QString path = SharedSpool::instance().spoolPath();
+        const QString folder = path + QStringLiteral(".d");
+        if (before == QLatin1String("open")) {
+            feed(*control, {QStringLiteral("Ann"), QStringLiteral("Bob")});
+        } else if (before.startsWith(QLatin1String("failed-p"))) {
+            // No piece across cannot be laid out: the run's failure is the method's.
+            control->printer()->setOutputFileName(m_dir.filePath(QStringLiteral("failed.pdf")));
+            feed(*control, {QStringLiteral("Ann")});
+            control->PieceNumAcross(0);
+            if (before == QLatin1String("failed-print"))
+                QVERIFY_THROWS_EXCEPTION(Error, control->PrintNow());
+            else
+                QVERIFY_THROWS_EXCEPTION(Error, control->PreviewNow());
+        } else if (before == QLatin1String("failed-write")) {
+            QVERIFY(QDir().mkpath(folder)); // a folder cannot be written as a file
+            SharedSpool::instance().setSpoolPath(folder);
+            QVERIFY_THROWS_EXCEPTION(Error, control->StartDoc());
+            QVERIFY(QDir().rmdir(folder));
+            SharedSpool::instance().setSpoolPath(path);
+            feed(*control, {QStringLiteral("Ann")});
+        }
+        QVERIFY(QFile::exists(path));
+        control.reset();
+        QVERIFY(!QFile::exists(path));
+    }
+
+    void restartMakesAFreshSpool()
+    {
+        Quirra control;
+        const QString first = SharedSpool::instance().spoolPath();
+        feed(control, {QStringLiteral("Ann")});
+        control.AddressText(QStringLiteral("Left over"));
+        control.PrinterLeft(1.0f);
+        control.UserControl_Initialize();
+        const QString second = SharedSpool::instance().spoolPath();
+        QVERIFY(second != first && QFile::exists(second) && !QFile::exists(first));
+        QCOMPARE(control.AddressText(), QString());
+        QCOMPARE(control.PrinterLeft(), 0.25f);
+        // The restarted control has no document: the next record begins one.
+        feed(control, {QStringLiteral("Bob")});
+        control.EndDoc();
+        int headers = 0;
+        QCOMPARE(spooled(&headers).value(0).value(0), QStringLiteral("Bob"));
+        QCOMPARE(headers, 1);
+    }
+
+    void spoolStates_data()
+    {
+        QTest::addColumn<QString>("steps"); // S StartDoc, N NewPiece, E EndDoc
+        QTest::addColumn<QStringList>("records");
+        QTest::newRow("new-piece-starts-a-document") << "N" << QStringList{"R1"};
+        QTest::newRow("end-then-new-piece-appends") << "SNEN" << QStringList{"R1", "R2"};
+        QTest::newRow("start-while-open-keeps-records") << "SNSN" << QStringList{"R1", "R2"};
+        QTest::newRow("start-after-end-begins-afresh") << "SNNESN" << QStringList{"R3"};
+        QTest::newRow("empty-document") << "SE" << QStringList{};
+    }
+
+    void spoolStates()
+    {
+        QFETCH(QString, steps);
+        QFETCH(QStringList, records);
+        Quirra control;
+        int count = 0;
+        for (QChar step : steps) {
+            if (step == QLatin1Char('S'))
+                control.StartDoc();
+            else if (step == QLatin1Char('E'))
+                control.EndDoc();
+            else
+                feed(control, {QStringLiteral("R%1").arg(++count)});
+        }
+        control.EndDoc();
+        int headers = 0;
+        QStringList firstNames;
+        for (const QStringList &values : spooled(&headers))
+            firstNames.append(values.value(0));
+        QCOMPARE(firstNames, records);
+        QCOMPARE(headers, 1);
+    }
+
+    void recordSettersByName_data()
+    {
+        QTest::addColumn<int>("column");
+        const char *setters[] = {"FirstName", "MiddleName", "LastName", "Address1",
+                                 "Address2",  "city",       "State",    "zip"};
+        for (int column = 0; column < 8; ++column)
+            QTest::newRow(setters[column]) << column;
+        QTest::newRow("Substitute") << 10;
+    }
+
+    void recordSettersByName()
+    {
+        QFETCH(int, column);
+        Quirra control;
+        QVERIFY(QMetaObject::invokeMethod(&control, QTest::currentDataTag(),
+                                          Q_ARG(QString, QStringLiteral("  Value of it  "))));
+        control.NewPiece();
+        control.ClearPiece();
+        control.NewPiece();
+        control.EndDoc();
+        int headers = 0;
+        QStringList expected(RecordFieldCount, QString());
+        expected[column] = QStringLiteral("Value of it"); // without its blanks
+        QCOMPARE(spooled(&headers),
+                 (QList<QStringList>{expected, QStringList(RecordFieldCount, QString())}));
+    }
+
+    void previewPages_data()
+    {
+        QTest::addColumn<int>("across");
+        QTest::addColumn<int>("records");
+        QTest::addColumn<bool>("endDocFirst");
+        QTest::addColumn<int>("pages");
+        QTest::newRow("six-fill-a-three-by-two-sheet") << 3 << 6 << true << 1;
+        QTest::newRow("seven-need-a-second-sheet") << 3 << 7 << true << 2;
+        QTest::newRow("spool-left-open-is-closed-first") << 3 << 7 << false << 2;
+        QTest::newRow("envelopes-one-a-page") << 1 << 3 << false << 3;
+    }
+
+    void previewPages()
+    {
+        QFETCH(int, across);
+        QFETCH(int, records);
+        QFETCH(bool, endDocFirst);
+        QFETCH(int, pages);
+        Quirra control;
+        if (across > 1) {
+            control.PieceName(ShippingLabels);
+            control.PieceNumAcross(short(across));
+            control.PieceNumDown(2);
+        }
+        control.Message1Text(QStringLiteral("For <<who>>"));
+        QStringList names;
+        for (int i = 1; i <= records; ++i)
+            names.append(QStringLiteral("R%1").arg(i));
+        const QString address = control.AddressText();
+        feed(control, names);
+        if (endDocFirst)
+            control.EndDoc();
+        for (int run = 0; run < 2; ++run) { // a second preview shows the same document
+            control.PreviewNow();
+            QCOMPARE(control.surface()->pageCount(), pages);
+            QCOMPARE(control.findChild<QLabel *>(QStringLiteral("mc_pg_lbl"))->text(),
+                     QStringLiteral("Page 1 of %1").arg(pages));
+        }
+        // The run filled the items per record and put the templates back.
+        QCOMPARE(control.Message1Text(), QStringLiteral("For <<who>>"));
+        QCOMPARE(control.AddressText(), address);
+        QVERIFY(m_messages.isEmpty());
+    }
+
+    void printToPdf_data()
+    {
+        QTest::addColumn<float>("printerOffset");
+        QTest::newRow("quarter-inch-printer-offsets") << 0.25f;
+        QTest::newRow("half-inch-printer-offsets") << 0.5f;
+    }
+
+    void printToPdf()
+    {
+        QFETCH(float, printerOffset);
+        Quirra control;
+        control.PrinterLeft(printerOffset);
+        control.PrinterTop(printerOffset);
+        const QString pdf = m_dir.filePath(QString::fromLatin1(QTest::currentDataTag()) + ".pdf");
+        control.printer()->setOutputFileName(pdf);
+        const QStringList names = {"Ann", "Bob", "Cyd"};
+        feed(control, names);
+        control.PrintNow();
+        QVERIFY(m_messages.isEmpty());
+
+        // A landscape No. 10 envelope a page, in points.
+        QCOMPARE(pdfprobe::pageSizes(pdf), QList<QSizeF>(3, QSizeF(684, 297)));
+        const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
+        for (int page = 1; page <= 3; ++page) {
+            const auto it = std::find_if(words.begin(), words.end(), [&](const auto &word) {
+                return word.page == page && word.text == names[page - 1];
+            });
+            QVERIFY2(it != words.end(), qPrintable(names[page - 1]));
+            // On the envelope where the layout puts it, whatever the printer cannot reach.
+            QVERIFY2(qAbs(it->box.left() - control.AddressLeft() * 72) < 2.0,
+                     qPrintable(QString::number(it->box.left())));
+            QVERIFY(it->box.top() > control.AddressTop() * 72 - 1.0);
+            QVERIFY(it->box.top() < (control.AddressTop() + control.AddressHeight()) * 72);
+        }
+    }
+
+    void printerErrorShown_data()
+    {
+        QTest::addColumn<bool>("hostHook");
+        QTest::newRow("through-the-hosts-hook") << true;
+        QTest::newRow("in-a-message-box-without-a-hook") << false;
+    }
+
+    void printerErrorShown()
+    {
+        QFETCH(bool, hostHook);
+        if (!hostHook)
+            setMessageHook({});
+        Quirra control;
+        control.printer()->setOutputFileName(QStringLiteral("/quirra-no-such-dir/out.pdf"));
+        feed(control, {QStringLiteral("Ann")});
+        QString title;
+        QTimer poll; // takes the box's text and closes it, so nothing waits for a user
+        connect(&poll, &QTimer::timeout, this, [&] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                title = box->windowTitle();
+                m_messages.append(box->text());
+                box->accept();
+            }
+        });
+        poll.start(10);
+        control.PrintNow();
+        QCOMPARE(m_messages.size(), 1);
+        QVERIFY2(m_messages.first().startsWith(QStringLiteral("Ptr.error = ")),
+                 qPrintable(m_messages.first()));
+        QVERIFY(m_messages.first().mid(12).toInt() != 0);
+        QCOMPARE(title, hostHook ? QString() : QCoreApplication::applicationName());
+        QCOMPARE(hasMessageHook(), hostHook); // the box is only borrowed for the run
+    }
+};
+
+QTEST_MAIN(TestQuirra)
+#include "tst_quirra.moc"
