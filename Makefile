@@ -9,7 +9,7 @@ TYPE     ?= RelWithDebInfo
 JOBS     ?= 2
 DEMO_OUT ?= $(BUILD)/demo
 
-.PHONY: all deps configure build test demo bench clean
+.PHONY: all deps configure build test install-test demo bench clean
 
 all: build
 
@@ -26,6 +26,11 @@ build: configure
 
 test: build
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+
+# Installs the library into a fresh prefix and builds examples/host against
+# it (also part of `make test`).
+install-test: build
+	cd $(BUILD) && ctest -R installed_host --output-on-failure
 
 demo: build
 	./scripts/demo $(BUILD) $(DEMO_OUT)

@@ -54,6 +54,7 @@ bool AddressColumns::setHeader(const QStringList &header, QString *error)
     m_columns.clear();
     bool anyAddressField = false;
     QHash<int, QString> taken;
+    QHash<QString, int> entryNames;
     for (const QString &raw : header) {
         Column column;
         column.name = raw.trimmed();
@@ -71,12 +72,24 @@ bool AddressColumns::setHeader(const QStringList &header, QString *error)
                 anyAddressField = true;
         } else if (column.name.isEmpty()) {
             // An unnamed column cannot be reached by a token; it is left out.
-        } else if (column.name.contains(QLatin1Char('^')) || column.name.contains(QLatin1Char('|'))
-                   || !describeProblem(column.name).isEmpty()) {
-            *error = QStringLiteral("the column name \"%1\" cannot be used as a substitution name "
-                                    "(it holds ^, |, a quote or a line break); rename it")
+        } else if (column.name.contains(QLatin1Char('^')) ||
+                   column.name.contains(QLatin1Char('|')) ||
+                   !describeProblem(column.name).isEmpty()) {
+            *error = QStringLiteral("column %1: the name \"%2\" cannot be used as a substitution "
+                                    "name (it holds ^, |, a quote or a line break); rename it")
+                         .arg(m_columns.size() + 1)
                          .arg(column.name);
             return false;
+        } else if (entryNames.contains(column.name)) {
+            // Tokens match names exactly, so a second column of the same name
+            // could never be reached.
+            *error = QStringLiteral("columns %1 and %2 are both named \"%3\"; rename one of them")
+                         .arg(entryNames.value(column.name))
+                         .arg(m_columns.size() + 1)
+                         .arg(column.name);
+            return false;
+        } else {
+            entryNames.insert(column.name, int(m_columns.size()) + 1);
         }
         m_columns.append(column);
     }
@@ -92,7 +105,8 @@ bool AddressColumns::mapRow(const QStringList &row, AddressRow &out, QString *er
 {
     if (row.size() != m_columns.size()) {
         *error = QStringLiteral("the row has %1 fields but the header has %2; check for a "
-                                "missing or extra comma")
+                                "missing or extra comma, or a value with a comma that needs "
+                                "double quotes")
                      .arg(row.size())
                      .arg(m_columns.size());
         return false;
@@ -104,8 +118,9 @@ bool AddressColumns::mapRow(const QStringList &row, AddressRow &out, QString *er
         const QString &value = row.at(i);
         const QString problem = describeProblem(value);
         if (!problem.isEmpty()) {
-            *error = QStringLiteral("column \"%1\" %2, which a printed record cannot carry; "
-                                    "remove it from the value")
+            *error = QStringLiteral("column %1 (\"%2\") %3, which a printed record cannot "
+                                    "carry; remove it from the value")
+                         .arg(i + 1)
                          .arg(column.name, problem);
             return false;
         }
@@ -113,8 +128,9 @@ bool AddressColumns::mapRow(const QStringList &row, AddressRow &out, QString *er
             out.fields[column.field] = value;
         } else if (!column.name.isEmpty()) {
             if (value.contains(QLatin1Char('|'))) {
-                *error = QStringLiteral("column \"%1\" holds a |, which separates substitution "
-                                        "entries; remove it from the value")
+                *error = QStringLiteral("column %1 (\"%2\") holds a |, which separates "
+                                        "substitution entries; remove it from the value")
+                             .arg(i + 1)
                              .arg(column.name);
                 return false;
             }

@@ -10,23 +10,31 @@ namespace {
 constexpr qint64 ChunkBytes = 64 * 1024;
 } // namespace
 
-CsvReader::CsvReader(QIODevice *device)
-    : m_device(device)
+CsvReader::CsvReader(QIODevice *device) : m_device(device) {}
+
+bool CsvReader::ensure(qsizetype count)
 {
+    while (m_buffer.size() - m_pos < count) {
+        if (m_eof)
+            return false;
+        const QByteArray more = m_device->read(ChunkBytes);
+        if (more.isEmpty()) {
+            m_eof = true;
+            return false;
+        }
+        // Keep only what is still unread: the buffer never grows past one
+        // chunk plus the few bytes of a look-ahead.
+        m_consumed += m_pos;
+        m_buffer = m_buffer.mid(m_pos) + more;
+        m_pos = 0;
+    }
+    return true;
 }
 
 int CsvReader::peek()
 {
-    if (m_pos >= m_buffer.size()) {
-        if (m_eof)
-            return -1;
-        m_buffer = m_device->read(ChunkBytes);
-        m_pos = 0;
-        if (m_buffer.isEmpty()) {
-            m_eof = true;
-            return -1;
-        }
-    }
+    if (m_pos >= m_buffer.size() && !ensure(1))
+        return -1;
     return static_cast<unsigned char>(m_buffer.at(m_pos));
 }
 
@@ -47,6 +55,20 @@ bool CsvReader::fail(const QString &what)
     return false;
 }
 
+bool CsvReader::appendField(QStringList &fields, QByteArray &field)
+{
+    m_decoder.resetState();
+    QString text = m_decoder.decode(field);
+    if (m_decoder.hasError()) {
+        return fail(QStringLiteral("column %1: the text is not UTF-8 (a spreadsheet's \"CSV\" in "
+                                   "a legacy code page?); save the file as \"CSV UTF-8\"")
+                        .arg(fields.size() + 1));
+    }
+    fields.append(std::move(text));
+    field.clear();
+    return true;
+}
+
 bool CsvReader::readRow(QStringList &fields)
 {
     fields.clear();
@@ -54,8 +76,9 @@ bool CsvReader::readRow(QStringList &fields)
         return false;
     if (!m_started) {
         m_started = true;
-        // A byte-order mark is no part of the first column's name.
-        if (peek() == 0xEF && m_buffer.mid(m_pos, 3) == QByteArray("\xEF\xBB\xBF"))
+        // A byte-order mark is no part of the first column's name. The three
+        // bytes may arrive in separate reads from a pipe.
+        if (ensure(3) && m_buffer.mid(m_pos, 3) == QByteArray("\xEF\xBB\xBF"))
             m_pos += 3;
     }
     if (peek() < 0)
@@ -63,23 +86,24 @@ bool CsvReader::readRow(QStringList &fields)
 
     m_rowLine = m_line;
     QByteArray field;
-    bool quoted = false;      // the field began with a quote
-    bool afterQuote = false;  // the closing quote of a quoted field was read
+    bool quoted = false;     // the field began with a quote
+    bool afterQuote = false; // the closing quote of a quoted field was read
     auto finishField = [&] {
-        fields.append(QString::fromUtf8(field));
-        field.clear();
         quoted = false;
         afterQuote = false;
+        return appendField(fields, field);
     };
 
     for (;;) {
         const int c = next();
         if (c < 0) {
             if (quoted && !afterQuote)
-                return fail(QStringLiteral("a quoted field that began on line %1 is never "
-                                           "closed; add the closing double quote")
+                return fail(QStringLiteral("column %1: a quoted field that began on line %2 is "
+                                           "never closed; add the closing double quote")
+                                .arg(fields.size() + 1)
                                 .arg(m_rowLine));
-            finishField();
+            if (!finishField())
+                return false;
             ++m_rows;
             return true;
         }
@@ -92,17 +116,19 @@ bool CsvReader::readRow(QStringList &fields)
                     afterQuote = true;
                 }
             } else {
-                if (c == '\n')
+                if (c == '\n' || (c == '\r' && peek() != '\n'))
                     ++m_line;
                 field.append(char(c));
             }
         } else if (c == ',') {
-            finishField();
+            if (!finishField())
+                return false;
         } else if (c == '\r' || c == '\n') {
             if (c == '\r' && peek() == '\n')
                 next();
+            if (!finishField())
+                return false;
             ++m_line;
-            finishField();
             ++m_rows;
             return true;
         } else if (afterQuote) {

@@ -1,223 +1,354 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
 //
-// quirra: the command-line host. Feeds the records of a CSV file to the
-// spool and prints them, or lists the catalogue.
-#include "addresscolumns.h"
-#include "csvreader.h"
+// quirra: the command-line host. Feeds the records of a CSV file to a Quirra
+// control and prints them, writes them to a PDF file, or previews them in a
+// window; lists the catalogue.
+#include "interruptcleanup.h"
+#include "pdfoutput.h"
+#include "previewwindow.h"
+#include "progressbar.h"
+#include "recordfeed.h"
+#include "runoptions.h"
+#include "spoolprogress.h"
 
 #include "catalogue/catalogue.h"
-#include "catalogue/pieceloader.h"
+#include "catalogue/piecespec.h"
+#include "control/quirra.h"
 #include "model/error.h"
-#include "model/piecemodel.h"
-#include "records/record.h"
 #include "records/sharedspool.h"
-#include "records/spoolwriter.h"
 #include "render/messagehook.h"
-#include "render/pdfexport.h"
 #include "settings/files.h"
+#include "surface/printsurface.h"
 
+#include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
-#include <QFileInfo>
-#include <QGuiApplication>
-#include <QTextStream>
+#include <QLoggingCategory>
+#include <QPrinter>
+#include <QPrinterInfo>
 
 #include <cstdio>
+#include <memory>
+#include <optional>
 #include <unistd.h>
 
 using namespace quirra;
 
 namespace {
 
-QTextStream &err()
+// Every message goes through C's stderr, as the progress bar does, so the
+// two never overtake each other.
+void say(const QString &line)
 {
-    static QTextStream stream(stderr);
-    return stream;
+    const QByteArray bytes = line.toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stderr);
+    std::fflush(stderr);
 }
 
-QTextStream &out()
+void print(const QString &line)
 {
-    static QTextStream stream(stdout);
-    return stream;
+    const QByteArray bytes = line.toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
 }
 
 int usage()
 {
-    err() << "usage: quirra print [--piece NAME] --pdf OUT.pdf [CSV | -]\n"
-             "       quirra pieces [--product NAME]\n"
-             "Run 'quirra COMMAND --help' for the options of a command.\n";
-    err().flush();
+    say(QStringLiteral(
+        "usage: quirra print [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]...\n"
+        "                    [--pdf OUT.pdf | --printer NAME] [--progress] [CSV | -]\n"
+        "       quirra preview [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]... "
+        "[CSV | -]\n"
+        "       quirra pieces [--product NAME]\n"
+        "Run 'quirra COMMAND --help' for the options of a command."));
     return 2;
 }
 
-// Removes the spool file however the command ends.
-class SpoolFile
+/**
+ * Parses a command's arguments; prints help or the mistake. Returns the exit
+ * status to end with, or nothing when the command goes on.
+ */
+std::optional<int> parseArguments(QCommandLineParser &parser, const QStringList &arguments,
+                                  const QString &command)
+{
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    const QCommandLineOption help = parser.addHelpOption();
+    if (!parser.parse(arguments)) {
+        say(QStringLiteral("quirra %1: %2\nRun 'quirra %1 --help' for its options.")
+                .arg(command, parser.errorText()));
+        return 2;
+    }
+    if (parser.isSet(help)) {
+        // The parser names the program by its path alone.
+        QString text = parser.helpText();
+        const qsizetype lineEnd = text.indexOf(QLatin1Char('\n'));
+        const QString usage = text.left(lineEnd);
+        const qsizetype options = usage.indexOf(QLatin1String(" ["));
+        text.replace(0, options < 0 ? lineEnd : options,
+                     QStringLiteral("Usage: quirra ") + command);
+        print(text.trimmed());
+        return 0;
+    }
+    return std::nullopt;
+}
+
+bool wantProgress(RunOptions::Progress progress)
+{
+    switch (progress) {
+    case RunOptions::Progress::On:
+        return true;
+    case RunOptions::Progress::Off:
+        return false;
+    case RunOptions::Progress::Auto:
+        break;
+    }
+    return isatty(STDERR_FILENO);
+}
+
+// The feed's progress: records so far, and how much of the file that is.
+RecordFeed::Progress feedProgress(ProgressBar *bar, const RecordFeed &feed)
+{
+    if (!bar)
+        return {};
+    const qint64 size = feed.sourceSize();
+    return [bar, size](qint64 records, qint64 bytes) {
+        const double fraction = size > 0 ? double(bytes) / double(size) : -1;
+        bar->update(QStringLiteral("reading"), fraction, QStringLiteral("%1 records").arg(records));
+        return true;
+    };
+}
+
+// Where the printed pages go; checked before any record is read.
+bool chooseDestination(const RunOptions &options, std::unique_ptr<PdfOutput> &pdf,
+                       QString *printerName, QString *error)
+{
+    if (!options.pdfPath.isEmpty()) {
+        pdf = std::make_unique<PdfOutput>(options.pdfPath);
+        return pdf->open(error);
+    }
+    if (!options.printerName.isEmpty()) {
+        if (QPrinterInfo::printerInfo(options.printerName).isNull()) {
+            const QStringList names = QPrinterInfo::availablePrinterNames();
+            *error = QStringLiteral("there is no printer named \"%1\"; %2; --pdf OUT.pdf writes "
+                                    "a PDF file instead")
+                         .arg(options.printerName, names.isEmpty()
+                                                       ? QStringLiteral("no printer is set up here")
+                                                       : QStringLiteral("the printers are: ") +
+                                                             names.join(QStringLiteral(", ")));
+            return false;
+        }
+        *printerName = options.printerName;
+        return true;
+    }
+    const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
+    if (standard.isNull()) {
+        *error = QStringLiteral("no default printer is set up; name one with --printer NAME, or "
+                                "write a PDF file with --pdf OUT.pdf");
+        return false;
+    }
+    *printerName = standard.printerName();
+    return true;
+}
+
+// The hook captures the run's locals: it must not outlive them.
+class MessageHookScope
 {
 public:
-    SpoolFile() { SharedSpool::instance().makeNewSpoolFile(); }
-    ~SpoolFile() { DeleteFileAndWait(SharedSpool::instance().spoolPath()); }
+    explicit MessageHookScope(MessageHook hook) { setMessageHook(std::move(hook)); }
+    ~MessageHookScope() { setMessageHook({}); }
+    MessageHookScope(const MessageHookScope &) = delete;
+    MessageHookScope &operator=(const MessageHookScope &) = delete;
 };
-
-void feedRecord(const AddressRow &row, Record &record)
-{
-    static const std::pair<AddressField, RecordField> mapping[] = {
-        {AddressField::FirstName, RecordField::nm_first},
-        {AddressField::MiddleName, RecordField::nm_middle},
-        {AddressField::LastName, RecordField::nm_last},
-        {AddressField::Address1, RecordField::addr_1},
-        {AddressField::Address2, RecordField::addr_2},
-        {AddressField::City, RecordField::city},
-        {AddressField::State, RecordField::state},
-        {AddressField::Zip, RecordField::zip},
-        {AddressField::Substitute, RecordField::substitute},
-    };
-    record.clear();
-    for (const auto &[from, to] : mapping)
-        record.setValue(to, row[from]);
-}
-
-// Reads every row of the CSV into the spool. Returns the records written, or
-// -1 after printing what is wrong with the input.
-qint64 spoolCsv(QIODevice &device, const QString &sourceName)
-{
-    CsvReader reader(&device);
-    QStringList fields;
-    AddressColumns columns;
-    QString problem;
-    if (!reader.readRow(fields)) {
-        if (reader.error().isEmpty())
-            err() << sourceName << ": the file is empty; it needs a header row naming its "
-                  << "columns: " << AddressColumns::acceptedNames() << "\n";
-        else
-            err() << sourceName << ": " << reader.error() << "\n";
-        return -1;
-    }
-    if (!columns.setHeader(fields, &problem)) {
-        err() << sourceName << ": line 1: " << problem << "\n";
-        return -1;
-    }
-
-    SpoolWriter writer;
-    writer.setYieldHook({}); // nothing to keep responsive here
-    writer.StartDoc();
-    Record record;
-    AddressRow row;
-    qint64 count = 0;
-    while (reader.readRow(fields)) {
-        if (fields.size() == 1 && fields.first().isEmpty())
-            continue; // a blank line
-        if (!columns.mapRow(fields, row, &problem)) {
-            err() << sourceName << ": line " << reader.rowLine() << ": " << problem << "\n";
-            return -1;
-        }
-        feedRecord(row, record);
-        writer.NewPiece(record);
-        ++count;
-    }
-    writer.EndDoc();
-    if (!reader.error().isEmpty()) {
-        err() << sourceName << ": " << reader.error() << "\n";
-        return -1;
-    }
-    return count;
-}
 
 int runPrint(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Prints the addresses of a CSV file (a header row, then one recipient a "
-                       "row) on the chosen piece."));
-    parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("csv"),
-                                 QStringLiteral("The CSV file; - or nothing reads standard input."));
-    const QCommandLineOption pieceOption(QStringLiteral("piece"),
-                                         QStringLiteral("The catalogue piece (see quirra pieces)."),
-                                         QStringLiteral("name"), DefaultPieceName);
-    const QCommandLineOption pdfOption(QStringLiteral("pdf"),
-                                       QStringLiteral("Write the pages to this PDF file."),
-                                       QStringLiteral("file"));
-    parser.addOptions({pieceOption, pdfOption});
-    parser.process(arguments);
-
-    const QString pdfPath = parser.value(pdfOption);
-    if (pdfPath.isEmpty()) {
-        err() << "quirra print: say where the pages go with --pdf OUT.pdf\n";
+                       "row) on the chosen piece, or writes them to a PDF file."));
+    RunOptions::addTo(parser, true);
+    if (const auto status = parseArguments(parser, arguments, QStringLiteral("print")))
+        return *status;
+    RunOptions options;
+    QString error;
+    if (!options.read(parser, true, &error)) {
+        say(QStringLiteral("quirra print: %1").arg(error));
         return 2;
     }
-    const QStringList positional = parser.positionalArguments();
-    if (positional.size() > 1) {
-        err() << "quirra print: give one CSV file, not " << positional.size() << "\n";
-        return 2;
-    }
-    const QString csvPath = positional.value(0, QStringLiteral("-"));
 
-    QFile csv;
-    QString sourceName = csvPath;
-    if (csvPath == QLatin1String("-")) {
-        if (isatty(STDIN_FILENO)) {
-            err() << "quirra print: no CSV file given and standard input is a terminal; "
-                     "name a file or pipe one in\n";
-            return 2;
-        }
-        sourceName = QStringLiteral("standard input");
-        csv.open(stdin, QIODevice::ReadOnly);
+    std::unique_ptr<PdfOutput> pdf;
+    QString printerName;
+    if (!chooseDestination(options, pdf, &printerName, &error)) {
+        say(QStringLiteral("quirra print: %1").arg(error));
+        return 1;
+    }
+    if (pdf)
+        InterruptCleanup::watch(pdf->temporaryPath());
+
+    Quirra control;
+    const QString spoolPath = SharedSpool::instance().spoolPath();
+    InterruptCleanup::watch(spoolPath);
+    QStringList warnings;
+    const bool applied = options.applyTo(control, &warnings, &error);
+    for (const QString &warning : warnings)
+        say(QStringLiteral("quirra print: warning: %1").arg(warning));
+    if (!applied) {
+        say(QStringLiteral("quirra print: %1").arg(error));
+        return 1;
+    }
+
+    RecordFeed feed(control);
+    if (!feed.open(options.csvPath, &error)) {
+        say(QStringLiteral("quirra print: %1").arg(error));
+        return 1;
+    }
+    QFile errorStream;
+    std::unique_ptr<ProgressBar> bar;
+    if (wantProgress(options.progress) && errorStream.open(stderr, QIODevice::WriteOnly))
+        bar = std::make_unique<ProgressBar>(&errorStream);
+    const bool fed = feed.feed(feedProgress(bar.get(), feed), &error);
+    if (bar)
+        bar->finish(QStringLiteral("reading"), fed ? 1.0 : -1,
+                    QStringLiteral("%1 records").arg(feed.records()));
+    if (!fed) {
+        say(QStringLiteral("quirra print: %1").arg(error));
+        return 1;
+    }
+
+    QPrinter *printer = control.printer();
+    if (pdf) {
+        printer->setOutputFormat(QPrinter::PdfFormat);
+        printer->setOutputFileName(pdf->temporaryPath());
     } else {
-        csv.setFileName(csvPath);
-        if (!csv.open(QIODevice::ReadOnly)) {
-            err() << csvPath << ": cannot read the file: " << csv.errorString() << "\n";
+        printer->setPrinterName(printerName);
+    }
+    bool printerFailed = false;
+    const MessageHookScope hook([&](const QString &text) {
+        if (bar)
+            bar->interrupt();
+        say(QStringLiteral("quirra print: %1 (%2 cannot be written)")
+                .arg(text, pdf ? pdf->target() : QStringLiteral("the printer ") + printerName));
+        printerFailed = true;
+    });
+
+    const int perPage = int(control.PieceNumAcross()) * int(control.PieceNumDown());
+    std::unique_ptr<SpoolProgress> watcher;
+    if (bar) {
+        watcher = std::make_unique<SpoolProgress>(spoolPath, feed.records(), perPage, bar.get());
+        watcher->start();
+    }
+    try {
+        control.PrintNow();
+    } catch (const Error &e) {
+        if (watcher)
+            watcher->stop();
+        if (bar)
+            bar->interrupt();
+        say(QStringLiteral("quirra print: %1").arg(e.message()));
+        return 1;
+    }
+    if (watcher)
+        watcher->stop();
+    const int pages = control.surface()->pageCount();
+    if (bar)
+        bar->finish(QStringLiteral("printing"), 1.0, SpoolProgress::pageDetail(pages, pages));
+    if (printerFailed || control.surface()->errorCode() != 0) {
+        if (!printerFailed)
+            say(QStringLiteral("quirra print: Ptr.error = %1").arg(control.surface()->errorCode()));
+        return 1;
+    }
+    QString destination = QStringLiteral("printer ") + printerName;
+    if (pdf) {
+        const QString temporary = pdf->temporaryPath();
+        if (!pdf->commit(&error)) {
+            say(QStringLiteral("quirra print: %1").arg(error));
             return 1;
         }
+        InterruptCleanup::unwatch(temporary);
+        destination = pdf->target();
     }
-
-    PieceModel &model = PieceModel::shared();
-    const QString piece = parser.value(pieceOption);
-    if (!LoadPieceByName(piece, model)) {
-        err() << "quirra print: warning: the catalogue has no piece \"" << piece << "\"; \""
-              << DefaultPieceName << "\" is used (see quirra pieces)\n";
-    }
-
-    // As on a newly placed control: the item texts start empty (the catalogue's
-    // placeholder texts are for the layout editor) and the stamp has a frame.
-    for (ItemId id : StorageOrder)
-        model.item(id).Text.clear();
-    model.item(ItemId::Stamp).Border = 2;
-
-    SpoolFile spool;
-    const qint64 records = spoolCsv(csv, sourceName);
-    if (records < 0)
-        return 1;
-
-    // Written beside the target and renamed at the end, so a failed run
-    // leaves no half-written file and an old file stays until the new one is whole.
-    const QString partial = pdfPath + QStringLiteral(".partial");
-    int printerError = 0;
-    setMessageHook([&](const QString &text) {
-        err() << "quirra print: " << text << " (cannot write " << pdfPath << ")\n";
-        printerError = 1;
-    });
-    PdfRunResult result;
-    try {
-        result = PrintSpoolToPdf(partial, model, SharedSpool::instance().reader());
-    } catch (const Error &e) {
-        QFile::remove(partial);
-        err() << "quirra print: " << e.message() << "\n";
-        return 1;
-    }
-    if (printerError || result.errorCode != 0) {
-        QFile::remove(partial);
-        return 1;
-    }
-    QFile::remove(pdfPath);
-    if (!QFile::rename(partial, pdfPath)) {
-        QFile::remove(partial);
-        err() << pdfPath << ": cannot write the file there\n";
-        return 1;
-    }
-    err() << "quirra print: " << records << " records, " << result.pages << " pages on \""
-          << model.piece.PieceName << "\" -> " << pdfPath << "\n";
+    say(QStringLiteral("quirra print: %1 %2, %3 %4 on \"%5\" -> %6")
+            .arg(QString::number(feed.records()),
+                 feed.records() == 1 ? QStringLiteral("record") : QStringLiteral("records"),
+                 QString::number(pages),
+                 pages == 1 ? QStringLiteral("page") : QStringLiteral("pages"), control.PieceName(),
+                 destination));
     return 0;
+}
+
+int runPreview(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Shows the addresses of a CSV file on the chosen piece in a window, to "
+                       "page through, print, export as PDF or save the layout."));
+    RunOptions::addTo(parser, false);
+    if (const auto status = parseArguments(parser, arguments, QStringLiteral("preview")))
+        return *status;
+    RunOptions options;
+    QString error;
+    if (!options.read(parser, false, &error)) {
+        say(QStringLiteral("quirra preview: %1").arg(error));
+        return 2;
+    }
+    const QString platform = QGuiApplication::platformName();
+    if (platform == QLatin1String("offscreen") || platform == QLatin1String("minimal")) {
+        say(QStringLiteral("quirra preview: there is no display to show the window on (%1); "
+                           "quirra print --pdf OUT.pdf writes the pages to a file instead")
+                .arg(qEnvironmentVariableIsEmpty("DISPLAY")
+                         ? QStringLiteral("DISPLAY is not set")
+                         : QStringLiteral("cannot open display %1")
+                               .arg(qEnvironmentVariable("DISPLAY"))));
+        return 1;
+    }
+
+    PreviewWindow window;
+    Quirra &control = *window.control();
+    InterruptCleanup::watch(SharedSpool::instance().spoolPath());
+    QStringList warnings;
+    const bool applied = options.applyTo(control, &warnings, &error);
+    for (const QString &warning : warnings)
+        say(QStringLiteral("quirra preview: warning: %1").arg(warning));
+    if (!applied) {
+        say(QStringLiteral("quirra preview: %1").arg(error));
+        return 1;
+    }
+    RecordFeed feed(control);
+    if (!feed.open(options.csvPath, &error)) {
+        say(QStringLiteral("quirra preview: %1").arg(error));
+        return 1;
+    }
+    window.setSourceName(feed.sourceName());
+    window.show();
+
+    QFile errorStream;
+    std::unique_ptr<ProgressBar> bar;
+    if (wantProgress(options.progress) && errorStream.open(stderr, QIODevice::WriteOnly))
+        bar = std::make_unique<ProgressBar>(&errorStream);
+    const RecordFeed::Progress drawn = feedProgress(bar.get(), feed);
+    // The control yields to events after each record: the window stays
+    // responsive, and closing it stops the feed.
+    const bool fed = feed.feed(
+        [&](qint64 records, qint64 bytes) {
+            return window.isVisible() && (!drawn || drawn(records, bytes));
+        },
+        &error);
+    if (bar)
+        bar->finish(QStringLiteral("reading"), fed ? 1.0 : -1,
+                    QStringLiteral("%1 records").arg(feed.records()));
+    if (!window.isVisible())
+        return 0;
+    if (!fed) {
+        say(QStringLiteral("quirra preview: %1").arg(error));
+        return 1;
+    }
+    try {
+        control.PreviewNow();
+    } catch (const Error &e) {
+        say(QStringLiteral("quirra preview: %1").arg(e.message()));
+        return 1;
+    }
+    return QApplication::exec();
 }
 
 QString inches(float value)
@@ -228,74 +359,116 @@ QString inches(float value)
 int runPieces(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Lists the catalogue's envelopes and labels."));
-    parser.addHelpOption();
-    const QCommandLineOption productOption(QStringLiteral("product"),
-                                           QStringLiteral("Only the pieces of this product."),
-                                           QStringLiteral("name"));
-    parser.addOption(productOption);
-    parser.process(arguments);
+    parser.setApplicationDescription(
+        QStringLiteral("Lists the catalogue's envelopes and labels: family, product, piece, size, "
+                       "layout, paper."));
+    parser.addOption({QStringLiteral("product"), QStringLiteral("Only the pieces of this product."),
+                      QStringLiteral("name")});
+    if (const auto status = parseArguments(parser, arguments, QStringLiteral("pieces")))
+        return *status;
+    if (!parser.positionalArguments().isEmpty()) {
+        say(QStringLiteral("quirra pieces: unexpected argument %1")
+                .arg(parser.positionalArguments().first()));
+        return 2;
+    }
 
     const QString file = CatalogueFilePath();
     if (file.isEmpty()) {
-        err() << "quirra pieces: no catalogue (quirra.cfg) in " << SystemDirectory()
-              << "; set QUIRRA_SYSTEM_DIR to the folder that holds it\n";
+        say(QStringLiteral("quirra pieces: no catalogue (quirra.cfg) in %1; set "
+                           "QUIRRA_SYSTEM_DIR to the folder that holds it")
+                .arg(SystemDirectory()));
         return 1;
     }
-    const QString only = parser.value(productOption);
+    const QString only = parser.value(QStringLiteral("product"));
     int listed = 0;
     for (const QString &family : {LaserFamilySection, DotMatrixFamilySection}) {
         for (const QString &product : ReadProductList(file, family)) {
-            if (product.isEmpty() || (!only.isEmpty() && product.compare(only, Qt::CaseInsensitive)))
+            if (product.isEmpty() ||
+                (!only.isEmpty() && product.compare(only, Qt::CaseInsensitive)))
                 continue;
             for (const QString &name : ReadPieceList(file, product)) {
                 if (name.isEmpty())
                     continue;
                 const PieceSpec entry = ReadPieceSpec(file, name);
-                out() << family << '\t' << product << '\t' << name << '\t'
-                      << inches(entry.LabelWidth) << " x " << inches(entry.LabelHeight) << " in\t"
-                      << entry.NumAcross << " x " << entry.NumDown << '\t' << entry.PageDesc << '\n';
+                print(QStringList{family, product, name,
+                                  inches(entry.LabelWidth) + QStringLiteral(" x ") +
+                                      inches(entry.LabelHeight) + QStringLiteral(" in"),
+                                  QStringLiteral("%1 x %2").arg(entry.NumAcross).arg(entry.NumDown),
+                                  entry.PageDesc}
+                          .join(QLatin1Char('\t')));
                 ++listed;
             }
         }
     }
     if (listed == 0 && !only.isEmpty()) {
-        err() << "quirra pieces: no product \"" << only << "\" in " << file << "\n";
+        say(QStringLiteral("quirra pieces: no product \"%1\" in %2").arg(only, file));
         return 1;
     }
     return 0;
+}
+
+// Printing needs fonts, not a screen: print and pieces always run on the
+// offscreen platform, so they work on a server and over a dead X
+// connection alike. The preview tries the display and falls back to
+// offscreen, which it then reports instead of aborting.
+void choosePlatform(const QString &command)
+{
+    if (command != QLatin1String("preview")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return;
+    }
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return;
+    QByteArray platforms;
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        platforms += "wayland;";
+    if (!qEnvironmentVariableIsEmpty("DISPLAY"))
+        platforms += "xcb;";
+    qputenv("QT_QPA_PLATFORM", platforms + "offscreen");
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    // Printing needs fonts, not a screen: run headless where there is none.
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY")
-        && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication app(argc, argv);
-    QGuiApplication::setApplicationName(QStringLiteral("quirra"));
-
-    QStringList arguments = QGuiApplication::arguments();
-    if (arguments.size() < 2)
+    const QString command = argc >= 2 ? QString::fromLocal8Bit(argv[1]) : QString();
+    if (command == QLatin1String("--help") || command == QLatin1String("-h") ||
+        command == QLatin1String("help")) {
+        usage();
+        return 0;
+    }
+    if (command != QLatin1String("print") && command != QLatin1String("preview") &&
+        command != QLatin1String("pieces")) {
+        if (!command.isEmpty())
+            say(QStringLiteral("quirra: unknown command \"%1\"").arg(command));
         return usage();
-    const QString command = arguments.takeAt(1);
-    const QString program = arguments.first() + QLatin1Char(' ') + command;
-    arguments[0] = program;
+    }
+    choosePlatform(command);
+    // The library's debug lines are for its developers; QT_LOGGING_RULES
+    // still turns them on.
+    QLoggingCategory::setFilterRules(QStringLiteral("quirra.*.debug=false"));
+    InterruptCleanup::install();
+    // Listing the catalogue needs no fonts at all.
+    const std::unique_ptr<QCoreApplication> app(command == QLatin1String("pieces")
+                                                    ? new QCoreApplication(argc, argv)
+                                                    : new QApplication(argc, argv));
+    QCoreApplication::setApplicationName(QStringLiteral("quirra"));
+
+    QStringList arguments = QCoreApplication::arguments();
+    arguments.removeAt(1);
+    arguments[0] += QLatin1Char(' ') + command;
     int status = 2;
     try {
         if (command == QLatin1String("print"))
             status = runPrint(arguments);
-        else if (command == QLatin1String("pieces"))
-            status = runPieces(arguments);
+        else if (command == QLatin1String("preview"))
+            status = runPreview(arguments);
         else
-            status = usage();
+            status = runPieces(arguments);
     } catch (const Error &e) {
-        err() << "quirra " << command << ": " << e.message() << "\n";
+        say(QStringLiteral("quirra %1: %2").arg(command, e.message()));
         status = 1;
     }
-    err().flush();
-    out().flush();
+    std::fflush(stdout);
     return status;
 }

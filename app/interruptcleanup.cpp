@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "interruptcleanup.h"
+
+#include <QFile>
+
+#include <csignal>
+#include <cstring>
+#include <unistd.h>
+
+namespace quirra {
+
+namespace {
+
+// Fixed buffers: the handler may only read memory, never allocate.
+constexpr int PathBytes = 4096;
+char watched[InterruptCleanup::MaxFiles][PathBytes];
+volatile sig_atomic_t inUse[InterruptCleanup::MaxFiles];
+
+extern "C" void removeWatchedFiles(int signalNumber)
+{
+    for (int i = 0; i < InterruptCleanup::MaxFiles; ++i) {
+        if (inUse[i])
+            ::unlink(watched[i]);
+    }
+    std::signal(signalNumber, SIG_DFL);
+    std::raise(signalNumber);
+}
+
+} // namespace
+
+void InterruptCleanup::install()
+{
+    static bool installed = false;
+    if (installed)
+        return;
+    installed = true;
+    for (int signalNumber : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction action;
+        std::memset(&action, 0, sizeof action);
+        action.sa_handler = removeWatchedFiles;
+        sigemptyset(&action.sa_mask);
+        sigaction(signalNumber, &action, nullptr);
+    }
+}
+
+bool InterruptCleanup::watch(const QString &path)
+{
+    const QByteArray encoded = QFile::encodeName(path);
+    if (encoded.isEmpty() || encoded.size() >= PathBytes)
+        return false;
+    for (int i = 0; i < MaxFiles; ++i) {
+        if (!inUse[i]) {
+            std::memcpy(watched[i], encoded.constData(), size_t(encoded.size()) + 1);
+            inUse[i] = 1;
+            return true;
+        }
+    }
+    return false;
+}
+
+void InterruptCleanup::unwatch(const QString &path)
+{
+    const QByteArray encoded = QFile::encodeName(path);
+    for (int i = 0; i < MaxFiles; ++i) {
+        if (inUse[i] && encoded == watched[i])
+            inUse[i] = 0;
+    }
+}
+
+} // namespace quirra

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace quirra {
+
+/**
+ * @brief Removes the files of a run that is interrupted (Ctrl-C, a hang-up,
+ * kill): the spool and a half-written PDF would otherwise stay behind, since
+ * no destructor runs when a signal ends the process.
+ *
+ * Holds a few paths at a time; the signal handler only unlinks them and then
+ * ends the process by the same signal, as if no handler had been there.
+ */
+class InterruptCleanup
+{
+public:
+    /** @brief The most files watched at once. */
+    static constexpr int MaxFiles = 4;
+
+    /** @brief Installs the handlers for SIGINT, SIGTERM and SIGHUP (once). */
+    static void install();
+
+    /** @brief Removes path if a signal ends the process; false when all places are taken. */
+    static bool watch(const QString &path);
+
+    /** @brief Stops watching path (it was renamed, or removed by its owner). */
+    static void unwatch(const QString &path);
+};
+
+} // namespace quirra

@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "previewwindow.h"
+
+#include "logging_p.h"
+#include "pdfoutput.h"
+
+#include "control/jsonpropertybag.h"
+#include "control/quirra.h"
+#include "model/error.h"
+#include "surface/printsurface.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QKeySequence>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QStatusBar>
+#include <QToolBar>
+
+namespace quirra {
+
+namespace {
+
+// Restores the printer's destination after an export, so that a later Print…
+// goes to the printer chosen in its dialog rather than to the exported file.
+class OutputFileScope
+{
+public:
+    OutputFileScope(QPrinter *printer, const QString &file)
+        : m_printer(printer), m_previousFormat(printer->outputFormat()),
+          m_previousFile(printer->outputFileName())
+    {
+        // The format first: the temporary file's name does not end in .pdf,
+        // so naming it would not switch the printer to PDF by itself.
+        m_printer->setOutputFormat(QPrinter::PdfFormat);
+        m_printer->setOutputFileName(file);
+    }
+    ~OutputFileScope()
+    {
+        m_printer->setOutputFormat(m_previousFormat);
+        m_printer->setOutputFileName(m_previousFile);
+    }
+    OutputFileScope(const OutputFileScope &) = delete;
+    OutputFileScope &operator=(const OutputFileScope &) = delete;
+
+private:
+    QPrinter *m_printer;
+    QPrinter::OutputFormat m_previousFormat;
+    QString m_previousFile;
+};
+
+} // namespace
+
+PreviewWindow::PreviewWindow(QWidget *parent)
+    : QMainWindow(parent), m_control(new Quirra(this)), m_toolBar(addToolBar(tr("Run")))
+{
+    setCentralWidget(m_control);
+    m_toolBar->setObjectName(QStringLiteral("run_toolbar"));
+    m_toolBar->setMovable(false);
+    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+
+    QAction *save = m_toolBar->addAction(tr("Save layout…"), this, &PreviewWindow::saveLayout);
+    save->setObjectName(QStringLiteral("save_layout_act"));
+    save->setShortcut(QKeySequence::Save);
+    m_toolBar->addSeparator();
+    // The piece, customization and layout dialogs and the property page go
+    // here, as a group of their own.
+    QAction *print = m_toolBar->addAction(tr("Print…"), this, &PreviewWindow::print);
+    print->setObjectName(QStringLiteral("print_act"));
+    print->setShortcut(QKeySequence::Print);
+    QAction *pdf = m_toolBar->addAction(tr("Export PDF…"), this, &PreviewWindow::exportPdf);
+    pdf->setObjectName(QStringLiteral("export_pdf_act"));
+
+    QAction *quit = new QAction(tr("Quit"), this);
+    quit->setShortcut(QKeySequence::Quit);
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+    addAction(quit);
+
+    resize(900, 700);
+    updateTitle();
+}
+
+void PreviewWindow::setSourceName(const QString &name)
+{
+    m_sourceName = name;
+    updateTitle();
+}
+
+void PreviewWindow::updateTitle()
+{
+    const QString piece = m_control->PieceName();
+    setWindowTitle(m_sourceName.isEmpty()
+                       ? QStringLiteral("quirra - %1").arg(piece)
+                       : QStringLiteral("quirra - %1 on %2").arg(m_sourceName, piece));
+}
+
+void PreviewWindow::complain(const QString &text)
+{
+    qCWarning(lcApp).noquote() << text;
+    QMessageBox::warning(this, windowTitle(), text);
+}
+
+void PreviewWindow::saveLayout()
+{
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save layout"), QString(),
+                                                      tr("Layouts (*.json);;All files (*)"));
+    if (!path.isEmpty())
+        saveLayoutTo(path);
+}
+
+bool PreviewWindow::saveLayoutTo(const QString &path)
+{
+    JsonPropertyBag bag;
+    try {
+        m_control->WriteProperties(bag);
+        bag.save(path);
+    } catch (const Error &e) {
+        complain(tr("The layout could not be saved: %1").arg(e.message()));
+        return false;
+    }
+    statusBar()->showMessage(tr("Layout saved to %1").arg(path), 5000);
+    return true;
+}
+
+bool PreviewWindow::runPrint(const QString &what)
+{
+    try {
+        m_control->PrintNow();
+    } catch (const Error &e) {
+        complain(tr("%1 failed: %2").arg(what, e.message()));
+        return false;
+    }
+    // The run has shown "Ptr.error = " itself when the printer failed.
+    return m_control->surface()->errorCode() == 0;
+}
+
+void PreviewWindow::print()
+{
+    QPrinter *printer = m_control->printer();
+    QPrintDialog dialog(printer, this);
+    dialog.setWindowTitle(tr("Print the run"));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    if (runPrint(tr("Printing")))
+        statusBar()->showMessage(
+            tr("Sent %1 pages to the printer").arg(m_control->surface()->pageCount()), 5000);
+}
+
+void PreviewWindow::exportPdf()
+{
+    QString path =
+        QFileDialog::getSaveFileName(this, tr("Export PDF"), QString(), tr("PDF files (*.pdf)"));
+    if (path.isEmpty())
+        return;
+    if (QFileInfo(path).suffix().isEmpty())
+        path += QStringLiteral(".pdf");
+    exportPdfTo(path);
+}
+
+bool PreviewWindow::exportPdfTo(const QString &path)
+{
+    PdfOutput output(path);
+    QString error;
+    if (!output.open(&error)) {
+        complain(tr("The PDF could not be written: %1").arg(error));
+        return false;
+    }
+    bool printed = false;
+    {
+        OutputFileScope scope(m_control->printer(), output.temporaryPath());
+        printed = runPrint(tr("The export"));
+    }
+    if (!printed)
+        return false;
+    const int pages = m_control->surface()->pageCount();
+    if (!output.commit(&error)) {
+        complain(tr("The PDF could not be written: %1").arg(error));
+        return false;
+    }
+    statusBar()->showMessage(tr("Wrote %1 pages to %2").arg(pages).arg(path), 5000);
+    return true;
+}
+
+} // namespace quirra

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMainWindow>
+
+class QAction;
+class QToolBar;
+class Quirra;
+
+namespace quirra {
+
+/**
+ * @brief The window of quirra preview: a control filling the window, its
+ * preview pane showing the run, and a toolbar to save the layout, print, or
+ * export the run as a PDF file.
+ *
+ * The toolbar keeps its actions in groups; the piece, customization and
+ * layout dialogs and the property page get a group of their own between the
+ * layout and the output actions.
+ */
+class PreviewWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /** @brief A window with a new control (as newly placed: empty texts) and the toolbar. */
+    explicit PreviewWindow(QWidget *parent = nullptr);
+
+    /** @brief The control the window shows; owned by the window. */
+    Quirra *control() const { return m_control; }
+
+    /** @brief Names what is shown in the title: the CSV file's name. */
+    void setSourceName(const QString &name);
+
+public Q_SLOTS:
+    /** @brief Asks for a file and saves the control's properties to it as a JSON layout. */
+    void saveLayout();
+    /** @brief Writes the control's properties to path; false with a message box on failure. */
+    bool saveLayoutTo(const QString &path);
+    /** @brief Opens the print dialog on the control's printer and prints the run there. */
+    void print();
+    /** @brief Asks for a file and prints the run to it as PDF. */
+    void exportPdf();
+    /** @brief Prints the run to the PDF file path; false with a message box on failure. */
+    bool exportPdfTo(const QString &path);
+
+private:
+    bool runPrint(const QString &what);
+    void complain(const QString &text);
+    void updateTitle();
+
+    Quirra *m_control;
+    QToolBar *m_toolBar;
+    QString m_sourceName;
+};
+
+} // namespace quirra

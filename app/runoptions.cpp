@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "runoptions.h"
+
+#include "catalogue/catalogue.h"
+#include "catalogue/piecespec.h"
+#include "control/jsonpropertybag.h"
+#include "control/quirra.h"
+#include "model/error.h"
+#include "model/piece.h"
+
+#include <QCommandLineParser>
+
+namespace quirra {
+
+namespace {
+
+QString unknownPieceWarning(const QString &name)
+{
+    return QStringLiteral("the catalogue has no piece \"%1\"; \"%2\" is used (see quirra pieces "
+                          "for the names)")
+        .arg(name, DefaultPieceName);
+}
+
+// Choosing a piece gives every item without text the layout's placeholder
+// ("Return Address", "Message 1", a bulk-rate permit), which is there for the
+// layout editor to show. On printed pieces only what the user set belongs,
+// so the texts that were empty before are emptied again.
+template <typename Change> void keepEmptyTextsEmpty(Quirra &control, Change change)
+{
+    const bool message1 = control.Message1Text().isEmpty();
+    const bool message2 = control.Message2Text().isEmpty();
+    const bool returnText = control.ReturnText().isEmpty();
+    const bool stamp = control.StampText().isEmpty();
+    change();
+    if (message1)
+        control.ClearMessage1();
+    if (message2)
+        control.ClearMessage2();
+    if (returnText)
+        control.ClearReturn();
+    if (stamp)
+        control.ClearStamp();
+}
+
+} // namespace
+
+void RunOptions::addTo(QCommandLineParser &parser, bool withOutput)
+{
+    parser.addPositionalArgument(
+        QStringLiteral("csv"),
+        QStringLiteral("The CSV file (UTF-8, a header row naming the columns); - or nothing "
+                       "reads standard input."),
+        QStringLiteral("[CSV]"));
+    parser.addOption({QStringLiteral("piece"),
+                      QStringLiteral("The catalogue piece to print on (see quirra pieces); "
+                                     "default \"%1\".")
+                          .arg(DefaultPieceName),
+                      QStringLiteral("name")});
+    parser.addOption({QStringLiteral("layout"),
+                      QStringLiteral("A saved layout (JSON, as quirra preview saves it), read "
+                                     "before --piece and --set."),
+                      QStringLiteral("file")});
+    parser.addOption({QStringLiteral("set"),
+                      QStringLiteral("Sets a property of the control by its name, e.g. "
+                                     "ReturnText=\"ACME Mail\\n1 Main St\", AddressHorzAlign="
+                                     "haCenter, AddressFont=\"Liberation Serif,12\"; applied in "
+                                     "order after --layout and --piece. May be repeated."),
+                      QStringLiteral("property=value")});
+    if (withOutput) {
+        parser.addOption({QStringLiteral("pdf"),
+                          QStringLiteral("Write the pages to this PDF file instead of printing."),
+                          QStringLiteral("file")});
+        parser.addOption({QStringLiteral("printer"),
+                          QStringLiteral("Print on this printer (default: the system's default "
+                                         "printer)."),
+                          QStringLiteral("name")});
+    }
+    parser.addOption({QStringLiteral("progress"),
+                      QStringLiteral("Draw a progress bar on standard error (the default when it "
+                                     "is a terminal).")});
+    parser.addOption({QStringLiteral("no-progress"), QStringLiteral("Draw no progress bar.")});
+}
+
+bool RunOptions::read(const QCommandLineParser &parser, bool withOutput, QString *error)
+{
+    const QStringList positional = parser.positionalArguments();
+    if (positional.size() > 1) {
+        *error = QStringLiteral("give one CSV file, not %1 (%2)")
+                     .arg(positional.size())
+                     .arg(positional.join(QStringLiteral(", ")));
+        return false;
+    }
+    csvPath = positional.value(0, QStringLiteral("-"));
+    if (csvPath.isEmpty()) {
+        *error = QStringLiteral("the CSV file name is empty");
+        return false;
+    }
+    if (parser.isSet(QStringLiteral("piece"))) {
+        piece = parser.value(QStringLiteral("piece")).trimmed();
+        if (piece.isEmpty()) {
+            *error = QStringLiteral("--piece needs a name (see quirra pieces)");
+            return false;
+        }
+    }
+    layoutPath = parser.value(QStringLiteral("layout"));
+    settings.clear();
+    for (const QString &argument : parser.values(QStringLiteral("set"))) {
+        PropertyAssignment assignment;
+        if (!PropertyAssignment::parse(argument, &assignment, error))
+            return false;
+        settings << assignment;
+    }
+    if (withOutput) {
+        pdfPath = parser.value(QStringLiteral("pdf"));
+        printerName = parser.value(QStringLiteral("printer"));
+        if (parser.isSet(QStringLiteral("pdf")) && pdfPath.isEmpty()) {
+            *error = QStringLiteral("--pdf needs a file name");
+            return false;
+        }
+        if (parser.isSet(QStringLiteral("printer")) && printerName.isEmpty()) {
+            *error = QStringLiteral("--printer needs a printer's name");
+            return false;
+        }
+        if (!pdfPath.isEmpty() && !printerName.isEmpty()) {
+            *error = QStringLiteral("give either --pdf or --printer, not both");
+            return false;
+        }
+    }
+    const bool on = parser.isSet(QStringLiteral("progress"));
+    const bool off = parser.isSet(QStringLiteral("no-progress"));
+    if (on && off) {
+        *error = QStringLiteral("give either --progress or --no-progress, not both");
+        return false;
+    }
+    progress = on ? Progress::On : off ? Progress::Off : Progress::Auto;
+    return true;
+}
+
+bool RunOptions::catalogueHasPiece(const QString &name)
+{
+    // The test of LoadPieceByName: a record with at least one piece across.
+    const QString file = CatalogueFilePath();
+    return !file.isEmpty() && ReadPieceSpec(file, name).NumAcross >= 1;
+}
+
+bool RunOptions::applyTo(Quirra &control, QStringList *warnings, QString *error) const
+{
+    if (!layoutPath.isEmpty()) {
+        JsonPropertyBag bag;
+        try {
+            bag.load(layoutPath);
+        } catch (const Error &e) {
+            *error = QStringLiteral("--layout %1: %2").arg(layoutPath, e.message());
+            return false;
+        }
+        control.ReadProperties(bag);
+    }
+    if (!piece.isEmpty()) {
+        if (!catalogueHasPiece(piece))
+            *warnings << unknownPieceWarning(piece);
+        keepEmptyTextsEmpty(control, [&] { control.PieceName(piece); });
+    }
+    for (const PropertyAssignment &assignment : settings) {
+        if (assignment.name() != QLatin1String("PieceName")) {
+            if (!assignment.apply(&control, error, warnings))
+                return false;
+            continue;
+        }
+        bool applied = false;
+        keepEmptyTextsEmpty(control,
+                            [&] { applied = assignment.apply(&control, error, warnings); });
+        if (!applied)
+            return false;
+        if (!catalogueHasPiece(control.PieceName()))
+            *warnings << unknownPieceWarning(control.PieceName());
+    }
+    return true;
+}
+
+} // namespace quirra

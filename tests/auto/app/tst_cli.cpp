@@ -1,0 +1,456 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+//
+// The quirra program run as a user runs it: CSV files in, PDF files and
+// messages out, read back with the poppler tools.
+#include "pdfprobe.h"
+
+#include "control/jsonpropertybag.h"
+#include "control/quirra.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+
+namespace {
+
+struct Run
+{
+    int status = -1;
+    QString out;
+    QString err;
+};
+
+QString dataFile(const QString &name)
+{
+    return QStringLiteral(QUIRRA_TEST_DATA "/") + name;
+}
+
+QString examples(const QString &name)
+{
+    return QStringLiteral(QUIRRA_SOURCE_ROOT "/examples/") + name;
+}
+
+// The lines of one page, top to bottom. Some fonts set "fi" as one glyph,
+// which poppler hands back as the ligature: it is read as the two letters.
+QList<pdfprobe::Line> pageLines(const QString &pdf, int page)
+{
+    QList<pdfprobe::Line> result;
+    for (pdfprobe::Line line : pdfprobe::lines(pdf)) {
+        if (line.page != page)
+            continue;
+        line.text.replace(QChar(0xFB01), QLatin1String("fi"))
+            .replace(QChar(0xFB02), QLatin1String("fl"));
+        result << line;
+    }
+    return result;
+}
+
+bool hasWord(const QString &pdf, const QString &text)
+{
+    for (const pdfprobe::Word &w : pdfprobe::words(pdf)) {
+        if (w.text == text)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+class TestCli : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void badInputLeavesNoFile_data();
+    void badInputLeavesNoFile();
+    void printsEveryRecordOnItsPiece_data();
+    void printsEveryRecordOnItsPiece();
+    void setReachesProperties_data();
+    void setReachesProperties();
+    void layoutRoundTrip_data();
+    void layoutRoundTrip();
+    void readsStandardInput();
+    void unknownPieceWarns();
+    void progressOnRequestOnly();
+    void previewWithoutDisplay();
+
+private:
+    Run quirra(const QStringList &arguments, const QByteArray &input = {});
+    QString out(const QString &name) const { return m_dir->filePath(name); }
+    QStringList expand(QStringList arguments) const;
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+void TestCli::initTestCase()
+{
+    if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+        QSKIP("pdftotext (poppler-utils) is not installed; scripts/install-deps installs it");
+    QVERIFY(QFileInfo::exists(QStringLiteral(QUIRRA_BINARY)));
+}
+
+void TestCli::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_dir->isValid());
+}
+
+Run TestCli::quirra(const QStringList &arguments, const QByteArray &input)
+{
+    QProcess process;
+    process.setWorkingDirectory(m_dir->path());
+    process.start(QStringLiteral(QUIRRA_BINARY), arguments);
+    Run run;
+    if (!process.waitForStarted(30000))
+        return run;
+    if (!input.isEmpty())
+        process.write(input);
+    process.closeWriteChannel(); // standard input is a pipe at its end, never a terminal
+    if (!process.waitForFinished(120000)) {
+        process.kill();
+        process.waitForFinished();
+        run.err = QStringLiteral("<did not finish>");
+        return run;
+    }
+    run.status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2;
+    run.out = QString::fromUtf8(process.readAllStandardOutput());
+    run.err = QString::fromUtf8(process.readAllStandardError());
+    return run;
+}
+
+// "%DATA%/x.csv" names a fixture, "%OUT%/x" a file in the test's own folder.
+QStringList TestCli::expand(QStringList arguments) const
+{
+    for (QString &a : arguments) {
+        a.replace(QLatin1String("%DATA%"), QStringLiteral(QUIRRA_TEST_DATA));
+        a.replace(QLatin1String("%OUT%"), m_dir->path());
+    }
+    return arguments;
+}
+
+void TestCli::badInputLeavesNoFile_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QStringList>("message");
+
+    const QString pdf = QStringLiteral("--pdf=%OUT%/out.pdf");
+    auto csv = [](const char *name) -> QString {
+        return QStringLiteral("%DATA%/") + QLatin1String(name);
+    };
+    QTest::newRow("value-with-double-quote")
+        << QStringList{pdf, csv("bad_quote.csv")} << 1
+        << QStringList{"bad_quote.csv: line 3: column 2 (\"last\") holds a double quote"};
+    QTest::newRow("value-with-line-break")
+        << QStringList{pdf, csv("bad_linebreak.csv")} << 1
+        << QStringList{"bad_linebreak.csv: line 3: column 3 (\"address1\") holds a line break"};
+    QTest::newRow("empty-file") << QStringList{pdf, csv("empty.csv")} << 1
+                                << QStringList{"empty.csv: the file is empty", "header row"};
+    QTest::newRow("header-only") << QStringList{pdf, csv("header_only.csv")} << 1
+                                 << QStringList{"header_only.csv: no records after the header"};
+    QTest::newRow("no-address-column") << QStringList{pdf, csv("no_address.csv")} << 1
+                                       << QStringList{"line 1: the header row names no address"};
+    QTest::newRow("junk-after-quote")
+        << QStringList{pdf, csv("junk_after_quote.csv")} << 1
+        << QStringList{"junk_after_quote.csv: line 2: column 3: text after the closing quote"};
+    QTest::newRow("unterminated-quote")
+        << QStringList{pdf, csv("unterminated.csv")} << 1
+        << QStringList{"column 3: a quoted field that began on line 3 is never closed"};
+    QTest::newRow("ragged-row") << QStringList{pdf, csv("ragged.csv")} << 1
+                                << QStringList{"ragged.csv: line 4: the row has 5 fields but the "
+                                               "header has 6"};
+    QTest::newRow("not-utf8") << QStringList{pdf, csv("latin1.csv")} << 1
+                              << QStringList{"latin1.csv: line 2: column 1: the text is not UTF-8"};
+    QTest::newRow("unknown-property")
+        << QStringList{pdf, "--set", "AdressTop=1", csv("people.csv")} << 1
+        << QStringList{"--set AdressTop: the control has no property \"AdressTop\""};
+    QTest::newRow("short-given-text")
+        << QStringList{pdf, "--set", "PieceNumAcross=three", csv("people.csv")} << 1
+        << QStringList{"PieceNumAcross takes a whole number from -32768 to 32767"};
+    QTest::newRow("enum-unknown-key")
+        << QStringList{pdf, "--set", "AddressHorzAlign=middle", csv("people.csv")} << 1
+        << QStringList{"AddressHorzAlign takes one of haLeft (0), haCenter (1)"};
+    QTest::newRow("set-without-equals")
+        << QStringList{pdf, "--set", "ReturnText", csv("people.csv")} << 2
+        << QStringList{"write it as NAME=VALUE"};
+    QTest::newRow("layout-not-json")
+        << QStringList{pdf, "--layout", csv("broken_layout.json"), csv("people.csv")} << 1
+        << QStringList{"--layout", "broken_layout.json"};
+    QTest::newRow("pdf-folder-missing")
+        << QStringList{"--pdf", "%OUT%/no/such/folder/out.pdf", csv("people.csv")} << 1
+        << QStringList{"does not exist"};
+    QTest::newRow("pdf-and-printer") << QStringList{pdf, "--printer", "lp", csv("people.csv")} << 2
+                                     << QStringList{"either --pdf or --printer"};
+    QTest::newRow("unknown-printer")
+        << QStringList{"--printer", "no-such-printer", csv("people.csv")} << 1
+        << QStringList{"there is no printer named \"no-such-printer\""};
+    QTest::newRow("unknown-option") << QStringList{pdf, "--colour", "red", csv("people.csv")} << 2
+                                    << QStringList{"quirra print: Unknown option 'colour'"};
+    // A layout that cannot be laid out fails in the print run itself.
+    QTest::newRow("no-piece-across")
+        << QStringList{pdf, "--set", "PieceNumAcross=0", csv("people.csv")} << 1
+        << QStringList{"has 0 pieces across; set PieceNumAcross to 1 or more"};
+}
+
+void TestCli::badInputLeavesNoFile()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QStringList, message);
+
+    // An older file of the target's name stays as it was.
+    QFile old(out(QStringLiteral("out.pdf")));
+    QVERIFY(old.open(QIODevice::WriteOnly));
+    old.write("older run");
+    old.close();
+
+    const Run run = quirra(QStringList{QStringLiteral("print")} + expand(arguments));
+    QCOMPARE(run.status, status);
+    for (const QString &part : message)
+        QVERIFY2(run.err.contains(part), qPrintable(run.err));
+    QVERIFY2(!run.err.contains(QLatin1String("records,")), qPrintable(run.err));
+
+    QVERIFY(old.open(QIODevice::ReadOnly));
+    QCOMPARE(old.readAll(), QByteArray("older run"));
+    const QStringList left = QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden);
+    QCOMPARE(left, QStringList{QStringLiteral("out.pdf")});
+}
+
+void TestCli::printsEveryRecordOnItsPiece_data()
+{
+    QTest::addColumn<QString>("csv");
+    QTest::addColumn<QString>("piece");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<QSizeF>("pageSize");
+    QTest::addColumn<QString>("lastFirstName"); // the last record's first name
+    QTest::addColumn<int>("column");            // the last record's column, from 0
+
+    QTest::newRow("labels-30-up-69-records") << examples("addresses.csv") << "5160 - Address Labels"
+                                             << 3 << QSizeF(612, 792) << "Albert" << 2;
+    QTest::newRow("envelope-one-a-page")
+        << dataFile("people.csv") << "Size 10 - Envelope" << 4 << QSizeF(684, 297) << "Li" << 0;
+    QTest::newRow("shipping-labels-2-across")
+        << dataFile("people.csv") << "5163 - Shipping Labels" << 1 << QSizeF(612, 792) << "Li" << 1;
+}
+
+void TestCli::printsEveryRecordOnItsPiece()
+{
+    QFETCH(QString, csv);
+    QFETCH(QString, piece);
+    QFETCH(int, pages);
+    QFETCH(QSizeF, pageSize);
+    QFETCH(QString, lastFirstName);
+    QFETCH(int, column);
+
+    const QString pdf = out(QStringLiteral("run.pdf"));
+    const Run run = quirra({"print", "--piece", piece, "--pdf", pdf, csv});
+    QVERIFY2(run.status == 0, qPrintable(run.err));
+    QVERIFY2(
+        run.err.contains(
+            QStringLiteral("%1 %2 on \"%3\"").arg(pages).arg(pages == 1 ? "page" : "pages", piece)),
+        qPrintable(run.err));
+
+    // Written through a private temporary file, the PDF still gets the
+    // permissions of any new file.
+    const mode_t mask = umask(0);
+    umask(mask);
+    struct stat info;
+    QCOMPARE(::stat(QFile::encodeName(pdf).constData(), &info), 0);
+    QCOMPARE(info.st_mode & 0777, 0666 & ~mask);
+
+    const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
+    QCOMPARE(sizes.size(), pages);
+    QVERIFY(qAbs(sizes.first().width() - pageSize.width()) < 1);
+    QVERIFY(qAbs(sizes.first().height() - pageSize.height()) < 1);
+
+    // The first record starts the first label; the last one is on the last
+    // page, whole columns of the sheet to the right of it.
+    const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
+    QVERIFY(!words.isEmpty());
+    const pdfprobe::Word &first = words.first();
+    QCOMPARE(first.text, QStringLiteral("Margaret"));
+    QCOMPARE(first.page, 1);
+    const pdfprobe::Word *last = nullptr;
+    for (const pdfprobe::Word &w : words) {
+        if (w.text == lastFirstName)
+            last = &w;
+    }
+    QVERIFY(last);
+    QCOMPARE(last->page, pages);
+    Quirra sheet;
+    sheet.PieceName(piece);
+    const double expectedLeft = first.box.left() + column * sheet.PiecePitchHorz() * 72;
+    QVERIFY2(
+        qAbs(last->box.left() - expectedLeft) < 0.5,
+        qPrintable(QStringLiteral("left %1, expected %2").arg(last->box.left()).arg(expectedLeft)));
+}
+
+void TestCli::setReachesProperties_data()
+{
+    QTest::addColumn<QStringList>("settings");
+    QTest::addColumn<QStringList>("lines"); // expected on page 1, top to bottom, among others
+    QTest::addColumn<QStringList>("absent");
+
+    QTest::newRow("text-with-line-break")
+        << QStringList{"ReturnText=ACME Mail\\n1 Main St"}
+        << QStringList{"ACME Mail", "1 Main St", "Margaret Holloway"} << QStringList();
+    QTest::newRow("token-from-a-column")
+        << QStringList{"Message1Text=Dear <<salutation>>"}
+        << QStringList{"Margaret Holloway", "Dear Ms. Holloway"} << QStringList{"<<salutation>>"};
+    QTest::newRow("later-set-wins") << QStringList{"ReturnText=First", "ReturnText=Second"}
+                                    << QStringList{"Second"} << QStringList{"First"};
+    QTest::newRow("bool-hides-the-address")
+        << QStringList{"ReturnText=Sender", "AddressVisible=false"} << QStringList{"Sender"}
+        << QStringList{"Margaret Holloway"};
+    QTest::newRow("bool-as-number") << QStringList{"AddressVisible=0", "AddressVisible=1"}
+                                    << QStringList{"Margaret Holloway"} << QStringList();
+}
+
+void TestCli::setReachesProperties()
+{
+    QFETCH(QStringList, settings);
+    QFETCH(QStringList, lines);
+    QFETCH(QStringList, absent);
+
+    QStringList arguments{"print", "--pdf", out(QStringLiteral("set.pdf"))};
+    for (const QString &s : settings)
+        arguments << QStringLiteral("--set") << s;
+    const Run run = quirra(arguments << dataFile("people.csv"));
+    QVERIFY2(run.status == 0, qPrintable(run.err));
+
+    QStringList found;
+    for (const pdfprobe::Line &l : pageLines(out(QStringLiteral("set.pdf")), 1))
+        found << l.text;
+    qsizetype from = 0;
+    for (const QString &expected : lines) {
+        const qsizetype at = found.indexOf(expected, from);
+        QVERIFY2(at >= 0, qPrintable(expected + QStringLiteral(" in ") + found.join(" / ")));
+        from = at + 1;
+    }
+    for (const QString &text : absent)
+        QVERIFY2(!found.join('\n').contains(text), qPrintable(found.join(" / ")));
+}
+
+void TestCli::layoutRoundTrip_data()
+{
+    QTest::addColumn<QStringList>("after"); // options after --layout
+    QTest::addColumn<QString>("returnText");
+    QTest::addColumn<double>("addressLeft"); // points from the paper's edge
+
+    // The saved layout moves the address to 0.5 inch from the envelope's edge.
+    QTest::newRow("layout-alone") << QStringList() << "From the layout" << 36.0;
+    QTest::newRow("set-overrides-layout")
+        << QStringList{"--set", "ReturnText=Overridden"} << "Overridden" << 36.0;
+    // Choosing the piece again lays the items out afresh; texts stay, and
+    // the empty ones get no placeholder.
+    QTest::newRow("piece-reloads-default-boxes")
+        << QStringList{"--piece", "Size 10 - Envelope"} << "From the layout" << 312.0;
+    // --set comes after --piece, wherever it stands on the command line.
+    QTest::newRow("set-applies-after-piece")
+        << QStringList{"--set", "AddressLeft=0.5", "--piece", "Size 10 - Envelope"}
+        << "From the layout" << 36.0;
+}
+
+void TestCli::layoutRoundTrip()
+{
+    QFETCH(QStringList, after);
+    QFETCH(QString, returnText);
+    QFETCH(double, addressLeft);
+
+    const QString layout = out(QStringLiteral("layout.json"));
+    {
+        Quirra control;
+        control.AddressLeft(0.5f);
+        control.ReturnText(QStringLiteral("From the layout"));
+        quirra::JsonPropertyBag bag;
+        control.WriteProperties(bag);
+        bag.save(layout);
+    }
+    const QString pdf = out(QStringLiteral("layout.pdf"));
+    const Run run = quirra(QStringList{"print", "--pdf", pdf, "--layout", layout} + after
+                           << dataFile("people.csv"));
+    QVERIFY2(run.status == 0, qPrintable(run.err));
+    QCOMPARE(pdfprobe::pageSizes(pdf).size(), 4);
+
+    const QList<pdfprobe::Line> lines = pageLines(pdf, 1);
+    QStringList texts;
+    for (const pdfprobe::Line &l : lines)
+        texts << l.text;
+    QCOMPARE(texts, (QStringList{returnText, "Margaret Holloway", "1427 Birchwood Lane",
+                                 "Springfield, IL 62704"}));
+    QVERIFY2(
+        qAbs(lines.at(1).left - addressLeft) < 1,
+        qPrintable(QStringLiteral("left %1, expected %2").arg(lines.at(1).left).arg(addressLeft)));
+}
+
+void TestCli::readsStandardInput()
+{
+    QFile csv(dataFile(QStringLiteral("people.csv")));
+    QVERIFY(csv.open(QIODevice::ReadOnly));
+    const QByteArray bytes = csv.readAll();
+    const QString pdf = out(QStringLiteral("stdin.pdf"));
+    // The second run replaces the first one's file.
+    for (const QStringList &source : {QStringList{"-"}, QStringList()}) {
+        const Run run = quirra(QStringList{"print", "--pdf", pdf} + source, bytes);
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QVERIFY(run.err.contains(QLatin1String("4 records, 4 pages")));
+        QVERIFY(hasWord(pdf, QStringLiteral("Ångström")));
+    }
+    const Run bad = quirra({"print", "--pdf", pdf, "-"}, "first,last\nAnn,\"Lee\n");
+    QCOMPARE(bad.status, 1);
+    QVERIFY2(bad.err.contains(QLatin1String("standard input: line 3: column 2")),
+             qPrintable(bad.err));
+}
+
+void TestCli::unknownPieceWarns()
+{
+    const QString pdf = out(QStringLiteral("unknown.pdf"));
+    const Run run =
+        quirra({"print", "--piece", "No Such Label", "--pdf", pdf, dataFile("people.csv")});
+    QCOMPARE(run.status, 0);
+    QVERIFY2(run.err.contains(QLatin1String("warning: the catalogue has no piece \"No Such "
+                                            "Label\"; \"Size 10 - Envelope\" is used")),
+             qPrintable(run.err));
+    const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
+    QCOMPARE(sizes.size(), 4);
+    QCOMPARE(sizes.first(), QSizeF(684, 297));
+}
+
+void TestCli::progressOnRequestOnly()
+{
+    const QString pdf = out(QStringLiteral("progress.pdf"));
+    const Run quiet = quirra({"print", "--pdf", pdf, examples("addresses.csv")});
+    QCOMPARE(quiet.status, 0);
+    QVERIFY2(!quiet.err.contains(QLatin1Char('\r')), qPrintable(quiet.err));
+
+    const Run shown = quirra({"print", "--progress", "--piece", "5160 - Address Labels", "--pdf",
+                              pdf, examples("addresses.csv")});
+    QCOMPARE(shown.status, 0);
+    QVERIFY2(shown.err.contains(QLatin1String("100%  69 records\n")), qPrintable(shown.err));
+    QVERIFY2(shown.err.contains(QLatin1String("100%  page 3 of 3\n")), qPrintable(shown.err));
+}
+
+void TestCli::previewWithoutDisplay()
+{
+    QProcess process;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove(QStringLiteral("DISPLAY"));
+    env.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    env.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    process.setProcessEnvironment(env);
+    process.start(QStringLiteral(QUIRRA_BINARY), {"preview", dataFile("people.csv")});
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(process.readAllStandardError().contains("no display"));
+}
+
+QTEST_MAIN(TestCli)
+#include "tst_cli.moc"

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "pdfprobe.h"
+#include "previewwindow.h"
+#include "recordfeed.h"
+
+#include "control/quirra.h"
+#include "surface/printsurface.h"
+
+#include <QApplication>
+#include <QPrinter>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace quirra;
+
+class TestPreviewWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void exportWritesTheRunAndRestoresThePrinter();
+    void closingStopsTheFeed();
+
+private:
+    void feed(PreviewWindow &window);
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+void TestPreviewWindow::initTestCase()
+{
+    if (QStandardPaths::findExecutable(QStringLiteral("pdfinfo")).isEmpty())
+        QSKIP("pdfinfo (poppler-utils) is not installed; scripts/install-deps installs it");
+}
+
+void TestPreviewWindow::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_dir->isValid());
+}
+
+void TestPreviewWindow::feed(PreviewWindow &window)
+{
+    RecordFeed records(*window.control());
+    QString error;
+    QVERIFY2(records.open(QStringLiteral(QUIRRA_TEST_DATA "/people.csv"), &error),
+             qPrintable(error));
+    QVERIFY2(records.feed({}, &error), qPrintable(error));
+    QCOMPARE(records.records(), qint64(4));
+    window.control()->PreviewNow();
+}
+
+void TestPreviewWindow::exportWritesTheRunAndRestoresThePrinter()
+{
+    PreviewWindow window;
+    feed(window);
+    QPrinter *printer = window.control()->printer();
+    const QPrinter::OutputFormat format = printer->outputFormat();
+    const QString file = printer->outputFileName();
+
+    const QString pdf = m_dir->filePath(QStringLiteral("export.pdf"));
+    for (int round = 0; round < 2; ++round) { // the second replaces the first
+        QVERIFY(window.exportPdfTo(pdf));
+        QCOMPARE(pdfprobe::pageSizes(pdf).size(), 4);
+        QCOMPARE(printer->outputFormat(), format);
+        QCOMPARE(printer->outputFileName(), file);
+    }
+    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden), QStringList{"export.pdf"});
+}
+
+void TestPreviewWindow::closingStopsTheFeed()
+{
+    PreviewWindow window;
+    window.show();
+    RecordFeed records(*window.control());
+    QString error;
+    QVERIFY(records.open(QStringLiteral(QUIRRA_TEST_DATA "/people.csv"), &error));
+    const bool fed = records.feed(
+        [&](qint64 count, qint64) {
+            if (count == 2)
+                window.close();
+            return window.isVisible();
+        },
+        &error);
+    QVERIFY(!fed);
+    QCOMPARE(records.records(), qint64(2));
+    QVERIFY2(error.contains(QLatin1String("stopped after 2 records")), qPrintable(error));
+    // The two records fed so far are a whole document.
+    window.control()->PreviewNow();
+    QCOMPARE(window.control()->surface()->pageCount(), 2);
+}
+
+QTEST_MAIN(TestPreviewWindow)
+#include "tst_previewwindow.moc"
