@@ -10,7 +10,6 @@
 #include "progressbar.h"
 #include "recordfeed.h"
 #include "runoptions.h"
-#include "spoolprogress.h"
 
 #include "catalogue/catalogue.h"
 #include "catalogue/piecespec.h"
@@ -231,27 +230,33 @@ int runPrint(const QStringList &arguments)
         printerFailed = true;
     });
 
-    const int perPage = int(control.PieceNumAcross()) * int(control.PieceNumDown());
-    std::unique_ptr<SpoolProgress> watcher;
+    const qint64 perPage =
+        qMax<qint64>(1, qint64(control.PieceNumAcross()) * qint64(control.PieceNumDown()));
+    const qint64 pagesExpected = (feed.records() + perPage - 1) / perPage;
+    auto pageDetail = [](qint64 page, qint64 pages) {
+        return QStringLiteral("page %1 of %2").arg(page).arg(pages);
+    };
     if (bar) {
-        watcher = std::make_unique<SpoolProgress>(spoolPath, feed.records(), perPage, bar.get());
-        watcher->start();
+        // The run keeps this thread busy; the surface says when it begins a page.
+        control.surface()->setPageObserver([&](int page) {
+            const double fraction = pagesExpected > 0 ? double(page) / double(pagesExpected) : 1.0;
+            bar->update(QStringLiteral("printing"), qMin(fraction, 1.0),
+                        pageDetail(page, pagesExpected));
+        });
     }
     try {
         control.PrintNow();
     } catch (const Error &e) {
-        if (watcher)
-            watcher->stop();
+        control.surface()->setPageObserver({});
         if (bar)
             bar->interrupt();
         say(QStringLiteral("quirra print: %1").arg(e.message()));
         return 1;
     }
-    if (watcher)
-        watcher->stop();
+    control.surface()->setPageObserver({});
     const int pages = control.surface()->pageCount();
     if (bar)
-        bar->finish(QStringLiteral("printing"), 1.0, SpoolProgress::pageDetail(pages, pages));
+        bar->finish(QStringLiteral("printing"), 1.0, pageDetail(pages, pages));
     if (printerFailed || control.surface()->errorCode() != 0) {
         if (!printerFailed)
             say(QStringLiteral("quirra print: Ptr.error = %1").arg(control.surface()->errorCode()));

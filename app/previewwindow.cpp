@@ -66,8 +66,12 @@ PreviewWindow::PreviewWindow(QWidget *parent)
     save->setObjectName(QStringLiteral("save_layout_act"));
     save->setShortcut(QKeySequence::Save);
     m_toolBar->addSeparator();
-    // The piece, customization and layout dialogs and the property page go
-    // here, as a group of their own.
+    QAction *piece = m_toolBar->addAction(tr("Piece…"), this, &PreviewWindow::choosePiece);
+    piece->setObjectName(QStringLiteral("choose_piece_act"));
+    QAction *customize = m_toolBar->addAction(tr("Customize…"), this,
+                                              &PreviewWindow::customizePiece);
+    customize->setObjectName(QStringLiteral("customize_piece_act"));
+    m_toolBar->addSeparator();
     QAction *print = m_toolBar->addAction(tr("Print…"), this, &PreviewWindow::print);
     print->setObjectName(QStringLiteral("print_act"));
     print->setShortcut(QKeySequence::Print);
@@ -101,6 +105,38 @@ void PreviewWindow::complain(const QString &text)
 {
     qCWarning(lcApp).noquote() << text;
     QMessageBox::warning(this, windowTitle(), text);
+}
+
+void PreviewWindow::choosePiece()
+{
+    bool changed = false;
+    runDesignStep([&] { m_control->PieceSelectDialogShow(changed); });
+    if (changed)
+        refresh();
+}
+
+void PreviewWindow::customizePiece()
+{
+    bool changed = false;
+    runDesignStep([&] { m_control->PieceCustomizationDialogShow(changed); });
+    if (changed)
+        refresh();
+}
+
+void PreviewWindow::runDesignStep(const std::function<void()> &step)
+{
+    try {
+        step();
+    } catch (const Error &e) {
+        complain(e.message());
+    }
+}
+
+void PreviewWindow::refresh()
+{
+    // The spool still holds the run: show it again on the new piece.
+    runDesignStep([this] { m_control->PreviewNow(); });
+    updateTitle();
 }
 
 void PreviewWindow::saveLayout()

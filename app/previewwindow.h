@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include <QMainWindow>
 
 class QAction;
@@ -36,6 +38,10 @@ public:
 public Q_SLOTS:
     /** @brief Asks for a file and saves the control's properties to it as a JSON layout. */
     void saveLayout();
+    /** @brief Opens the piece selection dialog; on OK shows the run on the new piece. */
+    void choosePiece();
+    /** @brief Opens the customization dialog on the current piece; on OK shows the run again. */
+    void customizePiece();
     /** @brief Writes the control's properties to path; false with a message box on failure. */
     bool saveLayoutTo(const QString &path);
     /** @brief Opens the print dialog on the control's printer and prints the run there. */
@@ -48,6 +54,8 @@ public Q_SLOTS:
 private:
     bool runPrint(const QString &what);
     void complain(const QString &text);
+    void runDesignStep(const std::function<void()> &step);
+    void refresh();
     void updateTitle();
 
     Quirra *m_control;

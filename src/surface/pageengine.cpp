@@ -103,6 +103,8 @@ public:
     void drawFrame(const QRectF &box);
     QSizeF printableSize() const;
 
+    std::function<void(int)> pageObserver;
+
     // settings
     bool preview = true;
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
@@ -226,6 +228,8 @@ void PageEngine::Private::beginPage()
         painter.translate(originLeft, originTop);
     }
     ++pagesInDoc;
+    if (pageObserver)
+        pageObserver(pagesInDoc);
     currentX = 0;
     currentY = 0;
     drawMarginLine(header, true);
@@ -698,5 +702,10 @@ int PageEngine::zoom() const
 }
 
 void PageEngine::previewChanged() {}
+
+void PageEngine::setPageObserver(std::function<void(int pagesBegun)> observer)
+{
+    d->pageObserver = std::move(observer);
+}
 
 } // namespace quirra

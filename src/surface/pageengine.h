@@ -7,6 +7,7 @@
 
 #include <QSizeF>
 
+#include <functional>
 #include <memory>
 
 class QPainter;
@@ -123,6 +124,13 @@ public:
     int previewPage() const override;
     void setZoom(int percent) override;
     int zoom() const override;
+
+    /**
+     * @brief Called each time the document begins a page, with the number of
+     * pages begun so far in this document: a host shows progress with it
+     * while a long run keeps the thread busy. Empty: nobody is told.
+     */
+    void setPageObserver(std::function<void(int pagesBegun)> observer);
 
 protected:
     /**

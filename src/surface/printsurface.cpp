@@ -16,7 +16,8 @@ namespace {
 // Grey ground round the page, in pixels, also when scrolled to an edge.
 constexpr int pageGap = 16;
 constexpr int shadowDepth = 6;
-const QColor groundColor(128, 128, 128);
+// A soft grey, so the white page stands out without glaring.
+const QColor groundColor(0xb4, 0xb9, 0xbf);
 } // namespace
 
 PrintSurface::PrintSurface(QWidget *parent)

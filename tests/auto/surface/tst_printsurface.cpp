@@ -121,9 +121,10 @@ void TestPrintSurface::pageOnShow()
         return;
     }
     const QImage shot = surface.viewport()->grab().toImage();
-    QCOMPARE(QColor(shot.pixel(2, 2)), QColor(128, 128, 128));
+    const int ground = qGray(shot.pixel(2, 2));
+    QVERIFY(ground > 128 && ground < 230); // a grey round the page
     QCOMPARE(QColor(shot.pixel(rect.center())), QColor(Qt::white));
-    QVERIFY(qGray(shot.pixel(rect.bottomRight() + QPoint(3, 3))) < 128); // shadow
+    QVERIFY(qGray(shot.pixel(rect.bottomRight() + QPoint(3, 3))) < ground - 16); // shadow
     // The frame of page 1, 1.25 inch from the paper's corner.
     const QPoint onFrame =
         rect.topLeft() + QPoint(int(2.25 * pixelsPerInch), int((1800 + 60) * pixelsPerInch / 1440));
