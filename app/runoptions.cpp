@@ -3,7 +3,7 @@
 #include "runoptions.h"
 
 #include "catalogue/catalogue.h"
-#include "catalogue/piecespec.h"
+#include "catalogue/pieceentry.h"
 #include "control/jsonpropertybag.h"
 #include "control/quirra.h"
 #include "model/error.h"

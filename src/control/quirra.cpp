@@ -4,7 +4,7 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/pieceloader.h"
-#include "catalogue/piecespec.h"
+#include "catalogue/pieceentry.h"
 #include "control/fontconversion.h"
 #include "control/logging_p.h"
 #include "control/previewpane.h"

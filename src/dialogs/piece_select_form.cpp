@@ -3,7 +3,7 @@
 #include "dialogs/piece_select_form.h"
 
 #include "catalogue/catalogue.h"
-#include "catalogue/piecespec.h"
+#include "catalogue/pieceentry.h"
 #include "dialogs/logging_p.h"
 #include "dialogs/piece_customization_form.h"
 #include "settings/files.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "catalogue/piecespec.h"
+#include "catalogue/pieceentry.h"
 #include "quirracontrol_export.h"
 
 #include <QWidget>

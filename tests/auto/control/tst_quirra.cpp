@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "control/quirra.h"
 
-#include "catalogue/piecespec.h"
+#include "catalogue/pieceentry.h"
 #include "control/previewpane.h"
 #include "model/error.h"
 #include "model/piecemodel.h"

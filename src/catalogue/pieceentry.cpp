@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "catalogue/piecespec.h"
+#include "catalogue/pieceentry.h"
 
 namespace quirra {
 
