@@ -409,6 +409,13 @@ int runPieces(const QStringList &arguments)
         say(QStringLiteral("quirra pieces: no product \"%1\" in %2").arg(only, file));
         return 1;
     }
+    // A damaged or foreign file reads as a catalogue of nothing.
+    if (listed == 0) {
+        say(QStringLiteral("quirra pieces: the catalogue %1 lists no pieces; is it a catalogue "
+                           "file? Set QUIRRA_SYSTEM_DIR to the folder of a complete one")
+                .arg(file));
+        return 1;
+    }
     return 0;
 }
 
@@ -452,6 +459,20 @@ int main(int argc, char **argv)
     // The library's debug lines are for its developers; QT_LOGGING_RULES
     // still turns them on.
     QLoggingCategory::setFilterRules(QStringLiteral("quirra.*.debug=false"));
+    // A server or a cron job has no session runtime folder; Qt says so on
+    // every start, which tells the user nothing they can act on.
+    static const QtMessageHandler qtHandler = qInstallMessageHandler(nullptr);
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context,
+                              const QString &message) {
+        if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+            return;
+        if (qtHandler) {
+            qtHandler(type, context, message);
+        } else {
+            const QByteArray line = qFormatLogMessage(type, context, message).toLocal8Bit();
+            std::fprintf(stderr, "%s\n", line.constData());
+        }
+    });
     InterruptCleanup::install();
     // Listing the catalogue needs no fonts at all.
     const std::unique_ptr<QCoreApplication> app(command == QLatin1String("pieces")
