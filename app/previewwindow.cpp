@@ -6,6 +6,7 @@
 #include "pdfoutput.h"
 
 #include "control/jsonpropertybag.h"
+#include "control/propertysheet.h"
 #include "control/quirra.h"
 #include "model/error.h"
 #include "surface/printsurface.h"
@@ -71,12 +72,20 @@ PreviewWindow::PreviewWindow(QWidget *parent)
     QAction *customize = m_toolBar->addAction(tr("Customize…"), this,
                                               &PreviewWindow::customizePiece);
     customize->setObjectName(QStringLiteral("customize_piece_act"));
+    QAction *layout = m_toolBar->addAction(tr("Layout…"), this, &PreviewWindow::editLayout);
+    layout->setObjectName(QStringLiteral("edit_layout_act"));
+    QAction *properties =
+        m_toolBar->addAction(tr("Properties…"), this, &PreviewWindow::showProperties);
+    properties->setObjectName(QStringLiteral("properties_act"));
     m_toolBar->addSeparator();
     QAction *print = m_toolBar->addAction(tr("Print…"), this, &PreviewWindow::print);
     print->setObjectName(QStringLiteral("print_act"));
     print->setShortcut(QKeySequence::Print);
     QAction *pdf = m_toolBar->addAction(tr("Export PDF…"), this, &PreviewWindow::exportPdf);
     pdf->setObjectName(QStringLiteral("export_pdf_act"));
+    m_toolBar->addSeparator();
+    QAction *about = m_toolBar->addAction(tr("About"), this, &PreviewWindow::showAbout);
+    about->setObjectName(QStringLiteral("about_act"));
 
     QAction *quit = new QAction(tr("Quit"), this);
     quit->setShortcut(QKeySequence::Quit);
@@ -121,6 +130,26 @@ void PreviewWindow::customizePiece()
     runDesignStep([&] { m_control->PieceCustomizationDialogShow(changed); });
     if (changed)
         refresh();
+}
+
+void PreviewWindow::editLayout()
+{
+    bool changed = false;
+    runDesignStep([&] { m_control->PieceLayoutDialogShow(changed); });
+    if (changed)
+        refresh();
+}
+
+void PreviewWindow::showProperties()
+{
+    PropertySheet sheet(m_control, this);
+    connect(&sheet, &PropertySheet::applied, this, &PreviewWindow::refresh);
+    sheet.exec();
+}
+
+void PreviewWindow::showAbout()
+{
+    m_control->ShowAboutBox();
 }
 
 void PreviewWindow::runDesignStep(const std::function<void()> &step)

@@ -19,7 +19,7 @@ namespace quirra {
  *
  * The toolbar keeps its actions in groups; the piece, customization and
  * layout dialogs and the property page get a group of their own between the
- * layout and the output actions.
+ * layout and the output actions, and the about box comes last.
  */
 class PreviewWindow : public QMainWindow
 {
@@ -42,6 +42,15 @@ public Q_SLOTS:
     void choosePiece();
     /** @brief Opens the customization dialog on the current piece; on OK shows the run again. */
     void customizePiece();
+    /** @brief Opens the layout editor on the five items; on OK shows the run again. */
+    void editLayout();
+    /**
+     * @brief Opens the control's property sheet; every Apply and OK shows the
+     * run again on what the page wrote.
+     */
+    void showProperties();
+    /** @brief Shows the control's about box. */
+    void showAbout();
     /** @brief Writes the control's properties to path; false with a message box on failure. */
     bool saveLayoutTo(const QString &path);
     /** @brief Opens the print dialog on the control's printer and prints the run there. */

@@ -5,11 +5,14 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/pieceloader.h"
 #include "catalogue/pieceentry.h"
+#include "control/aboutbox.h"
 #include "control/fontconversion.h"
+#include "control/layoutcopy.h"
 #include "control/logging_p.h"
 #include "control/previewpane.h"
 #include "control/propertybag.h"
 #include "dialogs/piece_customization_form.h"
+#include "dialogs/piece_layout_edit_form.h"
 #include "dialogs/piece_select_form.h"
 #include "model/error.h"
 #include "model/piecemodel.h"
@@ -28,6 +31,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 #include <exception>
 
 using namespace quirra;
@@ -341,6 +345,26 @@ void Quirra::PieceCustomizationDialogShow(bool &changed)
     changed = ShowPieceCustomizationDialog(this, entry);
     if (changed)
         ApplyPiece(entry);
+}
+
+void Quirra::PieceLayoutDialogShow(bool &changed)
+{
+    // The editor takes the items in argument order and gives them back so.
+    const PieceModel &shared = model();
+    std::array<Item, ItemCount> items;
+    for (int i = 0; i < ItemCount; ++i)
+        items[i] = shared.item(ArgumentOrder[i]);
+    changed = EditPieceLayout(this, shared.piece.PieceWidth, shared.piece.PieceHeight, items);
+    if (!changed)
+        return;
+    for (int i = 0; i < ItemCount; ++i)
+        LayoutCopy::writeItem(*this, ArgumentOrder[i], items[i]);
+}
+
+void Quirra::ShowAboutBox()
+{
+    AboutBox box(this);
+    box.exec();
 }
 
 void Quirra::ApplyPiece(const PieceSpec &entry)

@@ -160,6 +160,15 @@ public:
      * accepted.
      */
     Q_INVOKABLE void PieceCustomizationDialogShow(bool &changed);
+    /**
+     * @brief Lets the user place the five items on the piece in the layout
+     * editor. On OK every item's fields are written back through the item
+     * properties (lengths in inches), each announcing its own name; changed
+     * tells whether the user accepted.
+     */
+    Q_INVOKABLE void PieceLayoutDialogShow(bool &changed);
+    /** @brief Shows the modal box with the product's name, version and credits. */
+    Q_INVOKABLE void ShowAboutBox();
 
     /**
      * @brief The printer the control prints on. A host may name a system

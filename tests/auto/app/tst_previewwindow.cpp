@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "modaldriver.h"
 #include "pdfprobe.h"
 #include "previewwindow.h"
 #include "recordfeed.h"
@@ -7,6 +8,8 @@
 #include "control/quirra.h"
 #include "surface/printsurface.h"
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QPrinter>
 #include <QStandardPaths>
@@ -24,6 +27,8 @@ private Q_SLOTS:
     void init();
     void exportWritesTheRunAndRestoresThePrinter();
     void closingStopsTheFeed();
+    void designActionsRefreshWhenAccepted_data();
+    void designActionsRefreshWhenAccepted();
 
 private:
     void feed(PreviewWindow &window);
@@ -91,6 +96,60 @@ void TestPreviewWindow::closingStopsTheFeed()
     // The two records fed so far are a whole document.
     window.control()->PreviewNow();
     QCOMPARE(window.control()->surface()->pageCount(), 2);
+}
+
+namespace {
+void click(QWidget *parent, const char *name)
+{
+    auto *button = parent->findChild<QAbstractButton *>(QLatin1String(name));
+    QVERIFY2(button, name);
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+} // namespace
+
+void TestPreviewWindow::designActionsRefreshWhenAccepted_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("dialog");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("refreshed");
+    QTest::newRow("layout-ok") << "edit_layout_act"
+                               << "piece_layout_edit_form"
+                               << "ok_btn" << true;
+    QTest::newRow("layout-cancel") << "edit_layout_act"
+                                   << "piece_layout_edit_form"
+                                   << "cancel_btn" << false;
+    QTest::newRow("properties-ok") << "properties_act"
+                                   << "property_sheet"
+                                   << "ok_btn" << true;
+    QTest::newRow("properties-cancel") << "properties_act"
+                                       << "property_sheet"
+                                       << "cancel_btn" << false;
+    QTest::newRow("about") << "about_act"
+                           << "about_box"
+                           << "ok_btn" << false;
+}
+
+void TestPreviewWindow::designActionsRefreshWhenAccepted()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, dialog);
+    QFETCH(QString, button);
+    QFETCH(bool, refreshed);
+    PreviewWindow window;
+    window.show();
+    feed(window);
+    // A refresh shows the run again from its first page.
+    window.control()->surface()->setPreviewPage(3);
+    auto *act = window.findChild<QAction *>(action);
+    QVERIFY(act);
+    ModalDriver driver;
+    driver.onModal(dialog, [&](QDialog *shown) { click(shown, qPrintable(button)); });
+    act->trigger();
+
+    QVERIFY(!driver.watchdogFired());
+    QCOMPARE(driver.actionsRun(), 1);
+    QCOMPARE(window.control()->surface()->previewPage(), refreshed ? 1 : 3);
 }
 
 QTEST_MAIN(TestPreviewWindow)

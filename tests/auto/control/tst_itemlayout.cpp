@@ -1,0 +1,483 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+//
+// The property page on a control: what it reads, what Apply writes and in
+// which order, the miniature, the three dialogs on the working copy, and the
+// control's own layout editor method.
+#include "modaldriver.h"
+
+#include "control/itemlayout.h"
+#include "control/propertysheet.h"
+#include "control/propertytable.h"
+#include "control/quirra.h"
+#include "dialogs/piece_layout_edit_form.h"
+#include "model/piecemodel.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace quirra;
+
+namespace {
+
+const QStringList Fields = {"Border", "Font", "Height",    "HorzAlign", "Left",  "LineSpacing",
+                            "Text",   "Top",  "VertAlign", "Visible",   "Width", "Wrap"};
+
+QStringList itemNames(const QStringList &items)
+{
+    QStringList names;
+    for (const QString &item : items) {
+        for (const QString &field : Fields)
+            names.append(item + field);
+    }
+    return names;
+}
+
+// What Apply writes whatever the page holds, in its order.
+QStringList applyOrder()
+{
+    return QStringList{"IsCustom",     "PieceMarginLeft",  "PieceMarginTop", "PieceNumAcross",
+                       "PieceNumDown", "PieceOrientation", "PageSize",       "PageSizeNum",
+                       "PieceHeight",  "PieceWidth",       "PiecePitchHorz", "PiecePitchVert",
+                       "PrinterLeft",  "PrinterTop"} +
+           itemNames({"Address", "Return", "Message1", "Message2", "Stamp"});
+}
+
+QStringList emitted(const QSignalSpy &spy)
+{
+    QStringList names;
+    for (const QList<QVariant> &arguments : spy)
+        names.append(arguments.at(0).toString());
+    return names;
+}
+
+// A value of the property's saved type that differs for every seed.
+QVariant distinctValue(const PropertyInfo &property, int seed)
+{
+    switch (property.savedType.id()) {
+    case QMetaType::Float:
+        return QVariant::fromValue(0.125f * float(seed % 40 + 1));
+    case QMetaType::Short:
+        return QVariant::fromValue(short(seed % 300 + 2));
+    case QMetaType::Bool:
+        return QVariant(seed % 2 == 0);
+    case QMetaType::Int: // the alignments
+        return QVariant(seed % 3);
+    case QMetaType::QString:
+        return QVariant(QStringLiteral("text %1").arg(seed));
+    default: {
+        QFont font(seed % 2 ? QStringLiteral("DejaVu Sans") : QStringLiteral("Liberation Serif"));
+        font.setPointSize(6 + seed % 20);
+        font.setBold(seed % 3 == 0);
+        return QVariant::fromValue(font);
+    }
+    }
+}
+
+void click(QWidget *parent, const char *name)
+{
+    auto *button = parent->findChild<QAbstractButton *>(QLatin1String(name));
+    QVERIFY2(button, name);
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void pickPiece(QDialog *dialog, const QString &product, const QString &piece)
+{
+    auto *products = dialog->findChild<QComboBox *>(QStringLiteral("product_cbo"));
+    auto *list = dialog->findChild<QListWidget *>(QStringLiteral("piece_lst"));
+    QVERIFY(products && list);
+    products->setCurrentIndex(products->findText(product));
+    const QList<QListWidgetItem *> found = list->findItems(piece, Qt::MatchExactly);
+    QVERIFY2(!found.isEmpty(), qPrintable(piece));
+    list->setCurrentItem(found.first());
+}
+
+// In the layout editor: pick item (1..5) and type a length into a field.
+void editField(QDialog *dialog, int item, const char *field, const QString &inches)
+{
+    auto *form = qobject_cast<piece_layout_edit_form *>(dialog);
+    QVERIFY(form);
+    form->selectItem(item);
+    auto *edit = dialog->findChild<QLineEdit *>(QLatin1String(field));
+    QVERIFY2(edit, field);
+    edit->setText(inches);
+}
+
+QString text(const ItemLayout &page, const char *label)
+{
+    return page.findChild<QLabel *>(QLatin1String(label))->text();
+}
+
+} // namespace
+
+class TestItemLayout : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { PieceModel::resetShared(); }
+    void cleanup() { qDeleteAll(QApplication::topLevelWidgets()); }
+
+    void applyWritesInOrder_data();
+    void applyWritesInOrder();
+    void everyPropertyRoundTrips();
+    void itemInformation_data();
+    void itemInformation();
+    void miniatureInProportion_data();
+    void miniatureInProportion();
+    void dialogsWorkOnTheCopy_data();
+    void dialogsWorkOnTheCopy();
+    void doubleClickEditsAndMarksChanged();
+    void tooLargeAPieceIsRefused();
+    void sheetAppliesAndClearsTheMark();
+    void layoutDialogShow_data();
+    void layoutDialogShow();
+};
+
+void TestItemLayout::applyWritesInOrder_data()
+{
+    QTest::addColumn<bool>("renamed");
+    QTest::newRow("same-name-is-not-written") << false;
+    QTest::newRow("other-name-first-then-all") << true;
+}
+
+void TestItemLayout::applyWritesInOrder()
+{
+    QFETCH(bool, renamed);
+    Quirra control;
+    control.PieceName(QStringLiteral("5160 - Address Labels"));
+    ItemLayout page;
+    page.setSelectedControls({&control});
+    if (renamed)
+        control.PieceName(QStringLiteral("Size 10 - Envelope"));
+    QSignalSpy spy(&control, &Quirra::propertyChanged);
+    page.applyChanges();
+
+    const QStringList names = emitted(spy);
+    const QStringList expected = applyOrder();
+    if (renamed) {
+        // The name loads its piece and announces it (1 + 14 + 60) before
+        // the page's own values follow.
+        QCOMPARE(names.size(), 1 + 14 + 60 + expected.size());
+        QCOMPARE(names.first(), QStringLiteral("PieceName"));
+        QCOMPARE(names.mid(names.size() - expected.size()), expected);
+    } else {
+        QCOMPARE(names, expected);
+    }
+    QCOMPARE(control.PieceName(), QStringLiteral("5160 - Address Labels"));
+    QCOMPARE(int(control.PieceNumAcross()), 3);
+}
+
+void TestItemLayout::everyPropertyRoundTrips()
+{
+    const QStringList names = QStringList{"PieceName"} + applyOrder();
+    Quirra control;
+    control.PieceName(QStringLiteral("5163 - Shipping Labels"));
+    for (int i = 1; i < names.size(); ++i)
+        PropertyTable::find(names[i])->write(control,
+                                             distinctValue(*PropertyTable::find(names[i]), i));
+    QVariantList before;
+    for (const QString &name : names)
+        before.append(PropertyTable::find(name)->read(control));
+
+    ItemLayout page;
+    page.setSelectedControls({&control});
+    // Everything the page read is overwritten on the control.
+    control.PieceName(QStringLiteral("Size 10 - Envelope"));
+    for (int i = 1; i < names.size(); ++i)
+        PropertyTable::find(names[i])->write(control,
+                                             distinctValue(*PropertyTable::find(names[i]), i + 37));
+    page.applyChanges();
+
+    for (int i = 0; i < names.size(); ++i)
+        QVERIFY2(PropertyTable::find(names[i])->read(control) == before[i], qPrintable(names[i]));
+}
+
+void TestItemLayout::itemInformation_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("item");
+    QTest::addColumn<QString>("shownName");
+    QTest::addColumn<float>("top");
+    QTest::addColumn<QString>("shownTop");
+    QTest::newRow("thousandths-rounded") << "lblAdd"
+                                         << "Address"
+                                         << "Address" << 1.23456f << "1.235";
+    QTest::newRow("half-down-to-even") << "lblRet"
+                                       << "Return"
+                                       << "Return" << 1.0625f << "1.062";
+    QTest::newRow("half-up-to-even") << "lblM1"
+                                     << "Message1"
+                                     << "Message 1" << 1.1875f << "1.188";
+    QTest::newRow("whole-inch-bare") << "lblM2"
+                                     << "Message2"
+                                     << "Message 2" << 2.0f << "2";
+    QTest::newRow("negative") << "lblStamp"
+                              << "Stamp"
+                              << "Stamp" << -0.25f << "-0.25";
+    QTest::newRow("past-16-bits") << "lblStamp"
+                                  << "Stamp"
+                                  << "Stamp" << 40.0f << "Overflow";
+}
+
+void TestItemLayout::itemInformation()
+{
+    QFETCH(QString, label);
+    QFETCH(QString, item);
+    QFETCH(QString, shownName);
+    QFETCH(float, top);
+    QFETCH(QString, shownTop);
+    Quirra control;
+    control.setProperty(qPrintable(item + "Top"), top);
+    control.setProperty(qPrintable(item + "Left"), 0.5f);
+    control.setProperty(qPrintable(item + "Height"), 0.75f);
+    control.setProperty(qPrintable(item + "Width"), 1.125f);
+    ItemLayout page;
+    page.setSelectedControls({&control});
+    page.show();
+    QTest::mouseClick(page.findChild<QLabel *>(label), Qt::LeftButton);
+
+    QCOMPARE(text(page, "lblItem"), shownName);
+    QCOMPARE(text(page, "lblItop"), "Top = " + shownTop);
+    QCOMPARE(text(page, "lblIleft"), QStringLiteral("Left = 0.5"));
+    QCOMPARE(text(page, "lblIheight"), QStringLiteral("Height = 0.75"));
+    QCOMPARE(text(page, "lblIwidth"), QStringLiteral("Width = 1.125"));
+    QCOMPARE(text(page, "lblPHeight"), QStringLiteral("Height = 4.125"));
+    QCOMPARE(text(page, "lblPWidth"), QStringLiteral("Width = 9.5"));
+    QCOMPARE(page.isChanged(), false); // a click only picks
+}
+
+void TestItemLayout::miniatureInProportion_data()
+{
+    QTest::addColumn<QString>("piece");
+    QTest::newRow("envelope") << "Size 10 - Envelope";
+    QTest::newRow("flat-label") << "5160 - Address Labels";
+    QTest::newRow("shipping-label") << "5163 - Shipping Labels";
+}
+
+void TestItemLayout::miniatureInProportion()
+{
+    QFETCH(QString, piece);
+    Quirra control;
+    control.PieceName(piece);
+    control.AddressLeft(control.PieceWidth() / 3); // off the default layout
+    ItemLayout page;
+    page.resize(760, 420);
+    page.setSelectedControls({&control});
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page));
+
+    auto *box = page.findChild<QFrame *>(QStringLiteral("piecebox"));
+    QVERIFY(box && box->isVisible());
+    const double scale = box->width() / double(control.PieceWidth());
+    QVERIFY(qAbs(box->height() - control.PieceHeight() * scale) <= 1.0);
+    const QRect room = box->parentWidget()->rect();
+    QVERIFY(room.contains(box->geometry()));
+    QVERIFY(box->width() > room.width() * 0.8 || box->height() > room.height() * 0.8);
+
+    const std::pair<const char *, const char *> shapes[] = {{"shpAdd", "Address"},
+                                                            {"shpRet", "Return"},
+                                                            {"shpM1", "Message1"},
+                                                            {"shpM2", "Message2"},
+                                                            {"shpStamp", "Stamp"}};
+    for (auto [shapeName, item] : shapes) {
+        auto *shape = box->findChild<QFrame *>(QLatin1String(shapeName));
+        QVERIFY2(shape, shapeName);
+        const auto inches = [&](const char *field) {
+            return control.property(qPrintable(QLatin1String(item) + QLatin1String(field)))
+                .toDouble();
+        };
+        const QRectF expected(inches("Left") * scale, inches("Top") * scale,
+                              inches("Width") * scale, inches("Height") * scale);
+        const QRect got = shape->geometry();
+        QVERIFY2(qAbs(got.x() - expected.x()) <= 1 && qAbs(got.y() - expected.y()) <= 1 &&
+                     qAbs(got.width() - std::max(1.0, expected.width())) <= 1 &&
+                     qAbs(got.height() - std::max(1.0, expected.height())) <= 1,
+                 shapeName);
+    }
+}
+
+void TestItemLayout::dialogsWorkOnTheCopy_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("close");
+    QTest::newRow("selection-cancelled") << "btnDotDotDot"
+                                         << "cancel_btn";
+    QTest::newRow("selection-accepted") << "btnDotDotDot"
+                                        << "ok_btn";
+    QTest::newRow("customization-cancelled") << "btnPieceCust"
+                                             << "cancel_btn";
+    QTest::newRow("customization-accepted") << "btnPieceCust"
+                                            << "ok_btn";
+    QTest::newRow("layout-editor-cancelled") << "btnPieceLayout"
+                                             << "cancel_btn";
+    QTest::newRow("layout-editor-accepted") << "btnPieceLayout"
+                                            << "ok_btn";
+}
+
+void TestItemLayout::dialogsWorkOnTheCopy()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, close);
+    const bool accepted = close == QLatin1String("ok_btn");
+    Quirra control;
+    ItemLayout page;
+    page.setSelectedControls({&control});
+    page.show();
+    const PieceModel shared = PieceModel::shared();
+    QSignalSpy marks(&page, &ItemLayout::changedMarkChanged);
+    QSignalSpy notices(&control, &Quirra::propertyChanged);
+
+    // Each dialog is changed, then closed by the row's button.
+    ModalDriver driver;
+    const auto closeWith = [close](QDialog *dialog) { click(dialog, qPrintable(close)); };
+    driver.onModal(QStringLiteral("piece_select_form"), [=](QDialog *dialog) {
+        pickPiece(dialog, QStringLiteral("Address Labels (US Letter)"),
+                  QStringLiteral("5160 - Address Labels"));
+        closeWith(dialog);
+    });
+    driver.onModal(QStringLiteral("piece_customization_form"), [=](QDialog *dialog) {
+        dialog->findChild<QLineEdit *>(QStringLiteral("nr_down_txt"))->setText(QStringLiteral("2"));
+        closeWith(dialog);
+    });
+    driver.onModal(QStringLiteral("piece_layout_edit_form"), [=](QDialog *dialog) {
+        editField(dialog, 3, "left_txt", QStringLiteral("0.5")); // the stamp
+        closeWith(dialog);
+    });
+    click(&page, qPrintable(button));
+    QVERIFY(!driver.watchdogFired());
+    QCOMPARE(driver.actionsRun(), 1);
+
+    const PieceModel &copy = page.workingCopy().model();
+    if (!accepted) {
+        QVERIFY(copy.piece == shared.piece && copy.items == shared.items);
+    } else if (button == QLatin1String("btnDotDotDot")) {
+        QCOMPARE(copy.piece.PieceName, QStringLiteral("5160 - Address Labels"));
+        QCOMPARE(int(copy.piece.PieceNumAcross), 3);
+        QCOMPARE(text(page, "lblPName"), QStringLiteral("5160 - Address Labels"));
+        QCOMPARE(text(page, "lblPWidth"), QStringLiteral("Width = 2.625"));
+    } else if (button == QLatin1String("btnPieceCust")) {
+        QCOMPARE(int(copy.piece.PieceNumDown), 2);
+        QCOMPARE(int(copy.piece.IsCustom), 1);
+        QVERIFY(copy.items == shared.items); // the items stay where they were
+    } else {
+        QCOMPARE(copy.item(ItemId::Stamp).Left, 0.5f);
+    }
+    // Only an accepted piece dialog marks the page; the editor's button does not.
+    const bool marked = accepted && button != QLatin1String("btnPieceLayout");
+    QCOMPARE(page.isChanged(), marked);
+    QCOMPARE(marks.size(), marked ? 1 : 0);
+    QVERIFY(PieceModel::shared() == shared);
+    QCOMPARE(notices.size(), 0);
+
+    page.applyChanges();
+    QVERIFY(PieceModel::shared().piece == copy.piece && PieceModel::shared().items == copy.items);
+}
+
+void TestItemLayout::doubleClickEditsAndMarksChanged()
+{
+    Quirra control;
+    ItemLayout page;
+    page.setSelectedControls({&control});
+    page.show();
+    ModalDriver driver;
+    driver.onModal(QStringLiteral("piece_layout_edit_form"),
+                   [](QDialog *dialog) { click(dialog, "cancel_btn"); });
+    QTest::mouseDClick(page.findChild<QLabel *>(QStringLiteral("lblM2")), Qt::LeftButton);
+
+    QVERIFY(!driver.watchdogFired());
+    QCOMPARE(driver.actionsRun(), 1);
+    QCOMPARE(page.selectedItem(), QStringLiteral("M2"));
+    QCOMPARE(text(page, "lblItem"), QStringLiteral("Message 2"));
+    QVERIFY(page.isChanged()); // even though the editor was cancelled
+}
+
+void TestItemLayout::tooLargeAPieceIsRefused()
+{
+    Quirra control;
+    control.PieceWidth(30); // more than the editor's 16-bit twips hold
+    ItemLayout page;
+    page.setSelectedControls({&control});
+    page.show();
+    const PieceModel copy = page.workingCopy().model();
+    ModalDriver driver;
+    QString message;
+    driver.onModal(QStringLiteral("layout_error_box"), [&](QDialog *box) {
+        message = box->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"))->text();
+        box->accept();
+    });
+    QVERIFY(!page.editLayout());
+    QVERIFY(!driver.watchdogFired());
+    QVERIFY(!message.isEmpty()); // the editor's own reason
+    QVERIFY(page.workingCopy().model() == copy);
+    QCOMPARE(text(page, "lblPWidth"), QStringLiteral("Width = 30"));
+}
+
+void TestItemLayout::sheetAppliesAndClearsTheMark()
+{
+    Quirra control;
+    PropertySheet sheet(&control);
+    QSignalSpy applied(&sheet, &PropertySheet::applied);
+    ModalDriver driver;
+    driver.onModal(QStringLiteral("piece_select_form"), [](QDialog *dialog) {
+        pickPiece(dialog, QStringLiteral("Address Labels (US Letter)"),
+                  QStringLiteral("5160 - Address Labels"));
+        click(dialog, "ok_btn");
+    });
+    driver.onModal(QStringLiteral("property_sheet"), [&](QDialog *dialog) {
+        click(dialog, "btnDotDotDot");
+        QVERIFY(dialog->isWindowModified());
+        QCOMPARE(control.PieceName(), QStringLiteral("Size 10 - Envelope"));
+        click(dialog, "apply_btn");
+        QCOMPARE(control.PieceName(), QStringLiteral("5160 - Address Labels"));
+        QVERIFY(!dialog->isWindowModified());
+        control.PieceName(QStringLiteral("Size 10 - Envelope")); // Cancel writes nothing again
+        click(dialog, "cancel_btn");
+    });
+    QCOMPARE(sheet.exec(), int(QDialog::Rejected));
+    QVERIFY(!driver.watchdogFired());
+    QCOMPARE(applied.size(), 1);
+    QCOMPARE(control.PieceName(), QStringLiteral("Size 10 - Envelope"));
+}
+
+void TestItemLayout::layoutDialogShow_data()
+{
+    QTest::addColumn<QString>("close");
+    QTest::newRow("ok-writes-every-item") << "ok_btn";
+    QTest::newRow("cancel-writes-nothing") << "cancel_btn";
+}
+
+void TestItemLayout::layoutDialogShow()
+{
+    QFETCH(QString, close);
+    Quirra control;
+    const PieceModel before = PieceModel::shared();
+    QSignalSpy spy(&control, &Quirra::propertyChanged);
+    ModalDriver driver;
+    driver.onModal(QStringLiteral("piece_layout_edit_form"), [&](QDialog *dialog) {
+        editField(dialog, 4, "top_txt", QStringLiteral("1.5")); // Message1
+        click(dialog, qPrintable(close));
+    });
+    bool changed = close != QLatin1String("ok_btn");
+    control.PieceLayoutDialogShow(changed);
+
+    QVERIFY(!driver.watchdogFired());
+    if (close == QLatin1String("ok_btn")) {
+        QVERIFY(changed);
+        QVERIFY(qAbs(control.Message1Top() - 1.5f) < 0.01f);
+        QCOMPARE(emitted(spy), itemNames({"Address", "Return", "Stamp", "Message1", "Message2"}));
+    } else {
+        QVERIFY(!changed);
+        QVERIFY(PieceModel::shared() == before);
+        QCOMPARE(spy.size(), 0);
+    }
+}
+
+QTEST_MAIN(TestItemLayout)
+#include "tst_itemlayout.moc"
