@@ -219,7 +219,9 @@ int runPrint(const QStringList &arguments)
         printer->setOutputFormat(QPrinter::PdfFormat);
         printer->setOutputFileName(pdf->temporaryPath());
     } else {
-        printer->setPrinterName(printerName);
+        // Through the surface: a printer that went away since it was
+        // checked fails the run instead of printing on another one.
+        control.surface()->setPrinterName(printerName);
     }
     bool printerFailed = false;
     const MessageHookScope hook([&](const QString &text) {

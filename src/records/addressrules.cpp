@@ -191,13 +191,25 @@ QString ReplaceTokens(const QString &text, const QString &list, const QString &p
                       const QString &entrySeparator)
 {
     QString result = text;
-    QString rest = list;
     qint64 work = 0;
 
-    while (!TrimBlanks(rest).isEmpty()) {
-        const QString entry = TextBefore(rest, entrySeparator);
-        // Strictly shorter each round: TextAfter drops at least the separator.
-        rest = TextAfter(rest, entrySeparator);
+    // The list is walked in place: taking the rest of it apart entry by
+    // entry as a new string each time would copy it once an entry, which
+    // for a list of many entries (a CSV file of thousands of columns) is
+    // quadratic time.
+    qsizetype pos = 0; // where the rest of the list starts
+    const auto restIsBlank = [&] {
+        for (qsizetype i = pos; i < list.size(); ++i) {
+            if (list.at(i) != QLatin1Char(' '))
+                return false;
+        }
+        return true;
+    };
+    while (!restIsBlank()) {
+        const qsizetype at = entrySeparator.isEmpty() ? -1 : list.indexOf(entrySeparator, pos);
+        const QString entry = list.mid(pos, at < 0 ? -1 : at - pos);
+        // Strictly further each round: the separator at least is passed.
+        pos = at < 0 ? list.size() : at + entrySeparator.size();
         if (pairSeparator.isEmpty() || !entry.contains(pairSeparator)) {
             continue;
         }

@@ -5,6 +5,7 @@
 #include "surface/logging_p.h"
 
 #include <QPrinter>
+#include <QPrinterInfo>
 
 namespace quirra {
 
@@ -21,8 +22,22 @@ QPageLayout PrinterTarget::acceptedLayout(const QPageLayout &wanted)
     return m_printer.pageLayout();
 }
 
+void PrinterTarget::setPrinterName(const QString &name)
+{
+    if (!name.isEmpty() && QPrinterInfo::printerInfo(name).isNull()) {
+        m_missingPrinter = name;
+        return;
+    }
+    m_missingPrinter.clear();
+    m_printer.setPrinterName(name);
+}
+
 QPagedPaintDevice *PrinterTarget::beginDocument(const QPageLayout &firstPage)
 {
+    if (!m_missingPrinter.isEmpty() && m_printer.outputFormat() == QPrinter::NativeFormat) {
+        qCWarning(lcSurface) << "there is no printer named" << m_missingPrinter;
+        return nullptr;
+    }
     if (!m_printer.isValid()) {
         qCWarning(lcSurface) << "printer" << m_printer.printerName() << "is not available";
         return nullptr;

@@ -5,6 +5,8 @@
 #include "quirracontrol_export.h"
 #include "surface/printtarget.h"
 
+#include <QString>
+
 class QPrinter;
 
 namespace quirra {
@@ -29,8 +31,17 @@ public:
     void abortDocument() override;
     void endDocument(bool aborted) override;
 
+    /**
+     * @brief Chooses the system printer by name. A name that no printer has
+     * is kept, and printing to the system's printers fails until another
+     * name is chosen (a PDF file still prints): QPrinter alone would keep
+     * its previous printer and print there without a word.
+     */
+    void setPrinterName(const QString &name);
+
 private:
     QPrinter &m_printer;
+    QString m_missingPrinter; // a name asked for that no printer has
 };
 
 } // namespace quirra

@@ -42,6 +42,11 @@ QPrinter *PrintSurface::printer() const
     return m_printer.get();
 }
 
+void PrintSurface::setPrinterName(const QString &name)
+{
+    m_target->setPrinterName(name);
+}
+
 QSize PrintSurface::sizeHint() const
 {
     return QSize(480, 360);

@@ -34,6 +34,15 @@ public:
     /** @brief The printer that print documents and PrintPage go to. */
     QPrinter *printer() const;
 
+    /**
+     * @brief Chooses the system printer that print documents go to, by its
+     * name. Use this rather than printer()->setPrinterName(): for a name no
+     * printer has, QPrinter keeps its previous printer and would print
+     * there, while here the next print document fails with error code 2 (a
+     * run shows "Ptr.error = 2") until a printer that exists is chosen.
+     */
+    void setPrinterName(const QString &name);
+
     /** @brief The rectangle, in viewport pixels, where the page on show is painted; empty without
      * pages. */
     QRect pageRect() const;

@@ -17,6 +17,8 @@ constexpr int maxFonts = 64;
 // fit with a wide margin; the return address and messages stay cached
 // across a whole run.
 constexpr int maxBlocks = 512;
+// Measured widths kept: a double and a short text each.
+constexpr int maxWidths = 4096;
 } // namespace
 
 bool TextFormatter::FontKey::operator==(const FontKey &o) const
@@ -38,12 +40,17 @@ size_t qHash(const TextFormatter::FontKey &key, size_t seed)
     return qHashMulti(seed, key.family, key.sizeTwips, flags);
 }
 
+size_t qHash(const TextFormatter::WidthKey &key, size_t seed)
+{
+    return qHashMulti(seed, key.font, key.text);
+}
+
 size_t qHash(const TextFormatter::BlockKey &key, size_t seed)
 {
     return qHashMulti(seed, key.font, key.text, key.width, key.wrap, key.alignment, key.spacing);
 }
 
-TextFormatter::TextFormatter() : m_blocks(maxBlocks)
+TextFormatter::TextFormatter() : m_blocks(maxBlocks), m_widths(maxWidths)
 {
     m_key.family = QStringLiteral("Arial");
 }
@@ -136,9 +143,17 @@ double TextFormatter::lineHeight()
 
 double TextFormatter::textWidth(const QString &text)
 {
+    WidthKey key{m_key, text};
+    if (const double *known = m_widths.object(key))
+        return *known;
     // Measured by the same layout that draws, so a line measured to fit
-    // does fit when it is drawn.
-    return layOut(text, 0, false, Qt::AlignLeft, 100)->naturalWidth();
+    // does fit when it is drawn. The block itself is not kept: it is never
+    // drawn, and would only push out blocks that are.
+    const FontEntry &entry = currentFont();
+    const double width =
+        TextBlock(text, entry.font, entry.lineHeight, 0, false, Qt::AlignLeft, 100).naturalWidth();
+    m_widths.insert(std::move(key), new double(width));
+    return width;
 }
 
 std::shared_ptr<const TextBlock> TextFormatter::layOut(const QString &text, double width, bool wrap,

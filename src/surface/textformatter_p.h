@@ -19,7 +19,10 @@ class TextBlock;
  * Fonts are made once per face and size, and a laid-out block is kept for
  * the next request of the same text, box width and paragraph settings: the
  * print run lays every item out once to measure it and again to draw it, and
- * the return address and messages repeat on every label.
+ * the return address and messages repeat on every label. Measured widths
+ * are kept apart, for many more texts: the city line of every address is
+ * measured, and a mailing sorted by postal code has the same city line
+ * record after record.
  */
 class TextFormatter
 {
@@ -66,6 +69,13 @@ public:
         bool operator==(const FontKey &o) const;
     };
 
+    struct WidthKey
+    {
+        FontKey font;
+        QString text;
+        bool operator==(const WidthKey &o) const { return font == o.font && text == o.text; }
+    };
+
     struct BlockKey
     {
         FontKey font;
@@ -89,9 +99,11 @@ private:
     const FontEntry *m_current = nullptr;
     QHash<FontKey, FontEntry> m_fonts;
     QCache<BlockKey, std::shared_ptr<const TextBlock>> m_blocks;
+    QCache<WidthKey, double> m_widths;
 };
 
 size_t qHash(const TextFormatter::FontKey &key, size_t seed = 0);
+size_t qHash(const TextFormatter::WidthKey &key, size_t seed = 0);
 size_t qHash(const TextFormatter::BlockKey &key, size_t seed = 0);
 
 } // namespace quirra

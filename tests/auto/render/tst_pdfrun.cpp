@@ -206,11 +206,12 @@ void TestPdfRun::leftEdgeClamp()
     spool.close();
     const QString pdf = pdfPath(QStringLiteral("clamp.pdf"));
     QCOMPARE(PrintSpoolToPdf(pdf, model, SharedSpool::instance().reader()).errorCode, 0);
-    const pdfprobe::Word *w = findWord(pdfprobe::words(pdf), 1, QStringLiteral("ACME"));
+    const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
+    const pdfprobe::Word *w = findWord(words, 1, QStringLiteral("ACME"));
     QVERIFY(w);
     // Return is centred in its box; the box itself starts at the printable edge, 18 pt in.
     const double boxWidth = std::lrint(ret.Width * 1440) / 20.0;
-    const pdfprobe::Word *mail = findWord(pdfprobe::words(pdf), 1, QStringLiteral("Mail"));
+    const pdfprobe::Word *mail = findWord(words, 1, QStringLiteral("Mail"));
     QVERIFY(mail);
     QVERIFY2(qAbs((w->box.left() + mail->box.right()) / 2 - (18 + boxWidth / 2)) < 1.0,
              qPrintable(QString::number(w->box.left())));

@@ -76,8 +76,8 @@ void TestProfileFile::lookup()
 {
     QFETCH(QByteArray, text);
     QFETCH(QString, expected);
-    const QString *found =
-        ProfileFile::fromText(text).find(QStringLiteral(" a "), QStringLiteral("K"));
+    const ProfileFile profile = ProfileFile::fromText(text);
+    const QString *found = profile.find(QStringLiteral(" a "), QStringLiteral("K"));
     QCOMPARE(found ? *found : QStringLiteral("<none>"), expected);
     QCOMPARE(read(write(QStringLiteral("lookup.ini"), text)), expected);
 }

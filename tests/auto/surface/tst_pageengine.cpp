@@ -618,6 +618,10 @@ void TestPageEngine::printPageSendsThePageOnShow()
 
 void TestPageEngine::memoryStaysFlatWhilePrinting()
 {
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the address sanitizer holds freed memory back for a while: peak memory tells "
+          "nothing about the engine here (make test measures it)");
+#endif
     PdfTarget target(m_dir.filePath(QStringLiteral("long-run.pdf")));
     PageEngine e;
     e.setPrintTarget(&target);

@@ -48,7 +48,9 @@ void TestPrintSurface::printing()
     PrintSurface surface;
     if (!printerName.isEmpty()) {
         surface.printer()->setOutputFormat(QPrinter::NativeFormat);
-        surface.printer()->setPrinterName(printerName);
+        // Not printer()->setPrinterName(): QPrinter keeps the default
+        // printer for a name it does not know, and would print there.
+        surface.setPrinterName(printerName);
     } else {
         surface.printer()->setOutputFileName(outputFile);
     }

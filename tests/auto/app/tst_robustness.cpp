@@ -1,0 +1,273 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+//
+// The quirra program fed what a careless export or a broken disk gives it:
+// a value of ten thousand characters, a hundred thousand columns, bytes that
+// are no text, a catalogue of junk. Each run ends in a clear message or a
+// correct PDF, in bounded time and memory, and leaves no spool or half
+// written file behind - also when the run fails inside the control.
+#include "pdfprobe.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr double PeakLimitMb = 1500; // the sanitizer's shadow memory and quarantine
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+constexpr double PeakLimitMb = 1500;
+#else
+constexpr double PeakLimitMb = 400;
+#endif
+#else
+constexpr double PeakLimitMb = 400;
+#endif
+
+// The largest peak resident memory of any child waited for so far.
+double childrenPeakMb()
+{
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    return double(usage.ru_maxrss) / 1024.0;
+}
+
+QByteArray junk(qsizetype size, quint32 seed)
+{
+    QRandomGenerator random(seed);
+    QByteArray bytes(size, Qt::Uninitialized);
+    random.fillRange(reinterpret_cast<quint32 *>(bytes.data()), size / 4);
+    return bytes;
+}
+
+// Files left in a folder and its subfolders (Qt makes a runtime folder in
+// TMPDIR when the session has none: that one may stay, empty).
+QStringList leftFiles(const QString &folder)
+{
+    QStringList files;
+    QDirIterator it(folder, QDir::Files | QDir::Hidden | QDir::System,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext())
+        files << it.next();
+    return files;
+}
+
+const QByteArray Header = "first,last,address1,city,state,zip\n";
+
+// The inputs, by name: a CSV file's bytes, or a catalogue's.
+QByteArray makeCsv(const QString &kind)
+{
+    if (kind == QLatin1String("long-value")) {
+        return Header + "Margaret,Holloway," + QByteArray(10000, 'x') +
+               ",Springfield,IL,62704\nDaniel,Okafor,88 Harbor View Dr,Portland,ME,04101\n";
+    }
+    if (kind == QLatin1String("wide")) {
+        // 100,000 columns: the address fields, then extra columns that each
+        // become a substitution entry.
+        QByteArray header = "first,last,address1,city,state,zip";
+        QByteArray row = "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704";
+        for (int i = 6; i < 100000; ++i) {
+            header += ",c" + QByteArray::number(i);
+            row += ",v";
+        }
+        return header + '\n' + row + '\n';
+    }
+    if (kind == QLatin1String("random-bytes"))
+        return junk(1 << 20, 7);
+    if (kind == QLatin1String("nul-bytes"))
+        return Header + QByteArray(1000, '\0') + '\n';
+    return Header + "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704\n";
+}
+
+} // namespace
+
+class TestRobustness : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+
+    void hostileInput_data();
+    void hostileInput();
+    void spoolIsPrivateAndRemoved_data();
+    void spoolIsPrivateAndRemoved();
+
+private:
+    QProcessEnvironment environment() const;
+
+    std::unique_ptr<QTemporaryDir> m_dir; // inputs and outputs
+    std::unique_ptr<QTemporaryDir> m_tmp; // the program's TMPDIR: its spool goes here
+};
+
+void TestRobustness::initTestCase()
+{
+    if (QStandardPaths::findExecutable(QStringLiteral("pdfinfo")).isEmpty())
+        QSKIP("pdfinfo (poppler-utils) is not installed; scripts/install-deps installs it");
+    QVERIFY(QFileInfo::exists(QStringLiteral(QUIRRA_BINARY)));
+}
+
+void TestRobustness::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    m_tmp = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_dir->isValid() && m_tmp->isValid());
+}
+
+QProcessEnvironment TestRobustness::environment() const
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("TMPDIR"), m_tmp->path());
+    return env;
+}
+
+void TestRobustness::hostileInput_data()
+{
+    QTest::addColumn<QString>("csv");        // what makeCsv() makes
+    QTest::addColumn<bool>("junkCatalogue"); // 10 MB of random bytes as quirra.cfg
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("message"); // on standard error
+    QTest::addColumn<int>("pages");       // of the PDF when the run succeeds
+
+    const QStringList labels{"print", "--piece", "5160 - Address Labels", "--pdf", "%OUT%"};
+    QTest::newRow("value-of-10000-characters")
+        << "long-value" << false << labels << 0 << "2 records, 1 page" << 1;
+    QTest::newRow("100000-columns") << "wide" << false << labels << 0 << "1 record, 1 page" << 1;
+    QTest::newRow("csv-of-random-bytes") << "random-bytes" << false << labels << 1 << "line 1" << 0;
+    QTest::newRow("csv-of-nul-bytes") << "nul-bytes" << false << labels << 1 << "line 2" << 0;
+    QTest::newRow("print-with-junk-catalogue")
+        << "plain" << true << labels << 1 << "holds neither the piece" << 0;
+    QTest::newRow("list-junk-catalogue")
+        << "" << true << QStringList{"pieces"} << 1 << "lists no pieces" << 0;
+}
+
+void TestRobustness::hostileInput()
+{
+    QFETCH(QString, csv);
+    QFETCH(bool, junkCatalogue);
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QString, message);
+    QFETCH(int, pages);
+
+    QProcessEnvironment env = environment();
+    if (junkCatalogue) {
+        const QString folder = m_dir->filePath(QStringLiteral("catalogue"));
+        QVERIFY(QDir().mkpath(folder));
+        QFile file(folder + QStringLiteral("/quirra.cfg"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(junk(10 << 20, 42));
+        file.close();
+        env.insert(QStringLiteral("QUIRRA_SYSTEM_DIR"), folder);
+        env.insert(QStringLiteral("QUIRRA_PAPER_CATALOGUE"), file.fileName());
+    }
+    const QString pdf = m_dir->filePath(QStringLiteral("out.pdf"));
+    arguments.replaceInStrings(QStringLiteral("%OUT%"), pdf);
+    if (!csv.isEmpty()) {
+        QFile input(m_dir->filePath(QStringLiteral("in.csv")));
+        QVERIFY(input.open(QIODevice::WriteOnly));
+        input.write(makeCsv(csv));
+        arguments << input.fileName();
+    }
+
+    QProcess quirra;
+    quirra.setProcessEnvironment(env);
+    quirra.start(QStringLiteral(QUIRRA_BINARY), arguments);
+    QVERIFY(quirra.waitForStarted());
+    quirra.closeWriteChannel();
+    if (!quirra.waitForFinished(150000)) {
+        quirra.kill();
+        quirra.waitForFinished();
+        QFAIL("quirra did not finish in 150 s");
+    }
+    const QString err = QString::fromUtf8(quirra.readAllStandardError());
+    QCOMPARE(quirra.exitStatus(), QProcess::NormalExit);
+    QVERIFY2(quirra.exitCode() == status, qPrintable(err));
+    QVERIFY2(err.contains(message), qPrintable(err));
+    QVERIFY2(childrenPeakMb() < PeakLimitMb,
+             qPrintable(QStringLiteral("peak memory %1 MB").arg(childrenPeakMb())));
+
+    if (status == 0) {
+        QCOMPARE(pdfprobe::pageSizes(pdf).size(), pages);
+        bool named = false;
+        for (const pdfprobe::Word &w : pdfprobe::words(pdf))
+            named = named || w.text == QLatin1String("Holloway");
+        QVERIFY(named);
+    } else {
+        QVERIFY(!QFileInfo::exists(pdf));
+    }
+    // Neither the spool nor a hidden PDF in the making is left anywhere.
+    QCOMPARE(leftFiles(m_tmp->path()), QStringList());
+    const QStringList left = QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden);
+    for (const QString &name : left)
+        QVERIFY2(!name.startsWith(QLatin1Char('.')), qPrintable(name));
+}
+
+void TestRobustness::spoolIsPrivateAndRemoved_data()
+{
+    QTest::addColumn<QStringList>("settings");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("run-completes") << QStringList() << 0 << "2 records, 1 page";
+    // The control's print run raises its error: the method fails with an exception.
+    QTest::newRow("run-fails-in-the-control")
+        << QStringList{"--set", "PieceNumAcross=0"} << 1 << "0 pieces across";
+}
+
+void TestRobustness::spoolIsPrivateAndRemoved()
+{
+    QFETCH(QStringList, settings);
+    QFETCH(int, status);
+    QFETCH(QString, message);
+
+    // Records come down a pipe, so the run waits, spool open, until the
+    // pipe is closed.
+    QProcess quirra;
+    quirra.setProcessEnvironment(environment());
+    quirra.start(QStringLiteral(QUIRRA_BINARY),
+                 QStringList{"print", "--piece", "5160 - Address Labels", "--pdf",
+                             m_dir->filePath(QStringLiteral("out.pdf"))} +
+                     settings + QStringList{"-"});
+    QVERIFY(quirra.waitForStarted());
+    quirra.write(Header + "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704\n");
+    QVERIFY(quirra.waitForBytesWritten());
+
+    QString spool;
+    QTRY_VERIFY_WITH_TIMEOUT(
+        [&] {
+            const QStringList found =
+                QDir(m_tmp->path()).entryList({QStringLiteral("qzv*")}, QDir::Files);
+            if (found.size() == 1)
+                spool = QDir(m_tmp->path()).filePath(found.first());
+            return !spool.isEmpty();
+        }(),
+        30000);
+    struct stat info;
+    QCOMPARE(::stat(QFile::encodeName(spool).constData(), &info), 0);
+    QCOMPARE(info.st_mode & 07777, mode_t(0600));
+
+    quirra.write("Daniel,Okafor,88 Harbor View Dr,Portland,ME,04101\n");
+    quirra.closeWriteChannel();
+    QVERIFY(quirra.waitForFinished(60000));
+    const QString err = QString::fromUtf8(quirra.readAllStandardError());
+    QVERIFY2(quirra.exitCode() == status, qPrintable(err));
+    QVERIFY2(err.contains(message), qPrintable(err));
+    QVERIFY2(!QFileInfo::exists(spool), qPrintable(spool + QStringLiteral(" is left")));
+    QCOMPARE(leftFiles(m_tmp->path()), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestRobustness)
+#include "tst_robustness.moc"

@@ -1,0 +1,305 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+//
+// A run printed through the control to a real CUPS queue (the PDF printer
+// driver on a private spooler), and the file the spooler made read back.
+#include "control/quirra.h"
+
+#include "pdfprobe.h"
+#include "records/sharedspool.h"
+#include "render/messagehook.h"
+#include "surface/printsurface.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+#include <QTransform>
+
+using namespace quirra;
+
+namespace {
+
+struct Person
+{
+    const char *first, *last, *street, *city, *state, *zip;
+};
+
+const Person People[] = {
+    {"Margaret", "Holloway", "1427 Birchwood Ln", "Springfield", "IL", "62704"},
+    {"Daniel", "Okafor", "88 Harbor View Dr", "Portland", "ME", "04101"},
+    {"Priya", "Raman", "19 Maple Ave", "Boulder", "CO", "80302"},
+    {"Tomasz", "Nowak", "402 Old Mill Rd", "Savannah", "GA", "31401"},
+};
+
+// Feeds count records, cycling through People; the last name carries the
+// record's number so that every record can be found in the output.
+void feed(Quirra &control, int count)
+{
+    control.StartDoc();
+    for (int i = 0; i < count; ++i) {
+        const Person &p = People[i % std::size(People)];
+        control.ClearPiece();
+        control.FirstName(QString::fromLatin1(p.first));
+        control.LastName(QString::fromLatin1(p.last) + QString::number(i));
+        control.Address1(QString::fromLatin1(p.street));
+        control.city(QString::fromLatin1(p.city));
+        control.State(QString::fromLatin1(p.state));
+        control.zip(QString::fromLatin1(p.zip));
+        control.NewPiece();
+    }
+    control.EndDoc();
+}
+
+// The file the PDF printer driver wrote for the job titled title: it names
+// its files after the job's title. Waits for the spooler to finish.
+QString spooledPdf(const QString &folder, const QString &title, int timeoutMs)
+{
+    const QDeadlineTimer deadline(timeoutMs);
+    while (!deadline.hasExpired()) {
+        const QStringList found =
+            QDir(folder).entryList({title + QStringLiteral("*.pdf")}, QDir::Files, QDir::Time);
+        if (!found.isEmpty()) {
+            const QString path = QDir(folder).filePath(found.first());
+            // The driver writes the file in place: wait until it is whole.
+            if (!pdfprobe::pageSizes(path).isEmpty())
+                return path;
+        }
+        QThread::msleep(200);
+    }
+    return {};
+}
+
+// Every page of a PDF in grey at 100 dots an inch, through pdftoppm.
+QList<QImage> render(const QString &pdf)
+{
+    QTemporaryDir folder;
+    if (QProcess::execute(QStringLiteral("pdftoppm"),
+                          {QStringLiteral("-r"), QStringLiteral("100"), QStringLiteral("-gray"),
+                           pdf, folder.filePath(QStringLiteral("page"))}) != 0)
+        return {};
+    QList<QImage> pages;
+    // The page numbers in the names have one width, so they sort as names.
+    for (const QString &name : QDir(folder.path()).entryList(QDir::Files, QDir::Name))
+        pages << QImage(folder.filePath(name)).convertToFormat(QImage::Format_Grayscale8);
+    return pages;
+}
+
+// The share of a's ink with no ink of b on it or a pixel beside it.
+double inkMissing(const QImage &a, const QImage &b)
+{
+    const auto ink = [](const QImage &image, int x, int y) {
+        return x >= 0 && y >= 0 && x < image.width() && y < image.height() &&
+               image.constScanLine(y)[x] < 160;
+    };
+    int inked = 0, missing = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (!ink(a, x, y))
+                continue;
+            ++inked;
+            bool near = false;
+            for (int dy = -1; dy <= 1; ++dy)
+                for (int dx = -1; dx <= 1; ++dx)
+                    near = near || ink(b, x + dx, y + dy);
+            missing += near ? 0 : 1;
+        }
+    }
+    return inked ? double(missing) / inked : 1.0;
+}
+
+// The spooler's PDF against the one Qt writes for the same run. The PDF
+// driver passes the pages through PostScript and Ghostscript, which keeps
+// every glyph where it was but renames the glyphs, so the text no longer
+// reads back as text: the pages are compared as pictures. They agree when
+// the ink of either lies on ink of the other, give or take a pixel at 100
+// dots an inch. A printer feeds a landscape envelope short edge first and
+// turns what is printed on it a quarter. Returns the first difference.
+QString differences(const QString &spooled, const QString &direct)
+{
+    const QList<QImage> got = render(spooled);
+    const QList<QImage> want = render(direct);
+    if (got.size() != want.size() || want.isEmpty())
+        return QStringLiteral("%1 pages rendered, not %2").arg(got.size()).arg(want.size());
+    for (qsizetype p = 0; p < want.size(); ++p) {
+        double worst = 1;
+        for (const int turn : {0, 90, 270}) {
+            const QImage page = got.at(p).transformed(QTransform().rotate(turn));
+            if (page.size() == want.at(p).size())
+                worst =
+                    qMin(worst, qMax(inkMissing(page, want.at(p)), inkMissing(want.at(p), page)));
+        }
+        if (worst > 0.01)
+            return QStringLiteral("page %1: %2% of the ink differs").arg(p + 1).arg(worst * 100);
+    }
+    return {};
+}
+
+QString spoolerLog()
+{
+    QFile log(qEnvironmentVariable("QUIRRA_CUPS_LOG"));
+    return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll().right(2000))
+                                         : QStringLiteral("(no spooler log)");
+}
+
+} // namespace
+
+class TestCupsPrint : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void printsThroughTheSpooler_data();
+    void printsThroughTheSpooler();
+    void unknownPrinterIsReported();
+
+private:
+    QString title(const char *what) const;
+
+    QString m_queue;
+    QString m_outDir;
+    QStringList m_messages;
+    QStringList m_made;
+};
+
+void TestCupsPrint::initTestCase()
+{
+    m_queue = qEnvironmentVariable("QUIRRA_CUPS_QUEUE");
+    m_outDir = qEnvironmentVariable("QUIRRA_CUPS_PDF_DIR");
+    if (m_queue.isEmpty() || qEnvironmentVariableIsEmpty("CUPS_SERVER"))
+        QSKIP("no private CUPS spooler: run the suite through scripts/with-cups (make test does)");
+    QVERIFY2(!QPrinterInfo::printerInfo(m_queue).isNull(),
+             qPrintable(QStringLiteral("the queue %1 is not seen; the printers are: %2")
+                            .arg(m_queue, QPrinterInfo::availablePrinterNames().join(", "))));
+}
+
+void TestCupsPrint::init()
+{
+    m_messages.clear();
+    setMessageHook([this](const QString &text) { m_messages << text; });
+}
+
+void TestCupsPrint::cleanup()
+{
+    setMessageHook({});
+    for (const QString &file : std::as_const(m_made))
+        QFile::remove(file);
+    m_made.clear();
+}
+
+// Job titles unique to this process, in letters and digits only: the driver
+// turns anything else in a title into "_".
+QString TestCupsPrint::title(const char *what) const
+{
+    return QStringLiteral("quirratest%1%2").arg(QCoreApplication::applicationPid()).arg(what);
+}
+
+void TestCupsPrint::printsThroughTheSpooler_data()
+{
+    QTest::addColumn<QString>("piece");
+    QTest::addColumn<int>("records");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<QString>("returnText");
+
+    QTest::newRow("labels-two-sheets") << "5160 - Address Labels" << 35 << 2 << QString();
+    QTest::newRow("envelopes-with-return-address")
+        << "Size 10 - Envelope" << 3 << 3 << "Northwind Mail Room";
+}
+
+void TestCupsPrint::printsThroughTheSpooler()
+{
+    QFETCH(QString, piece);
+    QFETCH(int, records);
+    QFETCH(int, pages);
+    QFETCH(QString, returnText);
+
+    Quirra control;
+    control.PieceName(piece);
+    control.ClearReturn();
+    control.ClearStamp();
+    if (!returnText.isEmpty())
+        control.SetReturnText(returnText);
+    feed(control, records);
+
+    const QString job = title(QTest::currentDataTag()).remove(QLatin1Char('-'));
+    control.surface()->setPrinterName(m_queue);
+    control.printer()->setDocName(job);
+    control.PrintNow();
+    QVERIFY2(m_messages.isEmpty(), qPrintable(m_messages.join('\n')));
+    QCOMPARE(control.surface()->errorCode(), 0);
+
+    const QString pdf = spooledPdf(m_outDir, job, 120000);
+    QVERIFY2(!pdf.isEmpty(), qPrintable(QStringLiteral("no PDF for job %1 in %2; spooler log:\n%3")
+                                            .arg(job, m_outDir, spoolerLog())));
+    m_made << pdf;
+    QCOMPARE(pdfprobe::pageSizes(pdf).size(), pages);
+
+    // The same run as Qt writes it to a file (other tests check that file
+    // piece by piece): here it holds the last record and the return address.
+    QTemporaryDir folder;
+    const QString direct = folder.filePath(QStringLiteral("direct.pdf"));
+    control.printer()->setOutputFileName(direct);
+    control.PrintNow();
+    QCOMPARE(control.surface()->errorCode(), 0);
+    QStringList words;
+    for (const pdfprobe::Word &w : pdfprobe::words(direct))
+        words << w.text;
+    const Person &last = People[(records - 1) % std::size(People)];
+    QVERIFY(words.contains(QString::fromLatin1(last.last) + QString::number(records - 1)));
+    QCOMPARE(words.contains(QStringLiteral("Northwind")), !returnText.isEmpty());
+
+    // And the spooler printed exactly that.
+    const QString problem = differences(pdf, direct);
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+}
+
+void TestCupsPrint::unknownPrinterIsReported()
+{
+    Quirra control;
+    control.PieceName(QStringLiteral("5160 - Address Labels"));
+    feed(control, 3);
+    const QString spool = SharedSpool::instance().spoolPath();
+    const QByteArray spooled = [&] {
+        QFile f(spool);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }();
+
+    control.surface()->setPrinterName(QStringLiteral("No Such Printer Here"));
+    control.PrintNow();
+    QCOMPARE(m_messages.size(), 1);
+    QVERIFY2(m_messages.first().startsWith(QLatin1String("Ptr.error = ")),
+             qPrintable(m_messages.first()));
+    QVERIFY(m_messages.first().mid(12).toInt() != 0);
+    QVERIFY(control.surface()->errorCode() != 0);
+
+    // Nothing else is harmed: the spool holds its records, and the same
+    // control prints them on the real queue next.
+    QFile file(spool);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), spooled);
+    m_messages.clear();
+    const QString job = title("afterunknown");
+    control.surface()->setPrinterName(m_queue);
+    control.printer()->setDocName(job);
+    control.PrintNow();
+    QVERIFY2(m_messages.isEmpty(), qPrintable(m_messages.join('\n')));
+    QCOMPARE(control.surface()->errorCode(), 0);
+    const QString pdf = spooledPdf(m_outDir, job, 120000);
+    QVERIFY2(!pdf.isEmpty(), qPrintable(spoolerLog()));
+    m_made << pdf;
+    QCOMPARE(pdfprobe::pageSizes(pdf).size(), 1);
+}
+
+QTEST_MAIN(TestCupsPrint)
+#include "tst_cupsprint.moc"
