@@ -9,6 +9,21 @@
 
 namespace quirra {
 
+PieceSpec PieceEntryOf(const Piece &piece)
+{
+    PieceSpec entry;
+    entry.Name = piece.PieceName;
+    entry.MarginTop = piece.PieceMarginTop;
+    entry.MarginSide = piece.PieceMarginLeft;
+    entry.NumAcross = piece.PieceNumAcross;
+    entry.NumDown = piece.PieceNumDown;
+    entry.LabelHeight = piece.PieceHeight;
+    entry.LabelWidth = piece.PieceWidth;
+    entry.PitchHorz = piece.PiecePitchHorz;
+    entry.PitchVert = piece.PiecePitchVert;
+    return entry;
+}
+
 void ApplyPieceSpec(const PieceSpec &entry, PieceModel &model)
 {
     Piece &piece = model.piece;

@@ -21,6 +21,13 @@ namespace quirra {
  * are left as they are. Choosing or customising a piece thus always resets
  * the item layout.
  */
+/**
+ * @brief The piece's geometry as a catalogue entry (name, margins, counts,
+ * sizes and pitch, in inches), the form the piece dialogs edit. The page
+ * description and page size are left for the caller.
+ */
+QUIRRACONTROL_EXPORT PieceSpec PieceEntryOf(const Piece &piece);
+
 QUIRRACONTROL_EXPORT void ApplyPieceSpec(const PieceSpec &entry, PieceModel &model);
 
 /**

@@ -287,17 +287,8 @@ bool ItemLayout::editLayout()
 void ItemLayout::customizePiece()
 {
     Piece &piece = m_copy.model().piece;
-    PieceSpec entry;
-    entry.Name = piece.PieceName;
+    PieceSpec entry = PieceEntryOf(piece);
     entry.PageDesc = piece.PageSize;
-    entry.MarginTop = piece.PieceMarginTop;
-    entry.MarginSide = piece.PieceMarginLeft;
-    entry.NumAcross = piece.PieceNumAcross;
-    entry.NumDown = piece.PieceNumDown;
-    entry.LabelHeight = piece.PieceHeight;
-    entry.LabelWidth = piece.PieceWidth;
-    entry.PitchHorz = piece.PiecePitchHorz;
-    entry.PitchVert = piece.PiecePitchVert;
     entry.IsCustom = piece.IsCustom != 0;
     if (ShowPieceCustomizationDialog(this, entry)) {
         setChanged(true);

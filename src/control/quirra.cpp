@@ -329,16 +329,7 @@ void Quirra::PieceSelectDialogShow(bool &changed)
 void Quirra::PieceCustomizationDialogShow(bool &changed)
 {
     const Piece &piece = model().piece;
-    PieceSpec entry;
-    entry.Name = piece.PieceName;
-    entry.MarginTop = piece.PieceMarginTop;
-    entry.MarginSide = piece.PieceMarginLeft;
-    entry.NumAcross = piece.PieceNumAcross;
-    entry.NumDown = piece.PieceNumDown;
-    entry.LabelHeight = piece.PieceHeight;
-    entry.LabelWidth = piece.PieceWidth;
-    entry.PitchHorz = piece.PiecePitchHorz;
-    entry.PitchVert = piece.PiecePitchVert;
+    PieceSpec entry = PieceEntryOf(piece);
     // The paper goes in as its code; the dialog shows the page size whose
     // caption matches, or the first one, for the user to choose.
     entry.PageDesc = QString::number(piece.PageSizeNum);

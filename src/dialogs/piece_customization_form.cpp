@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/piece_customization_form.h"
 
+#include "dialogs/numberkeyfilter.h"
+
 #include "catalogue/catalogue.h"
 #include "dialogs/beep.h"
 #include "dialogs/logging_p.h"
@@ -453,30 +455,7 @@ void piece_customization_form::updatePreview()
 
 bool piece_customization_form::filterKey(const Box &box, QKeyEvent *event)
 {
-    // Up and Down step the box as its spinner's arrows do.
-    if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
-        if (event->key() == Qt::Key_Up) {
-            box.spinner->triggerAction(QAbstractSlider::SliderSingleStepSub);
-            return true;
-        }
-        if (event->key() == Qt::Key_Down) {
-            box.spinner->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-            return true;
-        }
-    }
-    // Shortcuts, mnemonics and keys that type nothing keep their usual roles.
-    if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-        return false;
-    const QString text = event->text();
-    for (QChar c : text) {
-        if (c.unicode() < 0x20 || c.unicode() == 0x7f)
-            continue; // Backspace, Tab, Enter, Escape, Delete
-        if (!NumberField::acceptsCharacter(c)) {
-            Beep();
-            return true;
-        }
-    }
-    return false;
+    return FilterNumberBoxKey(event, box.spinner);
 }
 
 void piece_customization_form::checkBounds(const Box &box)

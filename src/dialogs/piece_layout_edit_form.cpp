@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/piece_layout_edit_form.h"
 
+#include "dialogs/numberkeyfilter.h"
+
 #include "dialogs/beep.h"
 #include "dialogs/fontchooser.h"
 #include "dialogs/layoutitemlabel.h"
@@ -828,30 +830,8 @@ bool piece_layout_edit_form::fieldEvent(const Field &field, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::KeyPress: {
-        auto *key = static_cast<QKeyEvent *>(event);
         // Up and Down step the field as its stepper's arrows do.
-        if (key->modifiers() == Qt::NoModifier || key->modifiers() == Qt::KeypadModifier) {
-            if (key->key() == Qt::Key_Up) {
-                field.stepper->triggerAction(QAbstractSlider::SliderSingleStepSub);
-                return true;
-            }
-            if (key->key() == Qt::Key_Down) {
-                field.stepper->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-                return true;
-            }
-        }
-        if (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-            return false;
-        const QString text = key->text();
-        for (QChar c : text) {
-            if (c.unicode() < 0x20 || c.unicode() == 0x7f)
-                continue; // Backspace, Tab, Enter, Escape, Delete
-            if (!NumberField::acceptsCharacter(c)) {
-                Beep();
-                return true;
-            }
-        }
-        return false;
+        return FilterNumberBoxKey(static_cast<QKeyEvent *>(event), field.stepper);
     }
     case QEvent::KeyRelease: {
         const QString text = field.edit->text();
