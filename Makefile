@@ -71,7 +71,7 @@ fuzz:
 	cmake -S . -B $(FUZZ_BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
 		-DCMAKE_CXX_COMPILER=clang++ -DQUIRRA_FUZZ=ON \
 		-DQUIRRA_BUILD_TESTS=OFF -DQUIRRA_BUILD_BENCH=OFF
-	cmake --build $(FUZZ_BUILD) -j $(JOBS) --target fuzz_profile fuzz_catalogue fuzz_spool fuzz_csv
+	cmake --build $(FUZZ_BUILD) -j $(JOBS) --target fuzz_profile fuzz_catalogue fuzz_spool fuzz_csv fuzz_templates
 	./scripts/fuzz $(FUZZ_BUILD) $(FUZZ_SECONDS)
 
 clean:
