@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "records/intelligentmail.h"
+
+#include <QtTest>
+
+using namespace quirra;
+
+class TestIntelligentMail : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void encodes_data();
+    void encodes();
+    void refuses_data();
+    void refuses();
+    void barsKeepThePostalDimensions();
+};
+
+void TestIntelligentMail::encodes_data()
+{
+    QTest::addColumn<QString>("barCode");
+    QTest::addColumn<QString>("zip");
+    QTest::addColumn<QString>("routing");
+    QTest::addColumn<QString>("bars");
+    // The postal service's own examples: one tracking code with each length
+    // of routing code.
+    QTest::newRow("no-routing")
+        << "01234567094987654321"
+        << ""
+        << ""
+        << "ATTFATTDTTADTAATTDTDTATTDAFDDFADFDFTFFFFFTATFAAAATDFFTDAADFTFDTDT";
+    QTest::newRow("zip5-after-dash")
+        << "01234567094987654321-01234"
+        << "99999"
+        << "01234"
+        << "DTTAFADDTTFTDTFTFDTDDADADAFADFATDDFTAAAFDTTADFAAATDFDTDFADDDTDFFT";
+    QTest::newRow("zip9-from-record")
+        << "01234567094987654321"
+        << "01234-5678"
+        << "012345678"
+        << "ADFTTAFDTTTTFATTADTAAATFTFTATDAAAFDDADATATDTDTTDFDTDATADADTDFFTFA";
+    QTest::newRow("zip11-run-on")
+        << "0123456709498765432101234567891"
+        << ""
+        << "01234567891"
+        << "AADTFFDFTDADTAADAATFDTDDAAADDTDTTDAFADADDDTFFFDDTTTADFAAADFTDAADA";
+    QTest::newRow("zip11-after-blank")
+        << " 01234567094987654321 01234567891 "
+        << "12345"
+        << "01234567891"
+        << "AADTFFDFTDADTAADAATFDTDDAAADDTDTTDAFADADDDTFFFDDTTTADFAAADFTDAADA";
+}
+
+void TestIntelligentMail::encodes()
+{
+    QFETCH(QString, barCode);
+    QFETCH(QString, zip);
+    QFETCH(QString, routing);
+    QFETCH(QString, bars);
+    const IntelligentMailBarcode code(barCode, zip);
+    QVERIFY2(code.isValid(), qPrintable(code.error()));
+    QCOMPARE(code.tracking(), QStringLiteral("01234567094987654321"));
+    QCOMPARE(code.routing(), routing);
+    QCOMPARE(code.bars(), bars);
+}
+
+void TestIntelligentMail::refuses_data()
+{
+    QTest::addColumn<QString>("barCode");
+    QTest::addColumn<QString>("zip");
+    QTest::addColumn<QString>("why");
+    QTest::newRow("letters") << "0123456709498765432A"
+                             << "98101"
+                             << "holds more than digits";
+    QTest::newRow("short") << "0123456709498765432"
+                           << "98101"
+                           << "has 19 digits";
+    QTest::newRow("routing-of-one") << "012345670949876543219"
+                                    << "98101"
+                                    << "has 21 digits";
+    QTest::newRow("two-separators") << "01234567094987654321--01234"
+                                    << ""
+                                    << "holds more than digits";
+    QTest::newRow("identifier-above-4") << "05234567094987654321"
+                                        << "98101"
+                                        << "second digit";
+    QTest::newRow("zip-of-four") << "01234567094987654321"
+                                 << "9810"
+                                 << "gives none";
+    QTest::newRow("empty") << "  "
+                           << "98101"
+                           << "empty";
+}
+
+void TestIntelligentMail::refuses()
+{
+    QFETCH(QString, barCode);
+    QFETCH(QString, zip);
+    QFETCH(QString, why);
+    const IntelligentMailBarcode code(barCode, zip);
+    QVERIFY(!code.isValid());
+    QVERIFY2(code.error().contains(why), qPrintable(code.error()));
+    QVERIFY(code.bars().isEmpty());
+}
+
+void TestIntelligentMail::barsKeepThePostalDimensions()
+{
+    const IntelligentMailBarcode code(QStringLiteral("01234567094987654321-01234567891"), {});
+    const QPoint origin(1000, 2000);
+    const QList<QRect> rects = code.barRects(origin);
+    QCOMPARE(rects.size(), IntelligentMailBarcode::BarCount);
+
+    // The whole code is 2.667 to 3.225 in long, 20 to 24 bars to the inch.
+    const int length = rects.last().right() + 1 - rects.first().left();
+    QCOMPARE(length, IntelligentMailBarcode::widthTwips());
+    QVERIFY(length >= 2.667 * 1440 && length <= 3.225 * 1440);
+    const double perInch = (IntelligentMailBarcode::BarCount - 1) * 1440.0 /
+                           (rects.last().left() - rects.first().left());
+    QVERIFY(perInch >= 20 && perInch <= 24);
+
+    const int full = IntelligentMailBarcode::heightTwips();
+    QVERIFY(full >= 0.125 * 1440 && full <= 0.165 * 1440);
+    for (int i = 0; i < rects.size(); ++i) {
+        const QRect &bar = rects.at(i);
+        QVERIFY(bar.width() >= 0.015 * 1440 && bar.width() <= 0.025 * 1440);
+        const int top = bar.top() - origin.y(), bottom = bar.bottom() + 1 - origin.y();
+        switch (code.bars().at(i).toLatin1()) {
+        case IntelligentMailBarcode::Full:
+            QCOMPARE(top, 0);
+            QCOMPARE(bottom, full);
+            break;
+        case IntelligentMailBarcode::Ascender:
+            QCOMPARE(top, 0);
+            QVERIFY(bottom >= 0.085 * 1440 && bottom <= 0.115 * 1440);
+            break;
+        case IntelligentMailBarcode::Descender:
+            QCOMPARE(bottom, full);
+            QVERIFY(full - top >= 0.085 * 1440 && full - top <= 0.115 * 1440);
+            break;
+        default:
+            QVERIFY(bar.height() >= 0.039 * 1440 && bar.height() <= 0.057 * 1440);
+            QCOMPARE(top + bottom, full); // the tracker sits in the middle
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(TestIntelligentMail)
+#include "tst_intelligentmail.moc"
