@@ -9,6 +9,7 @@
 #                    UndefinedBehaviorSanitizer (its own build folder, BUILD-asan)
 #   make fuzz        the libFuzzer targets (clang, BUILD-fuzz), FUZZ_SECONDS each
 #   make bench       quirra print against Qt's PDF engine, 1,000 to 1,000,000 records
+#   make format      format every C++ file as .clang-format says (format-check: only look)
 
 BUILD    ?= build
 TYPE     ?= RelWithDebInfo
@@ -24,7 +25,7 @@ SANITIZER_ENV = \
 	ASAN_OPTIONS=detect_leaks=1:check_initialization_order=1:strict_init_order=1 \
 	UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 
-.PHONY: all deps configure build test test-asan install-test demo bench fuzz clean
+.PHONY: all deps configure build test test-asan install-test demo bench fuzz format format-check clean
 
 all: build
 
@@ -73,6 +74,13 @@ fuzz:
 		-DQUIRRA_BUILD_TESTS=OFF -DQUIRRA_BUILD_BENCH=OFF
 	cmake --build $(FUZZ_BUILD) -j $(JOBS) --target fuzz_profile fuzz_catalogue fuzz_spool fuzz_csv fuzz_templates
 	./scripts/fuzz $(FUZZ_BUILD) $(FUZZ_SECONDS)
+
+# Every C++ file as .clang-format says; CI checks it before it builds.
+format-check: deps
+	./scripts/check-format
+
+format: deps
+	./scripts/check-format --fix
 
 clean:
 	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)
