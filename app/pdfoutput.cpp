@@ -135,6 +135,8 @@ bool PdfOutput::open(QString *error)
             return false;
         }
         m_mode = info.st_mode & 07777;
+        m_owner = info.st_uid;
+        m_group = info.st_gid;
         m_replaces = true;
     } else if (errno != ENOENT) {
         *error = QStringLiteral("cannot write %1: %2").arg(m_target, errnoText(errno));
@@ -213,6 +215,9 @@ bool PdfOutput::commit(QString *error)
         umask(mode);
         mode = 0666 & ~mode;
     }
+    // Root replacing another user's file gives it back to that user.
+    if (m_replaces && ::geteuid() == 0)
+        (void)!::chown(from.constData(), m_owner, m_group);
     ::chmod(from.constData(), mode);
     // rename() replaces an existing target in one step.
     if (std::rename(from.constData(), to.constData()) != 0)

@@ -18,7 +18,7 @@ namespace quirra {
  * Only a regular file or a new name is written: a folder, a named pipe or a
  * device at the path is refused by open(). A symbolic link is followed: the
  * file it names is replaced and the link stays. A file replaced keeps its
- * permissions.
+ * permissions (and, when root replaces it, its owner).
  */
 class PdfOutput
 {
@@ -66,6 +66,8 @@ private:
     QString m_path;          // the target with its links followed
     unsigned m_mode = 0;     // the replaced file's permissions
     bool m_replaces = false; // a file is there already
+    unsigned m_owner = 0;    // and its owner and group
+    unsigned m_group = 0;
     QString m_temporary;
     bool m_committed = false;
 };

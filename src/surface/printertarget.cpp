@@ -93,7 +93,9 @@ bool PrinterTarget::startPrintFile()
     const QString queue = m_printer.printerName();
     m_failure = cupsjob::queueProblem(queue);
     if (!m_failure.isEmpty()) {
-        qCWarning(lcSurface).noquote() << m_failure;
+        // The run reports it (failure(), error code 2); the log has it for
+        // whoever follows the library.
+        qCDebug(lcSurface).noquote() << m_failure;
         if (!m_printFile.isEmpty())
             QFile::remove(m_printFile);
         m_printFile.clear();
@@ -150,7 +152,7 @@ void PrinterTarget::finishPrintFile(bool aborted)
         m_failure = cupsjob::printFile(queue, m_printFile, m_printer.docName(), m_options,
                                        m_jobWatchMs);
         if (!m_failure.isEmpty())
-            qCWarning(lcSurface).noquote() << m_failure;
+            qCDebug(lcSurface).noquote() << m_failure;
     }
     QFile::remove(m_printFile);
     m_printFile.clear();
