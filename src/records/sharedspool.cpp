@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <ctime>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -19,6 +20,10 @@ namespace quirra {
 namespace {
 
 const QString SpoolPrefix = QStringLiteral("qzv");
+
+// A spool younger than this may be one another process has just made and
+// not yet locked.
+constexpr time_t StaleAfterSeconds = 60;
 
 QString temporaryDirectory()
 {
@@ -54,8 +59,9 @@ int SharedSpool::removeStaleSpools(const QString &folder)
         if (fd < 0)
             continue;
         struct stat info;
-        // Only this user's files, and only when no one holds them.
+        // Only this user's files, not touched for a while, that no one holds.
         if (::fstat(fd, &info) == 0 && S_ISREG(info.st_mode) && info.st_uid == ::geteuid() &&
+            info.st_mtime + StaleAfterSeconds < ::time(nullptr) &&
             ::flock(fd, LOCK_EX | LOCK_NB) == 0 && ::unlink(path.constData()) == 0) {
             ++removed;
         }

@@ -52,7 +52,8 @@ public:
 
     /**
      * @brief Removes the spool files in folder ("qzv*.tmp", owned by this
-     * user) that no process holds a lock on; returns how many.
+     * user, unchanged for a minute) that no process holds a lock on;
+     * returns how many.
      */
     static int removeStaleSpools(const QString &folder);
 

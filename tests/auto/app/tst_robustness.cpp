@@ -296,6 +296,9 @@ void TestRobustness::staleSpoolsAreRemoved()
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("\"FirstName\"\r\n");
+        file.close();
+        const timespec hourAgo[2] = {{::time(nullptr) - 3600, 0}, {::time(nullptr) - 3600, 0}};
+        QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), hourAgo, 0), 0);
     }
     const int fd = ::open(QFile::encodeName(held).constData(), O_RDONLY);
     QVERIFY(fd >= 0);
