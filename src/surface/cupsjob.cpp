@@ -114,8 +114,9 @@ QString printFile(const QString &queue, const QString &file, const QString &titl
             .arg(name, text(cupsLastErrorString()));
     }
 
-    // A job the queue stops at once (a filter or the device failing) is
-    // aborted within moments; one still on its way after that is printing.
+    // A job the queue cannot print (a filter or the device failing) is
+    // aborted or stopped within moments; one still on its way after that is
+    // printing.
     char uri[HTTP_MAX_URI];
     httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", 0,
                      "/jobs/%d", job);
@@ -127,16 +128,25 @@ QString printFile(const QString &queue, const QString &file, const QString &titl
             return QString();
         ipp_attribute_t *state = ippFindAttribute(response.get(), "job-state", IPP_TAG_ENUM);
         const int value = state ? ippGetInteger(state, 0) : IPP_JSTATE_COMPLETED;
-        if (value == IPP_JSTATE_ABORTED || value == IPP_JSTATE_CANCELED) {
+        if (value == IPP_JSTATE_ABORTED || value == IPP_JSTATE_CANCELED ||
+            value == IPP_JSTATE_STOPPED) {
+            // The job's own message, else the queue's, and the job's reasons.
             QString why = values(response.get(), "job-printer-state-message");
+            if (why.isEmpty()) {
+                Ipp printer = ask(IPP_OP_GET_PRINTER_ATTRIBUTES, "printer-uri", queueUri(name),
+                                  {"printer-state-message", "printer-state-reasons"});
+                why = printer ? values(printer.get(), "printer-state-message") : QString();
+            }
             const QString reasons = values(response.get(), "job-state-reasons");
             if (why.isEmpty())
                 why = reasons;
             else if (!reasons.isEmpty())
                 why += QStringLiteral(" (") + reasons + QLatin1Char(')');
+            const QString what = value == IPP_JSTATE_ABORTED   ? QStringLiteral("aborted")
+                                 : value == IPP_JSTATE_STOPPED ? QStringLiteral("stopped")
+                                                               : QStringLiteral("cancelled");
             return QStringLiteral("the printer queue \"%1\" %2 job %3: %4")
-                .arg(name, value == IPP_JSTATE_ABORTED ? QStringLiteral("aborted")
-                                                       : QStringLiteral("cancelled"))
+                .arg(name, what)
                 .arg(job)
                 .arg(why.isEmpty() ? QStringLiteral("no reason given") : why);
         }

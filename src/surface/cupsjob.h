@@ -24,7 +24,8 @@ QString queueProblem(const QString &queue);
 /**
  * @brief Sends file to the queue as one job and follows it for a moment.
  * @return empty when CUPS took the job and did not stop it within
- * waitMs; else why the job was refused or aborted, in CUPS's words.
+ * waitMs; else why the job was refused, aborted or stopped, in CUPS's
+ * words.
  */
 QString printFile(const QString &queue, const QString &file, const QString &title,
                   const QList<Option> &options, int waitMs);

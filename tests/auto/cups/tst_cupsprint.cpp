@@ -166,6 +166,7 @@ private Q_SLOTS:
     void unknownPrinterIsReported();
     void refusingQueueIsReported_data();
     void refusingQueueIsReported();
+    void jobTheQueueCannotPrintIsReported();
 
 private:
     QString title(const char *what) const;
@@ -343,6 +344,41 @@ void TestCupsPrint::refusingQueueIsReported()
     // Nothing waits in the queue to come out later.
     QProcess::execute(restore, {"-h", server, m_queue});
     QVERIFY(spooledPdf(m_outDir, job, 3000).isEmpty());
+}
+
+void TestCupsPrint::jobTheQueueCannotPrintIsReported()
+{
+    // A second queue whose driver names a filter that is not installed:
+    // CUPS takes the job, then stops it.
+    QFile driver(QStringLiteral("/usr/share/ppd/cups-pdf/CUPS-PDF_opt.ppd"));
+    QVERIFY(driver.open(QIODevice::ReadOnly));
+    QTemporaryDir folder;
+    QFile broken(folder.filePath(QStringLiteral("broken.ppd")));
+    QVERIFY(broken.open(QIODevice::WriteOnly));
+    for (const QByteArray &line : driver.readAll().split('\n')) {
+        if (!line.startsWith("*cupsFilter"))
+            broken.write(line + '\n');
+    }
+    broken.write("*cupsFilter2: \"application/pdf application/vnd.cups-pdf 0 quirra-no-filter\"\n");
+    broken.close();
+    const QString server = qEnvironmentVariable("CUPS_SERVER");
+    const QString queue = QStringLiteral("QuirraBroken");
+    QCOMPARE(QProcess::execute(QStringLiteral("lpadmin"),
+                               {"-h", server, "-p", queue, "-E", "-v", "cups-pdf:/", "-P",
+                                broken.fileName(), "-o", "printer-error-policy=abort-job"}),
+             0);
+    const auto removed = qScopeGuard([&] {
+        QProcess::execute(QStringLiteral("lpadmin"), {"-h", server, "-x", queue});
+    });
+
+    Quirra control;
+    control.PieceName(QStringLiteral("5160 - Address Labels"));
+    feed(control, 3);
+    control.surface()->setPrinterName(queue);
+    control.PrintNow();
+    QVERIFY(control.surface()->errorCode() != 0);
+    const QString failure = control.surface()->printerFailure();
+    QVERIFY2(failure.contains(QLatin1String("quirra-no-filter")), qPrintable(failure));
 }
 
 QTEST_MAIN(TestCupsPrint)
