@@ -4,6 +4,7 @@
 // quirra: the command-line host. Feeds the records of a CSV file to a Quirra
 // control and prints them, writes them to a PDF file, or previews them in a
 // window; lists the catalogue.
+#include "cataloguecheck.h"
 #include "interruptcleanup.h"
 #include "pdfoutput.h"
 #include "previewwindow.h"
@@ -32,6 +33,8 @@
 #include <optional>
 #include <unistd.h>
 
+extern "C" const char *quirraControlVersion();
+
 using namespace quirra;
 
 namespace {
@@ -51,16 +54,38 @@ void print(const QString &line)
     std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
 }
 
-int usage()
+// Asked for, the usage goes to standard output; after a mistake, to standard error.
+int usage(bool asked = false)
 {
-    say(QStringLiteral(
+    const QString text(QStringLiteral(
         "usage: quirra print [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]...\n"
         "                    [--pdf OUT.pdf | --printer NAME] [--progress] [CSV | -]\n"
         "       quirra preview [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]... "
         "[CSV | -]\n"
         "       quirra pieces [--product NAME]\n"
+        "       quirra --version\n"
         "Run 'quirra COMMAND --help' for the options of a command."));
+    if (asked) {
+        print(text);
+        return 0;
+    }
+    say(text);
     return 2;
+}
+
+// A damaged catalogue is named with its line, once, before anything runs.
+bool catalogueReadable(const QString &command)
+{
+    const QString file = CatalogueFilePath();
+    if (file.isEmpty())
+        return true; // each command says what it does without one
+    const QString problem = catalogueProblem(file);
+    if (problem.isEmpty())
+        return true;
+    say(QStringLiteral("quirra %1: the catalogue is damaged: %2. Reinstall it, or set "
+                       "QUIRRA_SYSTEM_DIR to the folder of a complete one.")
+            .arg(command, problem));
+    return false;
 }
 
 /**
@@ -193,7 +218,7 @@ int runPrint(const QStringList &arguments)
         say(QStringLiteral("quirra print: warning: %1").arg(warning));
     if (!applied) {
         say(QStringLiteral("quirra print: %1").arg(error));
-        return 1;
+        return options.unknownPiece ? 2 : 1;
     }
 
     RecordFeed feed(control);
@@ -222,13 +247,17 @@ int runPrint(const QStringList &arguments)
         // Through the surface: a printer that went away since it was
         // checked fails the run instead of printing on another one.
         control.surface()->setPrinterName(printerName);
+        InterruptCleanup::watch(control.surface()->printFile());
     }
     bool printerFailed = false;
     const MessageHookScope hook([&](const QString &text) {
         if (bar)
             bar->interrupt();
-        say(QStringLiteral("quirra print: %1 (%2 cannot be written)")
-                .arg(text, pdf ? pdf->target() : QStringLiteral("the printer ") + printerName));
+        const QString why = pdf ? QString() : control.surface()->printerFailure();
+        say(why.isEmpty() ? QStringLiteral("quirra print: %1 (%2 cannot be written)")
+                                .arg(text, pdf ? pdf->target()
+                                               : QStringLiteral("the printer ") + printerName)
+                          : QStringLiteral("quirra print: %1; nothing was printed").arg(why));
         printerFailed = true;
     });
 
@@ -260,8 +289,11 @@ int runPrint(const QStringList &arguments)
     if (bar)
         bar->finish(QStringLiteral("printing"), 1.0, pageDetail(pages, pages));
     if (printerFailed || control.surface()->errorCode() != 0) {
+        const QString why = pdf ? QString() : control.surface()->printerFailure();
         if (!printerFailed)
-            say(QStringLiteral("quirra print: Ptr.error = %1").arg(control.surface()->errorCode()));
+            say(why.isEmpty()
+                    ? QStringLiteral("quirra print: Ptr.error = %1").arg(control.surface()->errorCode())
+                    : QStringLiteral("quirra print: %1").arg(why));
         return 1;
     }
     QString destination = QStringLiteral("printer ") + printerName;
@@ -318,7 +350,7 @@ int runPreview(const QStringList &arguments)
         say(QStringLiteral("quirra preview: warning: %1").arg(warning));
     if (!applied) {
         say(QStringLiteral("quirra preview: %1").arg(error));
-        return 1;
+        return options.unknownPiece ? 2 : 1;
     }
     RecordFeed feed(control);
     if (!feed.open(options.csvPath, &error)) {
@@ -448,7 +480,11 @@ int main(int argc, char **argv)
     const QString command = argc >= 2 ? QString::fromLocal8Bit(argv[1]) : QString();
     if (command == QLatin1String("--help") || command == QLatin1String("-h") ||
         command == QLatin1String("help")) {
-        usage();
+        return usage(true);
+    }
+    if (command == QLatin1String("--version") || command == QLatin1String("version")) {
+        print(QStringLiteral("quirra %1").arg(QLatin1String(quirraControlVersion())));
+        std::fflush(stdout);
         return 0;
     }
     if (command != QLatin1String("print") && command != QLatin1String("preview") &&
@@ -487,7 +523,10 @@ int main(int argc, char **argv)
     arguments[0] += QLatin1Char(' ') + command;
     int status = 2;
     try {
-        if (command == QLatin1String("print"))
+        if (!arguments.contains(QStringLiteral("--help")) && !arguments.contains(QStringLiteral("-h")) &&
+            !catalogueReadable(command))
+            status = 1;
+        else if (command == QLatin1String("print"))
             status = runPrint(arguments);
         else if (command == QLatin1String("preview"))
             status = runPreview(arguments);

@@ -10,9 +10,95 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
 
 namespace quirra {
+
+namespace {
+
+// Links are followed as far as the kernel would follow them.
+constexpr int MaxLinks = 40;
+
+// Below this much room a folder counts as full.
+constexpr unsigned long long FullBelowBytes = 1 << 20;
+
+QString errnoText(int code)
+{
+    return QString::fromLocal8Bit(std::strerror(code));
+}
+
+// What a path that is no regular file is, in words; empty for a regular file.
+QString kindOf(mode_t mode)
+{
+    if (S_ISREG(mode))
+        return QString();
+    if (S_ISDIR(mode))
+        return QStringLiteral("a folder");
+    if (S_ISFIFO(mode))
+        return QStringLiteral("a named pipe (FIFO)");
+    if (S_ISCHR(mode) || S_ISBLK(mode))
+        return QStringLiteral("a device");
+    if (S_ISSOCK(mode))
+        return QStringLiteral("a socket");
+    return QStringLiteral("not a regular file");
+}
+
+/*
+ * The last bytes of a PDF are "startxref", the offset of the cross-reference
+ * table, and "%%EOF"; the table gives the offset of every object. A file cut
+ * short, or missing a block in between, fails one of these.
+ */
+bool pdfIsWhole(const uchar *data, qint64 size)
+{
+    const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data), size);
+    const QByteArray tail = bytes.right(1024).trimmed();
+    if (!tail.endsWith("%%EOF"))
+        return false;
+    const qsizetype at = tail.lastIndexOf("startxref");
+    if (at < 0)
+        return false;
+    bool ok = false;
+    const qint64 table = tail.mid(at + 9, tail.size() - 5 - at - 9).trimmed().toLongLong(&ok);
+    if (!ok || table <= 0 || table >= size || bytes.mid(table, 4) != "xref")
+        return false;
+    qsizetype line = bytes.indexOf('\n', table) + 1;
+    auto nextLine = [&]() {
+        const qsizetype end = bytes.indexOf('\n', line);
+        if (line <= 0 || end < 0)
+            return QByteArray();
+        const QByteArray text = bytes.mid(line, end - line).trimmed();
+        line = end + 1;
+        return text;
+    };
+    // Subsections: "first count", then count lines "offset generation n|f".
+    for (QByteArray head = nextLine(); !head.startsWith("trailer"); head = nextLine()) {
+        const QList<QByteArray> fields = head.split(' ');
+        if (fields.size() != 2)
+            return false;
+        bool firstOk = false, countOk = false;
+        qint64 object = fields[0].toLongLong(&firstOk);
+        const qint64 count = fields[1].toLongLong(&countOk);
+        if (!firstOk || !countOk || count < 0)
+            return false;
+        for (qint64 i = 0; i < count; ++i, ++object) {
+            const QByteArray entry = nextLine();
+            if (entry.size() < 18)
+                return false;
+            if (entry.endsWith('f'))
+                continue;
+            const qint64 offset = entry.left(10).toLongLong(&ok);
+            const QByteArray start = QByteArray::number(object) + ' ';
+            if (!ok || offset < 0 || offset >= table || bytes.mid(offset, start.size()) != start)
+                return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
 
 PdfOutput::PdfOutput(const QString &target) : m_target(target) {}
 
@@ -24,16 +110,40 @@ PdfOutput::~PdfOutput()
 
 bool PdfOutput::open(QString *error)
 {
-    const QFileInfo info(m_target);
-    if (m_target.isEmpty() || info.fileName().isEmpty()) {
+    if (m_target.isEmpty() || QFileInfo(m_target).fileName().isEmpty()) {
         *error = QStringLiteral("the PDF needs a file name");
         return false;
     }
-    if (info.isDir()) {
-        *error = QStringLiteral("%1 is a folder; give the PDF a file name inside it").arg(m_target);
+    // A link is followed: the file it names is replaced, the link stays.
+    m_path = QFileInfo(m_target).absoluteFilePath();
+    for (int links = 0; QFileInfo(m_path).isSymLink(); ++links) {
+        if (links == MaxLinks) {
+            *error = QStringLiteral("%1 is a loop of symbolic links").arg(m_target);
+            return false;
+        }
+        m_path = QFileInfo(m_path).symLinkTarget();
+    }
+    m_mode = 0;
+    m_replaces = false;
+    struct stat info;
+    if (::stat(QFile::encodeName(m_path).constData(), &info) == 0) {
+        const QString kind = kindOf(info.st_mode);
+        if (!kind.isEmpty()) {
+            *error = QStringLiteral("%1 is %2; --pdf needs the name of a regular file or of a "
+                                    "new one")
+                         .arg(m_target, kind);
+            return false;
+        }
+        m_mode = info.st_mode & 07777;
+        m_owner = info.st_uid;
+        m_group = info.st_gid;
+        m_replaces = true;
+    } else if (errno != ENOENT) {
+        *error = QStringLiteral("cannot write %1: %2").arg(m_target, errnoText(errno));
         return false;
     }
-    const QDir folder = info.absoluteDir();
+    const QFileInfo info2(m_path);
+    const QDir folder = info2.absoluteDir();
     if (!folder.exists()) {
         *error = QStringLiteral("the folder %1 does not exist; create it first")
                      .arg(QDir::toNativeSeparators(folder.path()));
@@ -42,7 +152,7 @@ bool PdfOutput::open(QString *error)
     // Hidden, and named after the target, so a stray one (after a crash) is
     // easy to recognise.
     QTemporaryFile file(
-        folder.filePath(QLatin1Char('.') + info.fileName() + QStringLiteral(".XXXXXX.part")));
+        folder.filePath(QLatin1Char('.') + info2.fileName() + QStringLiteral(".XXXXXX.part")));
     file.setAutoRemove(false);
     if (!file.open()) {
         *error = QStringLiteral("cannot write in the folder %1: %2")
@@ -55,28 +165,68 @@ bool PdfOutput::open(QString *error)
     return true;
 }
 
+QString PdfOutput::incompleteReason() const
+{
+    const QString folder = QFileInfo(m_path).absolutePath();
+    struct statvfs room;
+    if (::statvfs(QFile::encodeName(folder).constData(), &room) == 0 &&
+        (unsigned long long)room.f_bavail * room.f_frsize < FullBelowBytes) {
+        return QStringLiteral("the disk is full (no space left in %1); free some room and run "
+                              "again")
+            .arg(QDir::toNativeSeparators(folder));
+    }
+    return QStringLiteral("a write failed (an input/output error or a disk quota); check the disk "
+                          "and run again");
+}
+
 bool PdfOutput::commit(QString *error)
 {
     if (m_temporary.isEmpty()) {
         *error = QStringLiteral("no PDF was started");
         return false;
     }
-    if (QFileInfo(m_temporary).size() == 0) {
+    auto fail = [&](const QString &why) {
         discard();
-        *error = QStringLiteral("no page was written to %1").arg(m_target);
+        const QString left = m_replaces ? QStringLiteral("the file there is as it was")
+                                        : QStringLiteral("no file was made");
+        *error = QStringLiteral("%1 was not written: %2; %3").arg(m_target, why, left);
         return false;
-    }
+    };
+    QFile file(m_temporary);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(file.errorString());
+    if (file.size() == 0)
+        return fail(QStringLiteral("no page was written"));
+    const uchar *data = file.map(0, file.size());
+    const bool whole = data && pdfIsWhole(data, file.size());
+    if (!whole)
+        return fail(QStringLiteral("the file came out incomplete: ") + incompleteReason());
+    file.unmap(const_cast<uchar *>(data));
+    // The data must be on the disk before the name points at it.
+    if (::fsync(file.handle()) != 0)
+        return fail(errnoText(errno));
+    file.close();
+
     const QByteArray from = QFile::encodeName(m_temporary);
-    const QByteArray to = QFile::encodeName(m_target);
-    const mode_t mask = umask(0);
-    umask(mask);
-    ::chmod(from.constData(), 0666 & ~mask);
+    const QByteArray to = QFile::encodeName(m_path);
+    mode_t mode = m_mode;
+    if (!m_replaces) {
+        mode = umask(0);
+        umask(mode);
+        mode = 0666 & ~mode;
+    }
+    // Root replacing another user's file gives it back to that user.
+    if (m_replaces && ::geteuid() == 0)
+        (void)!::chown(from.constData(), m_owner, m_group);
+    ::chmod(from.constData(), mode);
     // rename() replaces an existing target in one step.
-    if (std::rename(from.constData(), to.constData()) != 0) {
-        const QString why = QString::fromLocal8Bit(std::strerror(errno));
-        discard();
-        *error = QStringLiteral("cannot write %1: %2").arg(m_target, why);
-        return false;
+    if (std::rename(from.constData(), to.constData()) != 0)
+        return fail(errnoText(errno));
+    const int folder = ::open(QFile::encodeName(QFileInfo(m_path).absolutePath()).constData(),
+                              O_RDONLY | O_DIRECTORY);
+    if (folder >= 0) {
+        ::fsync(folder);
+        ::close(folder);
     }
     m_committed = true;
     m_temporary.clear();

@@ -14,6 +14,11 @@ namespace quirra {
  * when the run succeeded. A failed run, an exception or an early return
  * removes the temporary file, and an older file of the target's name stays
  * as it was until the new one is complete.
+ *
+ * Only a regular file or a new name is written: a folder, a named pipe or a
+ * device at the path is refused by open(). A symbolic link is followed: the
+ * file it names is replaced and the link stays. A file replaced keeps its
+ * permissions (and, when root replaces it, its owner).
  */
 class PdfOutput
 {
@@ -30,7 +35,7 @@ public:
     /**
      * @brief Creates the temporary file beside the target.
      * @return false with a message when the folder is missing or not
-     * writable, or the target is a folder.
+     * writable, or the target is a folder, a named pipe or a device.
      */
     bool open(QString *error);
 
@@ -41,10 +46,13 @@ public:
     QString target() const { return m_target; }
 
     /**
-     * @brief Moves the written file to the target, with the permissions a
-     * new file gets (0666 less the umask).
-     * @return false with a message when nothing was written or the rename
-     * failed; the temporary file is gone either way.
+     * @brief Checks that the written file is a whole PDF (every object where
+     * the cross-reference table puts it, the trailer at the end), flushes it
+     * to the disk and moves it to the target, with the permissions of the
+     * file it replaces, or those a new file gets (0666 less the umask).
+     * @return false with a message when nothing or only part was written (a
+     * full disk is named as such) or the rename failed; the temporary file
+     * is gone either way and the target untouched.
      */
     bool commit(QString *error);
 
@@ -52,7 +60,14 @@ public:
     void discard();
 
 private:
+    QString incompleteReason() const;
+
     QString m_target;
+    QString m_path;          // the target with its links followed
+    unsigned m_mode = 0;     // the replaced file's permissions
+    bool m_replaces = false; // a file is there already
+    unsigned m_owner = 0;    // and its owner and group
+    unsigned m_group = 0;
     QString m_temporary;
     bool m_committed = false;
 };

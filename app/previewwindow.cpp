@@ -198,7 +198,11 @@ bool PreviewWindow::runPrint(const QString &what)
         complain(tr("%1 failed: %2").arg(what, e.message()));
         return false;
     }
-    // The run has shown "Ptr.error = " itself when the printer failed.
+    // The run has shown "Ptr.error = " itself when the printer failed; a
+    // queue that refused the job also says why.
+    const QString why = m_control->surface()->printerFailure();
+    if (m_control->surface()->errorCode() != 0 && !why.isEmpty())
+        complain(tr("%1 failed: %2").arg(what, why));
     return m_control->surface()->errorCode() == 0;
 }
 

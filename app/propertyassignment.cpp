@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "propertyassignment.h"
 
+#include "valuelimits.h"
+
 #include <QFont>
 #include <QFontDatabase>
 #include <QLocale>
@@ -277,6 +279,11 @@ bool PropertyAssignment::apply(QObject *target, QString *error, QStringList *war
     QString why;
     if (!convert(property, m_value, property.read(target), &value, &why)) {
         *error = QStringLiteral("--set %1=%2: %1 takes %3").arg(m_name, m_value, why);
+        return false;
+    }
+    const QString limit = valueProblem(m_name, value);
+    if (!limit.isEmpty()) {
+        *error = QStringLiteral("--set ") + limit;
         return false;
     }
     if (!property.write(target, value)) {

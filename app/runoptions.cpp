@@ -2,24 +2,42 @@
 // SPDX-License-Identifier: MIT
 #include "runoptions.h"
 
+#include "cataloguecheck.h"
+#include "valuelimits.h"
+
 #include "catalogue/catalogue.h"
 #include "catalogue/pieceentry.h"
 #include "control/jsonpropertybag.h"
 #include "control/quirra.h"
 #include "model/error.h"
 #include "model/piece.h"
+#include "settings/files.h"
 
 #include <QCommandLineParser>
+#include <QJsonObject>
+#include <QMetaProperty>
 
 namespace quirra {
 
 namespace {
 
-QString unknownPieceWarning(const QString &name)
+// An unknown name would print on the control's fallback piece, which is
+// not what the user asked for: the run stops and names the nearest ones.
+QString unknownPieceError(const QString &name)
 {
-    return QStringLiteral("the catalogue has no piece \"%1\"; \"%2\" is used (see quirra pieces "
-                          "for the names)")
-        .arg(name, DefaultPieceName);
+    const QString file = CatalogueFilePath();
+    if (file.isEmpty()) {
+        return QStringLiteral("there is no catalogue (quirra.cfg) in %1 to find the piece \"%2\" "
+                              "in; set QUIRRA_SYSTEM_DIR to the folder that holds it")
+            .arg(SystemDirectory(), name);
+    }
+    QStringList quoted;
+    for (const QString &near : nearestPieceNames(file, name))
+        quoted << QLatin1Char('"') + near + QLatin1Char('"');
+    QString text = QStringLiteral("the catalogue has no piece \"%1\"").arg(name);
+    if (!quoted.isEmpty())
+        text += QStringLiteral("; did you mean %1?").arg(quoted.join(QStringLiteral(", ")));
+    return text + QStringLiteral(" (quirra pieces lists them all)");
 }
 
 // Choosing a piece gives every item without text the layout's placeholder
@@ -144,7 +162,7 @@ bool RunOptions::catalogueHasPiece(const QString &name)
     return !file.isEmpty() && ReadPieceSpec(file, name).NumAcross >= 1;
 }
 
-bool RunOptions::applyTo(Quirra &control, QStringList *warnings, QString *error) const
+bool RunOptions::applyTo(Quirra &control, QStringList *warnings, QString *error)
 {
     if (!layoutPath.isEmpty()) {
         JsonPropertyBag bag;
@@ -154,11 +172,40 @@ bool RunOptions::applyTo(Quirra &control, QStringList *warnings, QString *error)
             *error = QStringLiteral("--layout %1: %2").arg(layoutPath, e.message());
             return false;
         }
+        // A text of megabytes, or a length no sheet has, is refused before
+        // the control spends minutes on it.
+        const QJsonObject values = bag.values();
+        for (auto it = values.begin(); it != values.end(); ++it) {
+            const QMetaObject *meta = control.metaObject();
+            const int index = meta->indexOfProperty(it.key().toLatin1().constData());
+            if (index < 0)
+                continue;
+            QVariant value;
+            if (it.value().isString())
+                value = it.value().toString();
+            else if (it.value().isDouble() && meta->property(index).typeId() == QMetaType::Float)
+                value = float(it.value().toDouble());
+            const QString problem = valueProblem(it.key(), value);
+            if (!problem.isEmpty()) {
+                *error = QStringLiteral("--layout %1: %2").arg(layoutPath, problem);
+                return false;
+            }
+        }
+        // A piece named in the layout must be in the catalogue as well.
+        const QString saved = bag.values().value(QStringLiteral("PieceName")).toString();
+        if (piece.isEmpty() && !saved.isEmpty() && !catalogueHasPiece(saved)) {
+            unknownPiece = true;
+            *error = QStringLiteral("--layout %1: %2").arg(layoutPath, unknownPieceError(saved));
+            return false;
+        }
         control.ReadProperties(bag);
     }
     if (!piece.isEmpty()) {
-        if (!catalogueHasPiece(piece))
-            *warnings << unknownPieceWarning(piece);
+        if (!catalogueHasPiece(piece)) {
+            unknownPiece = true;
+            *error = QStringLiteral("--piece: ") + unknownPieceError(piece);
+            return false;
+        }
         keepEmptyTextsEmpty(control, [&] { control.PieceName(piece); });
     }
     for (const PropertyAssignment &assignment : settings) {
@@ -172,8 +219,11 @@ bool RunOptions::applyTo(Quirra &control, QStringList *warnings, QString *error)
                             [&] { applied = assignment.apply(&control, error, warnings); });
         if (!applied)
             return false;
-        if (!catalogueHasPiece(control.PieceName()))
-            *warnings << unknownPieceWarning(control.PieceName());
+        if (!catalogueHasPiece(control.PieceName())) {
+            unknownPiece = true;
+            *error = QStringLiteral("--set PieceName: ") + unknownPieceError(control.PieceName());
+            return false;
+        }
     }
     return true;
 }

@@ -38,10 +38,12 @@ public:
      * (--piece), then every --set in the order given.
      * @param warnings receives what does not stop the run (an unknown piece
      * name, a font that is not installed)
-     * @return false with a message when the layout file cannot be read or a
-     * --set names no property or gives a value its type cannot take.
+     * @return false with a message when the layout file cannot be read, a
+     * --set names no property or gives a value its type cannot take, or the
+     * piece chosen (by --piece, --set PieceName or the layout) is not in the
+     * catalogue (unknownPiece is then set: a usage mistake).
      */
-    bool applyTo(Quirra &control, QStringList *warnings, QString *error) const;
+    bool applyTo(Quirra &control, QStringList *warnings, QString *error);
 
     /** @brief True when the catalogue holds a piece of this name. */
     static bool catalogueHasPiece(const QString &name);
@@ -53,6 +55,7 @@ public:
     QString pdfPath;                    ///< --pdf
     QString printerName;                ///< --printer
     Progress progress = Progress::Auto;
+    bool unknownPiece = false; ///< set by applyTo() when the piece is not in the catalogue
 };
 
 } // namespace quirra

@@ -5,6 +5,7 @@
 #include "quirracontrol_export.h"
 #include "records/spoolreader.h"
 
+#include <QList>
 #include <QString>
 
 namespace quirra {
@@ -36,9 +37,25 @@ public:
     /**
      * @brief Creates a new, empty spool file in the temporary directory
      * (prefix "qzv", mode 0600), names it as the spool and returns its path.
-     * @throws Error when the temporary directory cannot take a new file.
+     *
+     * The process holds a lock on every spool file it made until it ends, so
+     * a spool nobody holds a lock on was left by a process that was killed:
+     * the first spool a process makes removes those of its user first.
+     *
+     * @throws Error when the temporary directory cannot take a new file; the
+     * message is kept as creationError().
      */
     QString makeNewSpoolFile();
+
+    /** @brief Why the last makeNewSpoolFile() failed; empty when it did not. */
+    QString creationError() const { return m_creationError; }
+
+    /**
+     * @brief Removes the spool files in folder ("qzv*.tmp", owned by this
+     * user, unchanged for a minute) that no process holds a lock on;
+     * returns how many.
+     */
+    static int removeStaleSpools(const QString &folder);
 
     /** @brief The process's one spool reader. */
     SpoolReader &reader() { return m_reader; }
@@ -49,6 +66,9 @@ private:
     SharedSpool &operator=(const SharedSpool &) = delete;
 
     SpoolReader m_reader;
+    QString m_creationError;
+    QList<int> m_locks; // one open descriptor, locked, per spool file made
+    bool m_swept = false;
 };
 
 } // namespace quirra

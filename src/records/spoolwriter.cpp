@@ -7,13 +7,20 @@
 #include "records/record.h"
 #include "records/sharedspool.h"
 
+#include "settings/files.h"
+
 #include <QCoreApplication>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <unistd.h>
 
 namespace quirra {
 
 namespace {
 
-constexpr qsizetype BufferSize = 64 * 1024;
+// A line is rarely longer than this; the buffer is reused for every line.
+constexpr qsizetype BufferSize = 4 * 1024;
 
 } // namespace
 
@@ -52,8 +59,13 @@ void SpoolWriter::openSpool(QIODevice::OpenMode mode)
 {
     const QString path = SharedSpool::instance().spoolPath();
     if (path.isEmpty()) {
-        throw Error(QStringLiteral("Cannot write the record spool: no spool file has been made. "
-                                   "Create the control before feeding it records."));
+        // The control could not make its spool: say why (a missing or full
+        // temporary directory) rather than only that it is missing.
+        const QString why = SharedSpool::instance().creationError();
+        throw Error(why.isEmpty()
+                        ? QStringLiteral("Cannot write the record spool: no spool file has been "
+                                         "made. Create the control before feeding it records.")
+                        : why);
     }
     m_file.setFileName(path);
     // Owner-only, like the temporary file it normally replaces: the spool
@@ -73,17 +85,30 @@ void SpoolWriter::writeBuffer()
     if (m_buffer.isEmpty()) {
         return;
     }
-    const qint64 written = m_file.write(m_buffer);
-    const qsizetype wanted = m_buffer.size();
+    // Straight to the descriptor, so the call that fails knows why.
+    const int fd = m_file.handle();
+    const char *data = m_buffer.constData();
+    qsizetype left = m_buffer.size();
+    int code = 0;
+    while (left > 0) {
+        const ssize_t written = ::write(fd, data, size_t(left));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0) {
+            code = written < 0 ? errno : ENOSPC;
+            break;
+        }
+        data += written;
+        left -= written;
+    }
     m_buffer.clear();
-    if (written != wanted) {
-        const QString reason = m_file.errorString();
+    if (code != 0) {
         const QString path = m_file.fileName();
         m_file.close();
         m_open = false;
-        throw Error(QStringLiteral("Cannot write the record spool \"%1\": %2. "
-                                   "Free some room in the temporary folder and start again.")
-                        .arg(path, reason));
+        const QString folder = QFileInfo(path).absolutePath();
+        throw Error(QStringLiteral("Cannot write the record spool \"%1\": %2")
+                        .arg(path, TemporaryDirectoryProblem(folder, code)));
     }
 }
 
@@ -128,10 +153,9 @@ void SpoolWriter::NewPiece(const Record &record)
     if (Q_UNLIKELY(!problem.isEmpty())) {
         qCWarning(lcRecords).noquote() << problem;
     }
+    // Written through: a full disk fails the record that did not fit.
     record.appendSpoolLine(m_buffer);
-    if (m_buffer.size() >= BufferSize) {
-        writeBuffer();
-    }
+    writeBuffer();
     yieldOnce();
 }
 

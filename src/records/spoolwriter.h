@@ -22,10 +22,9 @@ class Record;
  * UTF-8 text with CR LF line ends: a header line of the eleven quoted column
  * names, then one line of eleven quoted values per record.
  *
- * Lines are collected in a 64 KiB buffer and written in blocks, so feeding a
- * million records takes seconds and no record is kept in memory. The buffer
- * reaches the file at the latest when EndDoc() closes it, which every print
- * run does before it reads.
+ * Each line is written to the file by the NewPiece() call that makes it,
+ * with one system call, so a write that fails (a full temporary directory)
+ * is raised by that call, and no record is kept in memory.
  *
  * The writer yields to event processing after creating the file, after each
  * line and after closing, so a host feeding many records stays responsive.

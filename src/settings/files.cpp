@@ -81,13 +81,28 @@ QString MakeTempFileName(const QString &prefix)
     // name, so no other user can read or swap the spooled addresses.
     const int fd = ::mkstemps(name.data(), 4);
     if (fd < 0) {
-        const int code = errno;
-        throw Error(QStringLiteral("Cannot create a temporary file in \"%1\": %2. "
-                                   "Set TMPDIR to a folder you can write to.")
-                        .arg(dir, QString::fromLocal8Bit(std::strerror(code))));
+        throw Error(TemporaryDirectoryProblem(dir, errno));
     }
     ::close(fd);
     return QFile::decodeName(name);
+}
+
+QString TemporaryDirectoryProblem(const QString &dir, int code)
+{
+    const QString reason = QString::fromLocal8Bit(std::strerror(code));
+    if (code == ENOENT || code == ENOTDIR) {
+        return QStringLiteral("The temporary directory \"%1\" is missing (%2): create it, or set "
+                              "TMPDIR to a folder that exists.")
+            .arg(dir, reason);
+    }
+    if (code == ENOSPC || code == EDQUOT) {
+        return QStringLiteral("The temporary directory \"%1\" is full (%2): free some room "
+                              "there, or set TMPDIR to a folder with room.")
+            .arg(dir, reason);
+    }
+    return QStringLiteral("Cannot create a temporary file in \"%1\": %2. "
+                          "Set TMPDIR to a folder you can write to.")
+        .arg(dir, reason);
 }
 
 QString SystemDirectory()

@@ -22,6 +22,12 @@ namespace quirra {
 QUIRRACONTROL_EXPORT QString MakeTempFileName(const QString &prefix = QString());
 
 /**
+ * @brief What an error (errno code) in the temporary directory dir means for
+ * the user: a missing directory and a full one are named as such.
+ */
+QUIRRACONTROL_EXPORT QString TemporaryDirectoryProblem(const QString &dir, int code);
+
+/**
  * @brief The folder of the catalogue files, always ending in "/".
  *
  * QUIRRA_SYSTEM_DIR when set; else the data folder installed with the

@@ -29,7 +29,9 @@ constexpr int minZoom = 10;
 constexpr int maxZoom = 1000;
 constexpr int maxLineSpacing = 1000;
 
-enum ErrorCode { NoError = 0, NoOutput = 1, CannotOpen = 2 };
+// NotPrinted: the pages were painted but the output refused them (a printer
+// queue rejected or aborted the job).
+enum ErrorCode { NoError = 0, NoOutput = 1, CannotOpen = 2, NotPrinted = 3 };
 
 struct RecordedPage
 {
@@ -271,6 +273,8 @@ void PageEngine::Private::endDoc(PageEngine *q, bool aborted)
     painter.end();
     device = nullptr;
     target->endDocument(aborted);
+    if (!aborted && !target->failure().isEmpty())
+        error = NotPrinted;
 }
 
 void PageEngine::Private::printPreviewPage()

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "quirracontrol_export.h"
+#include "surface/cupsjob.h"
 #include "surface/printtarget.h"
 
 #include <QString>
@@ -39,9 +40,35 @@ public:
      */
     void setPrinterName(const QString &name);
 
+    /**
+     * @brief Why the last document did not reach the printer, in the
+     * queue's own words (not accepting jobs, stopped, the job refused or
+     * aborted); empty when it did, or nothing was printed yet.
+     */
+    QString failure() const override { return m_failure; }
+
+    /**
+     * @brief The file the next document for a system printer is written to
+     * before it is handed to CUPS as one job: a new, empty file in the
+     * temporary directory, made on the first call. A host that may be
+     * interrupted removes it then; the target removes it after the job.
+     */
+    QString printFile();
+
+    /** @brief How long to follow a job for CUPS stopping it; 3 s by default. */
+    void setJobWatchMs(int ms) { m_jobWatchMs = ms; }
+
 private:
+    bool startPrintFile();
+    void finishPrintFile(bool aborted);
+
     QPrinter &m_printer;
     QString m_missingPrinter; // a name asked for that no printer has
+    QString m_failure;
+    QString m_printFile;
+    QString m_queue; // the system printer of the document being written
+    QList<cupsjob::Option> m_options;
+    int m_jobWatchMs = 3000;
 };
 
 } // namespace quirra

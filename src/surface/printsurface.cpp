@@ -47,6 +47,16 @@ void PrintSurface::setPrinterName(const QString &name)
     m_target->setPrinterName(name);
 }
 
+QString PrintSurface::printerFailure() const
+{
+    return m_target->failure();
+}
+
+QString PrintSurface::printFile()
+{
+    return m_target->printFile();
+}
+
 QSize PrintSurface::sizeHint() const
 {
     return QSize(480, 360);

@@ -43,6 +43,20 @@ public:
      */
     void setPrinterName(const QString &name);
 
+    /**
+     * @brief Why the last print document did not reach the system printer,
+     * in the queue's own words (not accepting jobs, stopped, job refused or
+     * aborted); empty when it did.
+     */
+    QString printerFailure() const;
+
+    /**
+     * @brief The temporary file the next print document for a system
+     * printer is written to before it goes to the spooler (made now if need
+     * be), for a host to remove should it be interrupted.
+     */
+    QString printFile();
+
     /** @brief The rectangle, in viewport pixels, where the page on show is painted; empty without
      * pages. */
     QRect pageRect() const;

@@ -13,4 +13,9 @@ QPageLayout PrintTarget::acceptedLayout(const QPageLayout &wanted)
 
 void PrintTarget::abortDocument() {}
 
+QString PrintTarget::failure() const
+{
+    return QString();
+}
+
 } // namespace quirra

@@ -5,6 +5,7 @@
 #include "quirracontrol_export.h"
 
 #include <QPageLayout>
+#include <QString>
 
 class QPagedPaintDevice;
 
@@ -46,6 +47,12 @@ public:
      * begin); aborted is true when the document was dropped.
      */
     virtual void endDocument(bool aborted) = 0;
+
+    /**
+     * @brief Why the last document did not reach its output although it was
+     * painted whole (a printer queue refused it); empty by default.
+     */
+    virtual QString failure() const;
 };
 
 } // namespace quirra

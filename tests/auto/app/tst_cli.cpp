@@ -15,6 +15,7 @@
 #include <QTest>
 
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 namespace {
 
@@ -78,7 +79,10 @@ private Q_SLOTS:
     void layoutRoundTrip_data();
     void layoutRoundTrip();
     void readsStandardInput();
-    void unknownPieceWarns();
+    void outputPathKinds_data();
+    void outputPathKinds();
+    void versionAndHelp_data();
+    void versionAndHelp();
     void progressOnRequestOnly();
     void previewWithoutDisplay();
 
@@ -192,6 +196,20 @@ void TestCli::badInputLeavesNoFile_data()
     QTest::newRow("unknown-printer")
         << QStringList{"--printer", "no-such-printer", csv("people.csv")} << 1
         << QStringList{"there is no printer named \"no-such-printer\""};
+    QTest::newRow("unknown-piece")
+        << QStringList{pdf, "--piece", "5160", csv("people.csv")} << 2
+        << QStringList{"no piece \"5160\"; did you mean \"5160 - Address Labels\""};
+    QTest::newRow("unknown-piece-in-layout")
+        << QStringList{pdf, "--layout", csv("unknown_piece_layout.json"), csv("people.csv")} << 2
+        << QStringList{"unknown_piece_layout.json: the catalogue has no piece \"5160 Address "
+                       "Labels\"; did you mean \"5160 - Address Labels\""};
+    QTest::newRow("text-over-64-kib")
+        << QStringList{pdf, "--set", "ReturnText=" + QString(70000, QLatin1Char('x')),
+                       csv("people.csv")}
+        << 1 << QStringList{"ReturnText is 70000 characters long; a text may have at most 65536"};
+    QTest::newRow("length-beyond-any-sheet")
+        << QStringList{pdf, "--set", "AddressTop=250", csv("people.csv")} << 1
+        << QStringList{"AddressTop is 250 in; a length on a sheet is from 0 to 100 in"};
     QTest::newRow("unknown-option") << QStringList{pdf, "--colour", "red", csv("people.csv")} << 2
                                     << QStringList{"quirra print: Unknown option 'colour'"};
     // A layout that cannot be laid out fails in the print run itself.
@@ -410,18 +428,82 @@ void TestCli::readsStandardInput()
              qPrintable(bad.err));
 }
 
-void TestCli::unknownPieceWarns()
+void TestCli::outputPathKinds_data()
 {
-    const QString pdf = out(QStringLiteral("unknown.pdf"));
-    const Run run =
-        quirra({"print", "--piece", "No Such Label", "--pdf", pdf, dataFile("people.csv")});
+    QTest::addColumn<QString>("kind"); // what stands at the --pdf path
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("fifo") << "fifo" << 1 << "is a named pipe (FIFO); --pdf needs";
+    QTest::newRow("device") << "device" << 1 << "is a device; --pdf needs";
+    QTest::newRow("symlink-followed") << "symlink" << 0 << "4 records, 4 pages";
+    QTest::newRow("private-file-stays-private") << "file-0600" << 0 << "4 records, 4 pages";
+}
+
+void TestCli::outputPathKinds()
+{
+    QFETCH(QString, kind);
+    QFETCH(int, status);
+    QFETCH(QString, message);
+
+    const QString path = out(QStringLiteral("out.pdf"));
+    const QByteArray native = QFile::encodeName(path);
+    const QString real = out(QStringLiteral("real.pdf"));
+    if (kind == QLatin1String("fifo")) {
+        QCOMPARE(::mkfifo(native.constData(), 0644), 0);
+    } else if (kind == QLatin1String("device")) {
+        // The null device's numbers, made here: replacing it would need root.
+        if (::mknod(native.constData(), S_IFCHR | 0600, makedev(1, 3)) != 0)
+            QSKIP("cannot make a device node here (needs root)");
+    } else if (kind == QLatin1String("symlink")) {
+        QFile old(real);
+        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("older run") > 0);
+        old.close();
+        QVERIFY(QFile::link(QStringLiteral("real.pdf"), path));
+    } else {
+        QFile old(path);
+        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("older run") > 0);
+        old.close();
+        QCOMPARE(::chmod(native.constData(), 0600), 0);
+    }
+    struct stat before;
+    QCOMPARE(::lstat(native.constData(), &before), 0);
+
+    const Run run = quirra({"print", "--pdf", path, dataFile("people.csv")});
+    QCOMPARE(run.status, status);
+    QVERIFY2(run.err.contains(message), qPrintable(run.err));
+    struct stat after;
+    QCOMPARE(::lstat(native.constData(), &after), 0);
+    if (status != 0) {
+        // Refused before any work: the thing is as it was, nothing beside it.
+        QCOMPARE(after.st_mode, before.st_mode);
+        QCOMPARE(after.st_rdev, before.st_rdev);
+        QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden | QDir::System),
+                 QStringList{QStringLiteral("out.pdf")});
+        return;
+    }
+    QCOMPARE(after.st_mode, before.st_mode); // the link is still a link; the mode kept
+    QCOMPARE(pdfprobe::pageSizes(kind == QLatin1String("symlink") ? real : path).size(), 4);
+}
+
+void TestCli::versionAndHelp_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("output"); // the start of standard output
+
+    QTest::newRow("version") << QStringList{"--version"} << "quirra 0.";
+    QTest::newRow("help") << QStringList{"--help"} << "usage: quirra print";
+}
+
+void TestCli::versionAndHelp()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, output);
+
+    const Run run = quirra(arguments);
     QCOMPARE(run.status, 0);
-    QVERIFY2(run.err.contains(QLatin1String("warning: the catalogue has no piece \"No Such "
-                                            "Label\"; \"Size 10 - Envelope\" is used")),
-             qPrintable(run.err));
-    const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
-    QCOMPARE(sizes.size(), 4);
-    QCOMPARE(sizes.first(), QSizeF(684, 297));
+    QVERIFY2(run.out.startsWith(output), qPrintable(run.out));
+    QCOMPARE(run.err, QString());
 }
 
 void TestCli::progressOnRequestOnly()

@@ -13,12 +13,18 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/file.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -103,6 +109,10 @@ private Q_SLOTS:
     void hostileInput();
     void spoolIsPrivateAndRemoved_data();
     void spoolIsPrivateAndRemoved();
+    void staleSpoolsAreRemoved();
+    void fullOrMissingFolder_data();
+    void fullOrMissingFolder();
+    void interruptedPrinterRunLeavesNothing();
 
 private:
     QProcessEnvironment environment() const;
@@ -148,9 +158,9 @@ void TestRobustness::hostileInput_data()
     QTest::newRow("csv-of-random-bytes") << "random-bytes" << false << labels << 1 << "line 1" << 0;
     QTest::newRow("csv-of-nul-bytes") << "nul-bytes" << false << labels << 1 << "line 2" << 0;
     QTest::newRow("print-with-junk-catalogue")
-        << "plain" << true << labels << 1 << "holds neither the piece" << 0;
-    QTest::newRow("list-junk-catalogue")
-        << "" << true << QStringList{"pieces"} << 1 << "lists no pieces" << 0;
+        << "plain" << true << labels << 1 << "quirra.cfg: line 1: the text is not UTF-8" << 0;
+    QTest::newRow("list-junk-catalogue") << "" << true << QStringList{"pieces"} << 1
+                                         << "quirra.cfg: line 1: the text is not UTF-8" << 0;
 }
 
 void TestRobustness::hostileInput()
@@ -196,6 +206,9 @@ void TestRobustness::hostileInput()
     QCOMPARE(quirra.exitStatus(), QProcess::NormalExit);
     QVERIFY2(quirra.exitCode() == status, qPrintable(err));
     QVERIFY2(err.contains(message), qPrintable(err));
+    // A damaged catalogue is one message, not a cascade.
+    if (junkCatalogue)
+        QVERIFY2(err.trimmed().count(QLatin1Char('\n')) == 0, qPrintable(err));
     QVERIFY2(childrenPeakMb() < PeakLimitMb,
              qPrintable(QStringLiteral("peak memory %1 MB").arg(childrenPeakMb())));
 
@@ -258,6 +271,11 @@ void TestRobustness::spoolIsPrivateAndRemoved()
     struct stat info;
     QCOMPARE(::stat(QFile::encodeName(spool).constData(), &info), 0);
     QCOMPARE(info.st_mode & 07777, mode_t(0600));
+    // Held while in use, so no other run takes it for a stale one.
+    const int fd = ::open(QFile::encodeName(spool).constData(), O_RDONLY);
+    QVERIFY(fd >= 0);
+    QVERIFY(::flock(fd, LOCK_EX | LOCK_NB) != 0);
+    ::close(fd);
 
     quirra.write("Daniel,Okafor,88 Harbor View Dr,Portland,ME,04101\n");
     quirra.closeWriteChannel();
@@ -266,6 +284,126 @@ void TestRobustness::spoolIsPrivateAndRemoved()
     QVERIFY2(quirra.exitCode() == status, qPrintable(err));
     QVERIFY2(err.contains(message), qPrintable(err));
     QVERIFY2(!QFileInfo::exists(spool), qPrintable(spool + QStringLiteral(" is left")));
+    QCOMPARE(leftFiles(m_tmp->path()), QStringList());
+}
+
+void TestRobustness::staleSpoolsAreRemoved()
+{
+    // One left by a killed run; one a running process holds.
+    const QString stale = m_tmp->filePath(QStringLiteral("qzvKILLED.tmp"));
+    const QString held = m_tmp->filePath(QStringLiteral("qzvINUSE1.tmp"));
+    for (const QString &path : {stale, held}) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("\"FirstName\"\r\n");
+        file.close();
+        const timespec hourAgo[2] = {{::time(nullptr) - 3600, 0}, {::time(nullptr) - 3600, 0}};
+        QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), hourAgo, 0), 0);
+    }
+    const int fd = ::open(QFile::encodeName(held).constData(), O_RDONLY);
+    QVERIFY(fd >= 0);
+    QCOMPARE(::flock(fd, LOCK_EX | LOCK_NB), 0);
+
+    QProcess quirra;
+    quirra.setProcessEnvironment(environment());
+    quirra.start(QStringLiteral(QUIRRA_BINARY),
+                 {"print", "--pdf", m_dir->filePath(QStringLiteral("out.pdf")), "-"});
+    quirra.write(Header + "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704\n");
+    quirra.closeWriteChannel();
+    QVERIFY(quirra.waitForFinished(60000));
+    ::close(fd);
+    QCOMPARE(quirra.exitCode(), 0);
+    QCOMPARE(leftFiles(m_tmp->path()), QStringList{held});
+}
+
+void TestRobustness::fullOrMissingFolder_data()
+{
+    QTest::addColumn<QString>("full"); // "pdf" or "tmp": the folder on a full disk
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("pdf-folder-full") << "pdf"
+                                     << "the disk is full (no space left in";
+    QTest::newRow("temporary-folder-full") << "tmp"
+                                           << "\" is full (";
+    QTest::newRow("temporary-folder-missing") << "missing"
+                                              << "\" is missing (";
+}
+
+void TestRobustness::fullOrMissingFolder()
+{
+    QFETCH(QString, full);
+    QFETCH(QString, message);
+
+    // A small disk of its own: the older file fits, three pages of labels do not.
+    const QString disk = m_dir->filePath(QStringLiteral("disk"));
+    QVERIFY(QDir().mkpath(disk));
+    const QByteArray mountPoint = QFile::encodeName(disk);
+    if (full != QLatin1String("missing") &&
+        ::mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=12k") != 0) {
+        QSKIP("cannot mount a small tmpfs here (needs root)");
+    }
+    const auto unmount = qScopeGuard([&] {
+        if (full != QLatin1String("missing"))
+            ::umount(mountPoint.constData());
+    });
+    const QString pdf =
+        (full == QLatin1String("pdf") ? disk : m_dir->path()) + QStringLiteral("/out.pdf");
+    QFile old(pdf);
+    QVERIFY(old.open(QIODevice::WriteOnly) && old.write("older run") > 0);
+    old.close();
+    QProcessEnvironment env = environment();
+    if (full == QLatin1String("tmp")) {
+        QFile filler(disk + QStringLiteral("/filler"));
+        QVERIFY(filler.open(QIODevice::WriteOnly));
+        while (filler.write(QByteArray(4096, 'x')) > 0 && filler.flush()) {
+        }
+        env.insert(QStringLiteral("TMPDIR"), disk);
+    } else if (full == QLatin1String("missing")) {
+        env.insert(QStringLiteral("TMPDIR"), m_dir->filePath(QStringLiteral("gone")));
+    }
+
+    QProcess quirra;
+    quirra.setProcessEnvironment(env);
+    quirra.start(QStringLiteral(QUIRRA_BINARY),
+                 {"print", "--piece", "5160 - Address Labels", "--pdf", pdf,
+                  QStringLiteral(QUIRRA_SOURCE_ROOT "/examples/addresses.csv")});
+    QVERIFY(quirra.waitForFinished(120000));
+    const QString err = QString::fromUtf8(quirra.readAllStandardError());
+    QVERIFY2(quirra.exitCode() == 1, qPrintable(err));
+    QVERIFY2(err.contains(message), qPrintable(err));
+    QVERIFY(old.open(QIODevice::ReadOnly));
+    QCOMPARE(old.readAll(), QByteArray("older run"));
+    const QStringList left = QDir(QFileInfo(pdf).path()).entryList(QDir::Files | QDir::Hidden);
+    for (const QString &name : left)
+        QVERIFY2(!name.startsWith(QLatin1Char('.')), qPrintable(name));
+}
+
+void TestRobustness::interruptedPrinterRunLeavesNothing()
+{
+    const QString queue = qEnvironmentVariable("QUIRRA_CUPS_QUEUE");
+    if (queue.isEmpty())
+        QSKIP("no CUPS queue (run under scripts/with-cups)");
+    // Enough records that the pages take a while to write.
+    QFile csv(m_dir->filePath(QStringLiteral("many.csv")));
+    QVERIFY(csv.open(QIODevice::WriteOnly));
+    csv.write(Header);
+    for (int i = 0; i < 20000; ++i)
+        csv.write("Margaret,Holloway" + QByteArray::number(i) +
+                  ",1427 Birchwood Ln,Springfield,IL,62704\n");
+    csv.close();
+
+    QProcess quirra;
+    quirra.setProcessEnvironment(environment());
+    quirra.start(QStringLiteral(QUIRRA_BINARY),
+                 {"print", "--piece", "5160 - Address Labels", "--printer", queue, csv.fileName()});
+    QVERIFY(quirra.waitForStarted());
+    // Interrupted once the pages are being written: a file beside the spool.
+    QTRY_VERIFY_WITH_TIMEOUT(QDir(m_tmp->path()).entryList(QDir::Files | QDir::Hidden).size() >= 2,
+                             60000);
+    QTest::qWait(200);
+    ::kill(pid_t(quirra.processId()), SIGINT);
+    QVERIFY(quirra.waitForFinished(30000));
+    QCOMPARE(quirra.exitStatus(), QProcess::CrashExit);
     QCOMPARE(leftFiles(m_tmp->path()), QStringList());
 }
 

@@ -18,6 +18,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
@@ -163,6 +164,9 @@ private Q_SLOTS:
     void printsThroughTheSpooler_data();
     void printsThroughTheSpooler();
     void unknownPrinterIsReported();
+    void refusingQueueIsReported_data();
+    void refusingQueueIsReported();
+    void jobTheQueueCannotPrintIsReported();
 
 private:
     QString title(const char *what) const;
@@ -299,6 +303,82 @@ void TestCupsPrint::unknownPrinterIsReported()
     QVERIFY2(!pdf.isEmpty(), qPrintable(spoolerLog()));
     m_made << pdf;
     QCOMPARE(pdfprobe::pageSizes(pdf).size(), 1);
+}
+
+void TestCupsPrint::refusingQueueIsReported_data()
+{
+    QTest::addColumn<QString>("refuse"); // the administrator's command, with -r REASON
+    QTest::addColumn<QString>("restore");
+    QTest::addColumn<QString>("reason");
+
+    QTest::newRow("not-accepting-jobs") << "cupsreject"
+                                        << "cupsaccept"
+                                        << "not accepting jobs: Out of labels until Monday";
+    QTest::newRow("stopped") << "cupsdisable"
+                             << "cupsenable"
+                             << "is stopped: Paper jam in tray 2";
+}
+
+void TestCupsPrint::refusingQueueIsReported()
+{
+    QFETCH(QString, refuse);
+    QFETCH(QString, restore);
+    QFETCH(QString, reason);
+
+    const QString server = qEnvironmentVariable("CUPS_SERVER");
+    const QString given = reason.section(QStringLiteral(": "), 1);
+    QCOMPARE(QProcess::execute(refuse, {"-h", server, "-r", given, m_queue}), 0);
+    const auto restored = qScopeGuard([&] { QProcess::execute(restore, {"-h", server, m_queue}); });
+
+    Quirra control;
+    control.PieceName(QStringLiteral("5160 - Address Labels"));
+    feed(control, 3);
+    const QString job = title(QTest::currentDataTag()).remove(QLatin1Char('-'));
+    control.surface()->setPrinterName(m_queue);
+    control.printer()->setDocName(job);
+    control.PrintNow();
+    QCOMPARE(m_messages, QStringList{QStringLiteral("Ptr.error = 2")});
+    QVERIFY(control.surface()->errorCode() != 0);
+    QVERIFY2(control.surface()->printerFailure().contains(reason),
+             qPrintable(control.surface()->printerFailure()));
+    // Nothing waits in the queue to come out later.
+    QProcess::execute(restore, {"-h", server, m_queue});
+    QVERIFY(spooledPdf(m_outDir, job, 3000).isEmpty());
+}
+
+void TestCupsPrint::jobTheQueueCannotPrintIsReported()
+{
+    // A second queue whose driver names a filter that is not installed:
+    // CUPS takes the job, then stops it.
+    QFile driver(QStringLiteral("/usr/share/ppd/cups-pdf/CUPS-PDF_opt.ppd"));
+    QVERIFY(driver.open(QIODevice::ReadOnly));
+    QTemporaryDir folder;
+    QFile broken(folder.filePath(QStringLiteral("broken.ppd")));
+    QVERIFY(broken.open(QIODevice::WriteOnly));
+    for (const QByteArray &line : driver.readAll().split('\n')) {
+        if (!line.startsWith("*cupsFilter"))
+            broken.write(line + '\n');
+    }
+    broken.write("*cupsFilter2: \"application/pdf application/vnd.cups-pdf 0 quirra-no-filter\"\n");
+    broken.close();
+    const QString server = qEnvironmentVariable("CUPS_SERVER");
+    const QString queue = QStringLiteral("QuirraBroken");
+    QCOMPARE(QProcess::execute(QStringLiteral("lpadmin"),
+                               {"-h", server, "-p", queue, "-E", "-v", "cups-pdf:/", "-P",
+                                broken.fileName(), "-o", "printer-error-policy=abort-job"}),
+             0);
+    const auto removed = qScopeGuard([&] {
+        QProcess::execute(QStringLiteral("lpadmin"), {"-h", server, "-x", queue});
+    });
+
+    Quirra control;
+    control.PieceName(QStringLiteral("5160 - Address Labels"));
+    feed(control, 3);
+    control.surface()->setPrinterName(queue);
+    control.PrintNow();
+    QVERIFY(control.surface()->errorCode() != 0);
+    const QString failure = control.surface()->printerFailure();
+    QVERIFY2(failure.contains(QLatin1String("quirra-no-filter")), qPrintable(failure));
 }
 
 QTEST_MAIN(TestCupsPrint)

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+#include "valuelimits.h"
+
+#include <QMetaType>
+
+#include <cmath>
+
+namespace quirra {
+
+QString valueProblem(const QString &name, const QVariant &value)
+{
+    if (value.typeId() == QMetaType::QString) {
+        const qsizetype length = value.toString().size();
+        if (length > MaxItemTextLength) {
+            return QStringLiteral("%1 is %2 characters long; a text may have at most %3")
+                .arg(name)
+                .arg(length)
+                .arg(MaxItemTextLength);
+        }
+        return QString();
+    }
+    // The control keeps its lengths (positions, sizes, margins, pitches) in
+    // inches as floats, and nothing else.
+    if (value.typeId() == QMetaType::Float || value.typeId() == QMetaType::Double) {
+        const double inches = value.toDouble();
+        if (!std::isfinite(inches) || inches < 0 || inches > MaxInches) {
+            return QStringLiteral("%1 is %2 in; a length on a sheet is from 0 to %3 in")
+                .arg(name)
+                .arg(inches)
+                .arg(MaxInches);
+        }
+    }
+    return QString();
+}
+
+} // namespace quirra
