@@ -6,6 +6,7 @@
 // window; lists the catalogue.
 #include "interruptcleanup.h"
 #include "pdfoutput.h"
+#include "preflightsummary.h"
 #include "previewwindow.h"
 #include "progressbar.h"
 #include "recordfeed.h"
@@ -57,6 +58,8 @@ int usage()
         "usage: quirra print [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]...\n"
         "                    [--pdf OUT.pdf | --printer NAME] [--progress] [CSV | -]\n"
         "       quirra preview [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]... "
+        "[CSV | -]\n"
+        "       quirra check [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]... "
         "[CSV | -]\n"
         "       quirra pieces [--product NAME]\n"
         "Run 'quirra COMMAND --help' for the options of a command."));
@@ -166,6 +169,8 @@ int runPrint(const QStringList &arguments)
         QStringLiteral("Prints the addresses of a CSV file (a header row, then one recipient a "
                        "row) on the chosen piece, or writes them to a PDF file."));
     RunOptions::addTo(parser, true);
+    const QCommandLineOption strict = StrictOption();
+    parser.addOption(strict);
     if (const auto status = parseArguments(parser, arguments, QStringLiteral("print")))
         return *status;
     RunOptions options;
@@ -247,6 +252,8 @@ int runPrint(const QStringList &arguments)
         });
     }
     try {
+        if (parser.isSet(strict) && !PreflightPasses(control, QStringLiteral("print")))
+            return NotesExitStatus;
         control.PrintNow();
     } catch (const Error &e) {
         control.surface()->setPageObserver({});
@@ -280,6 +287,7 @@ int runPrint(const QStringList &arguments)
                  QString::number(pages),
                  pages == 1 ? QStringLiteral("page") : QStringLiteral("pages"), control.PieceName(),
                  destination));
+    TellNotes(control, QStringLiteral("print"));
     return 0;
 }
 
@@ -452,7 +460,7 @@ int main(int argc, char **argv)
         return 0;
     }
     if (command != QLatin1String("print") && command != QLatin1String("preview") &&
-        command != QLatin1String("pieces")) {
+        command != QLatin1String("pieces") && command != QLatin1String("check")) {
         if (!command.isEmpty())
             say(QStringLiteral("quirra: unknown command \"%1\"").arg(command));
         return usage();
@@ -491,6 +499,8 @@ int main(int argc, char **argv)
             status = runPrint(arguments);
         else if (command == QLatin1String("preview"))
             status = runPreview(arguments);
+        else if (command == QLatin1String("check"))
+            status = RunCheckCommand(arguments, parseArguments);
         else
             status = runPieces(arguments);
     } catch (const Error &e) {

@@ -130,6 +130,7 @@ public:
     int lineSpacing = 100;
     Qt::Alignment alignment = Qt::AlignLeft;
     int textHeight = 0;
+    int textWidth = 0;
     int error = NoError;
     PrintTarget *target = nullptr;
 
@@ -232,6 +233,7 @@ void PageEngine::Private::beginPage()
         pageObserver(pagesInDoc);
     currentX = 0;
     currentY = 0;
+    painter.setClipping(false); // a clip belongs to a piece, never to the next page
     drawMarginLine(header, true);
     drawMarginLine(footer, false);
 }
@@ -649,6 +651,7 @@ void PageEngine::textBox(const QString &text, int left, int top, int width, int 
     const double textWidth = double(width) - d->indentLeft - d->indentRight;
     auto block = d->text.layOut(text, textWidth, wrap, d->alignment, d->lineSpacing);
     d->textHeight = clampToInt(block->height());
+    d->textWidth = clampToInt(block->naturalWidth());
     if (layoutOnly || !d->docOpen)
         return;
     const QRectF box(double(d->marginLeft) + left, double(d->marginTop) + top, width, height);
@@ -663,6 +666,31 @@ void PageEngine::textBox(const QString &text, int left, int top, int width, int 
 int PageEngine::textHeight() const
 {
     return d->textHeight;
+}
+
+int PageEngine::textWidthLaidOut() const
+{
+    return d->textWidth;
+}
+
+void PageEngine::setClipBox(int left, int top, int width, int height)
+{
+    if (d->docOpen)
+        d->painter.setClipRect(QRectF(double(d->marginLeft) + left, double(d->marginTop) + top,
+                                      std::max(0, width), std::max(0, height)));
+}
+
+void PageEngine::clearClipBox()
+{
+    if (d->docOpen)
+        d->painter.setClipping(false);
+}
+
+QRect PageEngine::paperRect() const
+{
+    const QSizeF paper = paperTwips(d->wantedLayout());
+    return QRect(-d->originLeft - d->marginLeft, -d->originTop - d->marginTop,
+                 clampToInt(paper.width()), clampToInt(paper.height()));
 }
 
 int PageEngine::pageCount() const

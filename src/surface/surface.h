@@ -5,6 +5,7 @@
 #include "quirracontrol_export.h"
 #include "records/textmeasurer.h"
 
+#include <QRect>
 #include <QString>
 
 namespace quirra {
@@ -210,6 +211,29 @@ public:
                          bool layoutOnly, bool border) = 0;
     /** @brief Height, in twips, of the text the last textBox() laid out. */
     virtual int textHeight() const = 0;
+    /**
+     * @brief Width, in twips, of the widest line the last textBox() laid
+     * out, blanks at a line's end left out. A surface that cannot tell
+     * answers 0.
+     */
+    virtual int textWidthLaidOut() const;
+
+    /**
+     * @brief Keeps the drawing that follows inside a box (twips from the
+     * body's corner, like a text box): text and frames beyond it are cut
+     * off, so a piece's overflow never lands on its neighbour. Holds until
+     * clearClipBox() or the next page. A surface that cannot clip ignores it.
+     */
+    virtual void setClipBox(int left, int top, int width, int height);
+    /** @brief Drawing is no longer kept inside a box. */
+    virtual void clearClipBox();
+    /**
+     * @brief The paper of the page being drawn (or of the next one) as
+     * oriented, in twips from the body's corner: the printable area's and
+     * the margins' offsets make its corner negative. Empty when the surface
+     * does not know its paper.
+     */
+    virtual QRect paperRect() const;
 
     /** @brief Pages in the preview, or pages sent to the output by the current print document. */
     virtual int pageCount() const = 0;
