@@ -3,6 +3,7 @@
 #include "surface/pageengine.h"
 
 #include "surface/logging_p.h"
+#include "surface/pagehelpers_p.h"
 #include "surface/papercodes.h"
 #include "surface/printtarget.h"
 #include "surface/textblock_p.h"
@@ -15,7 +16,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <vector>
 
 namespace quirra {
@@ -36,51 +36,6 @@ struct RecordedPage
     QPicture picture; // in twips, the paper's corner at (0, 0)
     QPageLayout layout;
 };
-
-// A picture played on a painter is scaled by the device's resolution over
-// the picture's own; undo that, so that the painter's transform alone says
-// how large a twip is.
-void playPicture(QPainter &painter, const QPicture &picture)
-{
-    const QPaintDevice *device = painter.device();
-    if (!device)
-        return;
-    painter.save();
-    painter.scale(double(picture.logicalDpiX()) / device->logicalDpiX(),
-                  double(picture.logicalDpiY()) / device->logicalDpiY());
-    painter.drawPicture(0, 0, picture);
-    painter.restore();
-}
-
-// Twips as a whole number, held within int so that a run far off the page
-// cannot overflow.
-int clampToInt(double twips)
-{
-    return int(std::clamp(std::round(twips), double(std::numeric_limits<int>::min()),
-                          double(std::numeric_limits<int>::max())));
-}
-
-QSizeF paperTwips(const QPageLayout &layout)
-{
-    return layout.fullRect(QPageLayout::Point).size() * twipsPerPoint;
-}
-
-Qt::Alignment alignmentForCode(int code)
-{
-    switch (code) {
-    case 0:
-        return Qt::AlignLeft;
-    case 1:
-        return Qt::AlignHCenter;
-    case 2:
-        return Qt::AlignRight;
-    case 9:
-        return Qt::AlignJustify;
-    default:
-        qCWarning(lcSurface) << "text alignment" << code << "is not known; text is set left";
-        return Qt::AlignLeft;
-    }
-}
 
 } // namespace
 
