@@ -363,6 +363,7 @@ int runPreview(const QStringList &arguments)
         say(QStringLiteral("quirra preview: %1").arg(e.message()));
         return 1;
     }
+    TellNotes(control, QStringLiteral("preview"));
     return QApplication::exec();
 }
 

@@ -197,10 +197,11 @@ public:
      * Lines are separated by CR, CR LF or LF; a break at the very end of the
      * text adds no empty line. With wrap on, words break to fit the box width
      * less the indents (a word longer than the width breaks inside); with
-     * wrap off every line stays whole. Text is never clipped: a line wider
-     * than the box starts at the box's left edge and runs on past its right
-     * edge, and text taller than the box runs on below it, as ink on a sheet
-     * would. With border on, the frame (see setPenStyle(), setPenWidth(),
+     * wrap off every line stays whole. Text is not clipped to its box: a
+     * line wider than the box starts at the box's left edge and runs on past
+     * its right edge, and text taller than the box runs on below it, as ink
+     * on a sheet would, as far as the clip box (setClipBox()) lets it. With
+     * border on, the frame (see setPenStyle(), setPenWidth(),
      * setBrushStyle()) goes round the whole box, its ink inside the box,
      * whatever the text's height. Nothing is drawn while no document is open.
      *
