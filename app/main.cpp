@@ -5,8 +5,10 @@
 // control and prints them, writes them to a PDF file, or previews them in a
 // window; lists the catalogue.
 #include "cataloguecheck.h"
+#include "console.h"
 #include "interruptcleanup.h"
 #include "pdfoutput.h"
+#include "preflightsummary.h"
 #include "previewwindow.h"
 #include "progressbar.h"
 #include "recordfeed.h"
@@ -39,15 +41,6 @@ using namespace quirra;
 
 namespace {
 
-// Every message goes through C's stderr, as the progress bar does, so the
-// two never overtake each other.
-void say(const QString &line)
-{
-    const QByteArray bytes = line.toUtf8() + '\n';
-    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stderr);
-    std::fflush(stderr);
-}
-
 void print(const QString &line)
 {
     const QByteArray bytes = line.toUtf8() + '\n';
@@ -61,6 +54,8 @@ int usage(bool asked = false)
         "usage: quirra print [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]...\n"
         "                    [--pdf OUT.pdf | --printer NAME] [--progress] [CSV | -]\n"
         "       quirra preview [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]... "
+        "[CSV | -]\n"
+        "       quirra check [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]... "
         "[CSV | -]\n"
         "       quirra pieces [--product NAME]\n"
         "       quirra --version\n"
@@ -191,6 +186,8 @@ int runPrint(const QStringList &arguments)
         QStringLiteral("Prints the addresses of a CSV file (a header row, then one recipient a "
                        "row) on the chosen piece, or writes them to a PDF file."));
     RunOptions::addTo(parser, true);
+    const QCommandLineOption strict = StrictOption();
+    parser.addOption(strict);
     if (const auto status = parseArguments(parser, arguments, QStringLiteral("print")))
         return *status;
     RunOptions options;
@@ -212,14 +209,8 @@ int runPrint(const QStringList &arguments)
     Quirra control;
     const QString spoolPath = SharedSpool::instance().spoolPath();
     InterruptCleanup::watch(spoolPath);
-    QStringList warnings;
-    const bool applied = options.applyTo(control, &warnings, &error);
-    for (const QString &warning : warnings)
-        say(QStringLiteral("quirra print: warning: %1").arg(warning));
-    if (!applied) {
-        say(QStringLiteral("quirra print: %1").arg(error));
-        return options.unknownPiece ? 2 : 1;
-    }
+    if (const auto status = options.applyTo(control, QStringLiteral("print")))
+        return *status;
 
     RecordFeed feed(control);
     if (!feed.open(options.csvPath, &error)) {
@@ -276,6 +267,8 @@ int runPrint(const QStringList &arguments)
         });
     }
     try {
+        if (parser.isSet(strict) && !PreflightPasses(control, QStringLiteral("print")))
+            return NotesExitStatus;
         control.PrintNow();
     } catch (const Error &e) {
         control.surface()->setPageObserver({});
@@ -312,6 +305,7 @@ int runPrint(const QStringList &arguments)
                  QString::number(pages),
                  pages == 1 ? QStringLiteral("page") : QStringLiteral("pages"), control.PieceName(),
                  destination));
+    TellNotes(control, QStringLiteral("print"));
     return 0;
 }
 
@@ -344,14 +338,8 @@ int runPreview(const QStringList &arguments)
     PreviewWindow window;
     Quirra &control = *window.control();
     InterruptCleanup::watch(SharedSpool::instance().spoolPath());
-    QStringList warnings;
-    const bool applied = options.applyTo(control, &warnings, &error);
-    for (const QString &warning : warnings)
-        say(QStringLiteral("quirra preview: warning: %1").arg(warning));
-    if (!applied) {
-        say(QStringLiteral("quirra preview: %1").arg(error));
-        return options.unknownPiece ? 2 : 1;
-    }
+    if (const auto status = options.applyTo(control, QStringLiteral("preview")))
+        return *status;
     RecordFeed feed(control);
     if (!feed.open(options.csvPath, &error)) {
         say(QStringLiteral("quirra preview: %1").arg(error));
@@ -387,6 +375,7 @@ int runPreview(const QStringList &arguments)
         say(QStringLiteral("quirra preview: %1").arg(e.message()));
         return 1;
     }
+    TellNotes(control, QStringLiteral("preview"));
     return QApplication::exec();
 }
 
@@ -488,7 +477,7 @@ int main(int argc, char **argv)
         return 0;
     }
     if (command != QLatin1String("print") && command != QLatin1String("preview") &&
-        command != QLatin1String("pieces")) {
+        command != QLatin1String("pieces") && command != QLatin1String("check")) {
         if (!command.isEmpty())
             say(QStringLiteral("quirra: unknown command \"%1\"").arg(command));
         return usage();
@@ -530,6 +519,8 @@ int main(int argc, char **argv)
             status = runPrint(arguments);
         else if (command == QLatin1String("preview"))
             status = runPreview(arguments);
+        else if (command == QLatin1String("check"))
+            status = RunCheckCommand(arguments, parseArguments);
         else
             status = runPieces(arguments);
     } catch (const Error &e) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "runoptions.h"
 
+#include "console.h"
+
 #include "cataloguecheck.h"
 #include "valuelimits.h"
 
@@ -160,6 +162,19 @@ bool RunOptions::catalogueHasPiece(const QString &name)
     // The test of LoadPieceByName: a record with at least one piece across.
     const QString file = CatalogueFilePath();
     return !file.isEmpty() && ReadPieceSpec(file, name).NumAcross >= 1;
+}
+
+std::optional<int> RunOptions::applyTo(Quirra &control, const QString &command)
+{
+    QStringList warnings;
+    QString error;
+    const bool applied = applyTo(control, &warnings, &error);
+    for (const QString &warning : std::as_const(warnings))
+        say(QStringLiteral("quirra %1: warning: %2").arg(command, warning));
+    if (applied)
+        return std::nullopt;
+    say(QStringLiteral("quirra %1: %2").arg(command, error));
+    return unknownPiece ? 2 : 1;
 }
 
 bool RunOptions::applyTo(Quirra &control, QStringList *warnings, QString *error)

@@ -6,6 +6,8 @@
 
 #include <QList>
 #include <QString>
+
+#include <optional>
 #include <QStringList>
 
 class QCommandLineParser;
@@ -44,6 +46,14 @@ public:
      * catalogue (unknownPiece is then set: a usage mistake).
      */
     bool applyTo(Quirra &control, QStringList *warnings, QString *error);
+
+    /**
+     * @brief applyTo() for a command of the host: warnings and the error
+     * go to standard error as "quirra COMMAND: ...".
+     * @return the exit status when the run cannot go on: 2 for an unknown
+     * piece (a usage mistake), 1 for anything else.
+     */
+    std::optional<int> applyTo(Quirra &control, const QString &command);
 
     /** @brief True when the catalogue holds a piece of this name. */
     static bool catalogueHasPiece(const QString &name);

@@ -20,9 +20,11 @@
 #include "records/spoolwriter.h"
 #include "render/messagehook.h"
 #include "render/printrun.h"
+#include "render/runreport.h"
 #include "render/textlines.h"
 #include "settings/defaultlayout.h"
 #include "settings/files.h"
+#include "surface/measuringsurface.h"
 #include "surface/printsurface.h"
 
 #include <QCoreApplication>
@@ -72,7 +74,8 @@ private:
 
 } // namespace
 
-Quirra::Quirra(QWidget *parent) : QWidget(parent), m_pane(new PreviewPane(this))
+Quirra::Quirra(QWidget *parent)
+    : QWidget(parent), m_pane(new PreviewPane(this)), m_report(std::make_unique<RunReport>())
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -235,12 +238,31 @@ void Quirra::runPrintJob(bool preview)
         EndDoc();
     PrintSurface *printSurface = surface();
     printSurface->setPreview(preview);
-    PrintRun::abortFlag() = false;
     // The preview and a PDF file show each piece where it lies on the sheet:
     // their printable area starts where the printer's does.
     printSurface->setPrintableOrigin(inchesToTwips(model().piece.PrinterLeft),
                                      inchesToTwips(model().piece.PrinterTop));
+    runOn(*printSurface);
+}
 
+void Quirra::PreflightNow()
+{
+    if (m_writer->isSpoolOpen())
+        EndDoc();
+    MeasuringSurface measuring;
+    measuring.setPrintableOrigin(inchesToTwips(model().piece.PrinterLeft),
+                                 inchesToTwips(model().piece.PrinterTop));
+    runOn(measuring);
+}
+
+const RunReport &Quirra::LastRunReport() const
+{
+    return *m_report;
+}
+
+void Quirra::runOn(Surface &surface)
+{
+    PrintRun::abortFlag() = false;
     // Every run reads the spool from its first record, also after a run that
     // stopped half way.
     SpoolReader &reader = SharedSpool::instance().reader();
@@ -249,7 +271,13 @@ void Quirra::runPrintJob(bool preview)
 
     RunMessages messages(this);
     PrintRun run(model(), reader);
-    run.RunPrintJob(*printSurface);
+    try {
+        run.RunPrintJob(surface);
+    } catch (...) {
+        *m_report = run.report();
+        throw;
+    }
+    *m_report = run.report();
 }
 
 QPrinter *Quirra::printer() const

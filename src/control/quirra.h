@@ -20,6 +20,8 @@ namespace quirra {
 class PreviewPane;
 class PrintSurface;
 class PropertyBag;
+class RunReport;
+class Surface;
 class SpoolWriter;
 struct PieceSpec;
 } // namespace quirra
@@ -171,6 +173,22 @@ public:
     Q_INVOKABLE void ShowAboutBox();
 
     /**
+     * @brief Runs the spooled records through the print run as PrintNow()
+     * would, on a surface that measures and draws nothing: no page is shown
+     * or printed, and LastRunReport() tells what the run would note. Ends
+     * an open document first, as PrintNow() does.
+     */
+    void PreflightNow();
+
+    /**
+     * @brief What the last PreviewNow(), PrintNow() or PreflightNow() noted
+     * about its records (city lines cut or left out, text overflowing or cut
+     * off at its piece, boxes and pieces off the page, characters no font
+     * can draw, empty records); empty before the first run.
+     */
+    const quirra::RunReport &LastRunReport() const;
+
+    /**
      * @brief The printer the control prints on. A host may name a system
      * printer or an output PDF file on it; nothing of it is saved.
      */
@@ -220,6 +238,7 @@ Q_SIGNALS:
 private:
     void startInstance();
     void runPrintJob(bool preview);
+    void runOn(quirra::Surface &surface);
     void loadPiece(const QString &name);
     void notifyPieceChanged();
     void notifyItemsChanged();
@@ -231,4 +250,5 @@ private:
     quirra::PreviewPane *m_pane = nullptr;
     QString m_ownSpoolPath;
     QString m_icon1;
+    std::unique_ptr<quirra::RunReport> m_report;
 };

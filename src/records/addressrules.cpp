@@ -124,8 +124,38 @@ QString FitCityStateZip(const QString &city, const QString &state, const QString
     return QString(QLatin1String(""));
 }
 
+namespace {
+
+// Fills fit for a city line that came out as printed.
+void describeFit(const QString &city, const QString &state, const QString &code,
+                 const QString &printed, TextMeasurer &measurer, CityLineFit &fit)
+{
+    const QString twoBlanks = QStringLiteral("  ");
+    fit.full = TrimBlanks(city + twoBlanks + state + twoBlanks + code);
+    fit.printed = printed;
+    fit.cut.clear();
+    fit.fullWidth = 0;
+    fit.shortened = printed != fit.full && printed != TrimBlanks(city + QLatin1Char(' ') + state +
+                                                                 QLatin1Char(' ') + code);
+    if (!fit.shortened)
+        return;
+    try {
+        fit.fullWidth = measurer.TextWidth(fit.full); // measured before, so cached
+    } catch (const std::exception &) {
+        fit.fullWidth = 0;
+    }
+    // The city's start that the printed line kept; the rest was cut.
+    const QString city0 = TrimBlanks(city);
+    qsizetype kept = 0;
+    while (kept < city0.size() && kept < printed.size() && city0.at(kept) == printed.at(kept))
+        ++kept;
+    fit.cut = printed.isEmpty() ? city0 : city0.mid(kept);
+}
+
+} // namespace
+
 bool ComposeAddressLines(SpoolReader &reader, TextMeasurer &measurer, double widest,
-                         AddressLines &lines, QString &substitute)
+                         AddressLines &lines, QString &substitute, CityLineFit *fit)
 {
     for (QString &line : lines) {
         line = QLatin1String("");
@@ -155,13 +185,17 @@ bool ComposeAddressLines(SpoolReader &reader, TextMeasurer &measurer, double wid
     }
 
     const auto cityLine = [&]() -> QString {
+        QString line;
         try {
-            return FitCityStateZip(v[City], state, v[Zip], widest, measurer);
+            line = FitCityStateZip(v[City], state, v[Zip], widest, measurer);
         } catch (const std::exception &error) {
             // The record still prints, without its city line.
             qCWarning(lcRecords) << "Measuring the city line failed:" << error.what();
-            return QString(QLatin1String(""));
+            line = QLatin1String("");
         }
+        if (fit)
+            describeFit(v[City], state, v[Zip], line, measurer, *fit);
+        return line;
     };
     lines[3] = v[Street1];
     if (v[Street2].isEmpty()) {

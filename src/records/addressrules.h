@@ -25,6 +25,16 @@ using AddressLines = std::array<QString, 10>;
 /** @brief The widest city line the print run allows, in twips (1440 per inch). */
 constexpr double DefaultWidestCityLine = 3500;
 
+/** @brief How the city, state and zip line of a record came out. */
+struct QUIRRACONTROL_EXPORT CityLineFit
+{
+    QString full;           ///< the whole line, two blanks apart; empty when the record has none
+    QString printed;        ///< the line printed; empty when it was left out
+    QString cut;            ///< what was cut from the city; empty when nothing was
+    double fullWidth = 0;   ///< the whole line's width, in twips
+    bool shortened = false; ///< printed is not the whole line (or there is none)
+};
+
 /**
  * @brief Reads the next record from the spool and turns it into address
  * lines and its substitution list.
@@ -43,12 +53,13 @@ constexpr double DefaultWidestCityLine = 3500;
  * @param widest the widest city line allowed, in twips
  * @param lines receives the ten lines; all empty at the end of the spool
  * @param substitute receives the record's substitution list
+ * @param fit when given, receives how the city line came out
  * @return true when the spool had no further record (the reader's end mark
  * is then set), false when lines were composed.
  */
 QUIRRACONTROL_EXPORT bool ComposeAddressLines(SpoolReader &reader, TextMeasurer &measurer,
                                               double widest, AddressLines &lines,
-                                              QString &substitute);
+                                              QString &substitute, CityLineFit *fit = nullptr);
 
 /**
  * @brief The city, state and zip line that fits in widest twips.

@@ -39,6 +39,11 @@ ItemBox itemBoxOnSurface(const Item &item, const Piece &piece, int slot, int sur
 
 void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface)
 {
+    DrawItem(item, piece, slot, surface, nullptr);
+}
+
+void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface, DrawnText *drawn)
+{
     if (!item.Visible)
         return;
     const ItemBox box = itemBoxOnSurface(item, piece, slot, surface.marginLeft());
@@ -57,6 +62,7 @@ void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface)
     const bool border = item.Border > 0;
     surface.textBox(item.Text, box.left, box.top, box.width, box.height, item.Wrap, true, border);
     const int laidOut = surface.textHeight();
+    const int laidOutWidth = surface.textWidthLaidOut();
 
     int offset = 0;
     if (laidOut < box.height) {
@@ -65,6 +71,9 @@ void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface)
         else if (item.VertAlign == vaBottom)
             offset = box.height - laidOut;
     }
+
+    if (drawn)
+        *drawn = DrawnText{box, box.top + offset, laidOutWidth, laidOut};
 
     if (border) {
         // The frame goes round the whole box, however tall the text is.

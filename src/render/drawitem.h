@@ -19,6 +19,15 @@ struct ItemBox
     int height = 0;
 };
 
+/** @brief Where an item's text went when it was drawn, in twips on the surface. */
+struct DrawnText
+{
+    ItemBox box;    ///< the item's box, as drawn
+    int top = 0;    ///< the text's top (the box's, moved down by the vertical alignment)
+    int width = 0;  ///< the widest line's width
+    int height = 0; ///< the height of all lines
+};
+
 /**
  * @brief Where an item of the piece in a slot lands on the surface: the
  * sheet position less the printer's offsets and the surface's left margin,
@@ -36,5 +45,9 @@ QUIRRACONTROL_EXPORT ItemBox itemBoxOnSurface(const Item &item, const Piece &pie
  */
 QUIRRACONTROL_EXPORT void DrawItem(const Item &item, const Piece &piece, int slot,
                                    Surface &surface);
+
+/** @brief DrawItem(), telling where the text went (untouched for an invisible item). */
+QUIRRACONTROL_EXPORT void DrawItem(const Item &item, const Piece &piece, int slot,
+                                   Surface &surface, DrawnText *drawn);
 
 } // namespace quirra

@@ -8,6 +8,7 @@
 #include "render/drawitem.h"
 #include "render/messagehook.h"
 #include "render/pagesetup.h"
+#include "render/piecechecks.h"
 #include "surface/surface.h"
 
 #include <array>
@@ -93,6 +94,7 @@ void PrintRun::RunPrintJob(Surface &surface)
 {
     abortFlag() = false;
     m_piecesDrawn = 0;
+    m_report.clear();
     resetSurface(surface);
     SetOrientationVerified(surface, m_model.piece.PieceOrientation);
     SetPaperSizeVerified(surface, m_model.piece.PageSizeNum);
@@ -134,12 +136,16 @@ void PrintRun::PlacePieces(Surface &surface)
     const TextTemplates templates(m_model);
     AddressLines lines;
     QString substitute;
+    CityLineFit fit;
+    qint64 record = 0;
     bool pendingNewPage = false;
     while (!m_reader.spoolExhausted()) {
         for (int slot = 1; slot <= perPage; ++slot) {
-            ComposeAddressLines(m_reader, surface, WidestCityLine, lines, substitute);
+            ComposeAddressLines(m_reader, surface, WidestCityLine, lines, substitute, &fit);
             if (m_reader.spoolExhausted())
                 return;
+            m_checks.beginRecord(++record, lines[1]);
+            m_checks.checkAddress(lines, fit, WidestCityLine);
             if (pendingNewPage) {
                 surface.setAction(SurfaceAction::NewPage);
                 pendingNewPage = false;
@@ -155,9 +161,22 @@ void PrintRun::PlacePieces(Surface &surface)
 
 void PrintRun::DrawPiece(int slot, Surface &surface)
 {
+    const Piece &piece = m_model.piece;
+    const int marginLeft = surface.marginLeft();
+    const QRect pieceBox = pieceBoxOnSurface(piece, slot, marginLeft);
+    const QRect paper = surface.paperRect();
+    const bool onPaper = m_checks.checkPiece(pieceBox, paper);
+
+    surface.setClipBox(pieceBox.x(), pieceBox.y(), pieceBox.width(), pieceBox.height());
     // Later items paint over earlier ones where boxes overlap.
-    for (ItemId id : StorageOrder)
-        DrawItem(m_model.item(id), m_model.piece, slot, surface);
+    for (ItemId id : StorageOrder) {
+        const Item &item = m_model.item(id);
+        DrawnText drawn;
+        DrawItem(item, piece, slot, surface, &drawn);
+        m_checks.checkItem(id, item, itemBoxWhereItLies(item, piece, slot, marginLeft), drawn,
+                           pieceBox, paper, onPaper);
+    }
+    surface.clearClipBox();
     ++m_piecesDrawn;
 }
 

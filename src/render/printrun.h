@@ -4,6 +4,8 @@
 
 #include "model/piecemodel.h"
 #include "quirracontrol_export.h"
+#include "render/piecechecks.h"
+#include "render/runreport.h"
 
 namespace quirra {
 
@@ -18,6 +20,11 @@ class Surface;
  * switch differs. It reads the spool from its first record and leaves it
  * intact, so a preview and a print of one feed show the same pages. One
  * record is held at a time and nothing is kept per page.
+ *
+ * Each piece's drawing is kept inside the piece, so what overflows never
+ * lands on the next one, and the run notes in its report() what will not
+ * come out as the user expects: run on a MeasuringSurface, it is a
+ * preflight that draws nothing.
  */
 class QUIRRACONTROL_EXPORT PrintRun
 {
@@ -43,11 +50,17 @@ public:
     /** @brief The page loop; the items' texts are restored when it ends, even by an error. */
     void PlacePieces(Surface &surface);
 
-    /** @brief Draws the five items of the piece in a slot, Stamp last. */
+    /**
+     * @brief Draws the five items of the piece in a slot, Stamp last, kept
+     * inside the piece; notes what overflows or lies off the piece or page.
+     */
     void DrawPiece(int slot, Surface &surface);
 
     /** @brief Pieces drawn by the last run. */
     qint64 piecesDrawn() const { return m_piecesDrawn; }
+
+    /** @brief What the last run noted about its records; cleared when a run starts. */
+    const RunReport &report() const { return m_report; }
 
     /**
      * @brief The process-wide abort flag: when set during a run, the run ends
@@ -59,6 +72,8 @@ private:
     PieceModel &m_model;
     SpoolReader &m_reader;
     qint64 m_piecesDrawn = 0;
+    RunReport m_report;
+    PieceChecks m_checks{m_report};
 };
 
 } // namespace quirra

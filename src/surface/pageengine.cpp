@@ -3,6 +3,7 @@
 #include "surface/pageengine.h"
 
 #include "surface/logging_p.h"
+#include "surface/pagehelpers_p.h"
 #include "surface/papercodes.h"
 #include "surface/printtarget.h"
 #include "surface/textblock_p.h"
@@ -15,7 +16,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <vector>
 
 namespace quirra {
@@ -38,51 +38,6 @@ struct RecordedPage
     QPicture picture; // in twips, the paper's corner at (0, 0)
     QPageLayout layout;
 };
-
-// A picture played on a painter is scaled by the device's resolution over
-// the picture's own; undo that, so that the painter's transform alone says
-// how large a twip is.
-void playPicture(QPainter &painter, const QPicture &picture)
-{
-    const QPaintDevice *device = painter.device();
-    if (!device)
-        return;
-    painter.save();
-    painter.scale(double(picture.logicalDpiX()) / device->logicalDpiX(),
-                  double(picture.logicalDpiY()) / device->logicalDpiY());
-    painter.drawPicture(0, 0, picture);
-    painter.restore();
-}
-
-// Twips as a whole number, held within int so that a run far off the page
-// cannot overflow.
-int clampToInt(double twips)
-{
-    return int(std::clamp(std::round(twips), double(std::numeric_limits<int>::min()),
-                          double(std::numeric_limits<int>::max())));
-}
-
-QSizeF paperTwips(const QPageLayout &layout)
-{
-    return layout.fullRect(QPageLayout::Point).size() * twipsPerPoint;
-}
-
-Qt::Alignment alignmentForCode(int code)
-{
-    switch (code) {
-    case 0:
-        return Qt::AlignLeft;
-    case 1:
-        return Qt::AlignHCenter;
-    case 2:
-        return Qt::AlignRight;
-    case 9:
-        return Qt::AlignJustify;
-    default:
-        qCWarning(lcSurface) << "text alignment" << code << "is not known; text is set left";
-        return Qt::AlignLeft;
-    }
-}
 
 } // namespace
 
@@ -132,6 +87,7 @@ public:
     int lineSpacing = 100;
     Qt::Alignment alignment = Qt::AlignLeft;
     int textHeight = 0;
+    int textWidth = 0;
     int error = NoError;
     PrintTarget *target = nullptr;
 
@@ -234,6 +190,7 @@ void PageEngine::Private::beginPage()
         pageObserver(pagesInDoc);
     currentX = 0;
     currentY = 0;
+    painter.setClipping(false); // a clip belongs to a piece, never to the next page
     drawMarginLine(header, true);
     drawMarginLine(footer, false);
 }
@@ -653,6 +610,7 @@ void PageEngine::textBox(const QString &text, int left, int top, int width, int 
     const double textWidth = double(width) - d->indentLeft - d->indentRight;
     auto block = d->text.layOut(text, textWidth, wrap, d->alignment, d->lineSpacing);
     d->textHeight = clampToInt(block->height());
+    d->textWidth = clampToInt(block->naturalWidth());
     if (layoutOnly || !d->docOpen)
         return;
     const QRectF box(double(d->marginLeft) + left, double(d->marginTop) + top, width, height);
@@ -667,6 +625,31 @@ void PageEngine::textBox(const QString &text, int left, int top, int width, int 
 int PageEngine::textHeight() const
 {
     return d->textHeight;
+}
+
+int PageEngine::textWidthLaidOut() const
+{
+    return d->textWidth;
+}
+
+void PageEngine::setClipBox(int left, int top, int width, int height)
+{
+    if (d->docOpen)
+        d->painter.setClipRect(QRectF(double(d->marginLeft) + left, double(d->marginTop) + top,
+                                      std::max(0, width), std::max(0, height)));
+}
+
+void PageEngine::clearClipBox()
+{
+    if (d->docOpen)
+        d->painter.setClipping(false);
+}
+
+QRect PageEngine::paperRect() const
+{
+    const QSizeF paper = paperTwips(d->wantedLayout());
+    return QRect(-d->originLeft - d->marginLeft, -d->originTop - d->marginTop,
+                 clampToInt(paper.width()), clampToInt(paper.height()));
 }
 
 int PageEngine::pageCount() const

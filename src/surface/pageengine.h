@@ -119,6 +119,10 @@ public:
     void textBox(const QString &text, int left, int top, int width, int height, bool wrap,
                  bool layoutOnly, bool border) override;
     int textHeight() const override;
+    int textWidthLaidOut() const override;
+    void setClipBox(int left, int top, int width, int height) override;
+    void clearClipBox() override;
+    QRect paperRect() const override;
     int pageCount() const override;
     void setPreviewPage(int page) override;
     int previewPage() const override;

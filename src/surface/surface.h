@@ -5,6 +5,7 @@
 #include "quirracontrol_export.h"
 #include "records/textmeasurer.h"
 
+#include <QRect>
 #include <QString>
 
 namespace quirra {
@@ -196,10 +197,11 @@ public:
      * Lines are separated by CR, CR LF or LF; a break at the very end of the
      * text adds no empty line. With wrap on, words break to fit the box width
      * less the indents (a word longer than the width breaks inside); with
-     * wrap off every line stays whole. Text is never clipped: a line wider
-     * than the box starts at the box's left edge and runs on past its right
-     * edge, and text taller than the box runs on below it, as ink on a sheet
-     * would. With border on, the frame (see setPenStyle(), setPenWidth(),
+     * wrap off every line stays whole. Text is not clipped to its box: a
+     * line wider than the box starts at the box's left edge and runs on past
+     * its right edge, and text taller than the box runs on below it, as ink
+     * on a sheet would, as far as the clip box (setClipBox()) lets it. With
+     * border on, the frame (see setPenStyle(), setPenWidth(),
      * setBrushStyle()) goes round the whole box, its ink inside the box,
      * whatever the text's height. Nothing is drawn while no document is open.
      *
@@ -210,6 +212,29 @@ public:
                          bool layoutOnly, bool border) = 0;
     /** @brief Height, in twips, of the text the last textBox() laid out. */
     virtual int textHeight() const = 0;
+    /**
+     * @brief Width, in twips, of the widest line the last textBox() laid
+     * out, blanks at a line's end left out. A surface that cannot tell
+     * answers 0.
+     */
+    virtual int textWidthLaidOut() const;
+
+    /**
+     * @brief Keeps the drawing that follows inside a box (twips from the
+     * body's corner, like a text box): text and frames beyond it are cut
+     * off, so a piece's overflow never lands on its neighbour. Holds until
+     * clearClipBox() or the next page. A surface that cannot clip ignores it.
+     */
+    virtual void setClipBox(int left, int top, int width, int height);
+    /** @brief Drawing is no longer kept inside a box. */
+    virtual void clearClipBox();
+    /**
+     * @brief The paper of the page being drawn (or of the next one) as
+     * oriented, in twips from the body's corner: the printable area's and
+     * the margins' offsets make its corner negative. Empty when the surface
+     * does not know its paper.
+     */
+    virtual QRect paperRect() const;
 
     /** @brief Pages in the preview, or pages sent to the output by the current print document. */
     virtual int pageCount() const = 0;

@@ -1,0 +1,262 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+//
+// The run's report of what will not come out as the user expects, and the
+// clip that keeps a piece's overflow off its neighbours.
+#include "spoolfixture.h"
+
+#include "catalogue/pieceloader.h"
+#include "render/pdfexport.h"
+#include "render/printrun.h"
+#include "render/runreport.h"
+#include "surface/measuringsurface.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QProcess>
+#include <QRectF>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace quirra;
+
+Q_DECLARE_METATYPE(QList<int>)
+
+namespace {
+
+const QString Envelope = QStringLiteral("Size 10 - Envelope");
+const QString Labels = QStringLiteral("5160 - Address Labels");
+
+// first, middle, last, addr1, addr2, city, state, zip
+QStringList person(const QString &first, const QString &last, const QString &city = "Troy",
+                   const QString &state = "NY", const QString &zip = "12180")
+{
+    return {first, QString(), last, QStringLiteral("12 Elm St"), QString(), city, state, zip};
+}
+
+enum Tweak { None, LowAddressBox, FramedMessageOffLabel, AddressTop25, MarginTop127 };
+
+void apply(Tweak tweak, PieceModel &model)
+{
+    switch (tweak) {
+    case None:
+        break;
+    case LowAddressBox:
+        model.item(ItemId::Address).Height = 0.1f;
+        break;
+    case FramedMessageOffLabel:
+        model.item(ItemId::Message1).Text.clear(); // an empty frame: only the box is off
+        model.item(ItemId::Message1).Border = 1;
+        model.item(ItemId::Message1).Visible = true;
+        model.item(ItemId::Message1).Top = 0.1f; // 0.5 x 0.3 in, just right of the label
+        model.item(ItemId::Message1).Height = 0.3f;
+        model.item(ItemId::Message1).Width = 0.5f;
+        model.item(ItemId::Message1).Left = 2.7f;
+        break;
+    case AddressTop25:
+        model.item(ItemId::Address).Top = 25;
+        break;
+    case MarginTop127:
+        model.piece.PieceMarginTop = 12.7f;
+        break;
+    }
+}
+
+// Share of dark pixels in a region of the page given in inches.
+double ink(const QImage &page, double dpi, const QRectF &inches)
+{
+    const QRect r(int(inches.left() * dpi), int(inches.top() * dpi), int(inches.width() * dpi),
+                  int(inches.height() * dpi));
+    int dark = 0;
+    for (int y = r.top(); y <= r.bottom(); ++y) {
+        for (int x = r.left(); x <= r.right(); ++x)
+            dark += qGray(page.pixel(x, y)) < 128 ? 1 : 0;
+    }
+    return double(dark) / (r.width() * r.height());
+}
+
+} // namespace
+
+class TestPreflight : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { PieceModel::resetShared(); }
+
+    void notes_data();
+    void notes();
+    void longRunKeepsFewNotes();
+    void overflowStaysOnItsPiece_data();
+    void overflowStaysOnItsPiece();
+};
+
+void TestPreflight::notes_data()
+{
+    QTest::addColumn<QString>("piece");
+    QTest::addColumn<int>("tweak");
+    QTest::addColumn<QStringList>("second"); // the record after a clean "Ann Lee"
+    QTest::addColumn<QList<int>>("kinds");   // every kind noted
+    QTest::addColumn<int>("record");         // the first record noted
+    QTest::addColumn<int>("count");          // records with the first kind
+    QTest::addColumn<QString>("detail");     // part of the first kind's detail
+
+    const QStringList bob = person("Bob", "Roe");
+    const auto kinds = [](std::initializer_list<NoteKind> list) {
+        QList<int> k;
+        for (NoteKind kind : list)
+            k << int(kind);
+        return k;
+    };
+    QTest::newRow("clean") << Envelope << int(None) << bob << QList<int>() << 0 << 0 << QString();
+    QTest::newRow("city-line-left-out")
+        << Envelope << int(None)
+        << person("Bob", "Roe", "Troy", "NEW YORK STATE OF AMERICA", "12180-0000-0000-0000")
+        << kinds({NoteKind::CityLineLeftOut}) << 2 << 1 << "twips wide, the limit is 3,500";
+    QTest::newRow("city-shortened")
+        << Envelope << int(None)
+        << person("Bob", "Roe", "Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch")
+        << kinds({NoteKind::CityLineShortened}) << 2 << 1 << "gogogoch,\" cut";
+    QTest::newRow("text-beyond-item")
+        << Envelope << int(LowAddressBox) << bob << kinds({NoteKind::TextBeyondItem}) << 1 << 2
+        << "Address text is";
+    QTest::newRow("text-cut-at-piece")
+        << Labels << int(None) << person("Bob", QStringLiteral("Longname ").repeated(70))
+        << kinds({NoteKind::TextCutAtPiece}) << 2 << 1 << "past the piece's bottom edge";
+    QTest::newRow("item-off-piece")
+        << Labels << int(FramedMessageOffLabel) << bob << kinds({NoteKind::ItemOffPiece}) << 1 << 2
+        << "Message1 box lies wholly outside the piece";
+    QTest::newRow("item-off-page") << Envelope << int(AddressTop25) << bob
+                                   << kinds({NoteKind::TextCutAtPiece, NoteKind::ItemOffPage}) << 1
+                                   << 2 << "lies wholly outside the piece";
+    QTest::newRow("piece-off-page")
+        << Labels << int(MarginTop127) << bob << kinds({NoteKind::PieceOffPage}) << 1 << 2
+        << "lies wholly outside the page";
+    QTest::newRow("undrawable-characters")
+        << Envelope << int(None) << person("Bob", QStringLiteral("Roe\u0378"))
+        << kinds({NoteKind::UndrawableCharacters}) << 2 << 1 << "U+0378";
+    QTest::newRow("empty-record") << Envelope << int(None) << QStringList(8, QString())
+                                  << kinds({NoteKind::EmptyRecord}) << 2 << 1
+                                  << "no name and no address";
+}
+
+void TestPreflight::notes()
+{
+    QFETCH(QString, piece);
+    QFETCH(int, tweak);
+    QFETCH(QStringList, second);
+    QFETCH(QList<int>, kinds);
+    QFETCH(int, record);
+    QFETCH(int, count);
+    QFETCH(QString, detail);
+
+    PieceModel &model = PieceModel::shared();
+    QVERIFY(LoadPieceByName(piece, model));
+    apply(Tweak(tweak), model);
+    SpoolFixture spool;
+    spool.add(person("Ann", "Lee"));
+    spool.add(second);
+    spool.close();
+
+    MeasuringSurface surface;
+    surface.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
+                               inchesToTwips(model.piece.PrinterTop));
+    PrintRun run(model, SharedSpool::instance().reader());
+    run.RunPrintJob(surface);
+    QCOMPARE(run.piecesDrawn(), qint64(2));
+
+    const RunReport &report = run.report();
+    QList<int> noted;
+    for (int k = 0; k < NoteKindCount; ++k) {
+        if (report.count(NoteKind(k)) > 0)
+            noted << k;
+    }
+    QCOMPARE(noted, kinds);
+    if (kinds.isEmpty())
+        return;
+    const Note *first = report.firstOf(NoteKind(kinds.first()));
+    QVERIFY(first);
+    QCOMPARE(first->record, qint64(record));
+    const QString name = QStringList{second[0], second[2]}.join(' ').trimmed();
+    QCOMPARE(first->name, record == 1 ? QStringLiteral("Ann Lee") : name);
+    QVERIFY2(first->detail.contains(detail), qPrintable(first->detail));
+    QCOMPARE(report.count(NoteKind(kinds.first())), qint64(count));
+}
+
+void TestPreflight::longRunKeepsFewNotes()
+{
+    PieceModel &model = PieceModel::shared();
+    QVERIFY(LoadPieceByName(Labels, model));
+    SpoolFixture spool;
+    for (int i = 0; i < 200; ++i)
+        spool.add(person(QStringLiteral("P%1").arg(i), "Roe", "Troy", "NEW YORK STATE OF AMERICA"));
+    spool.close();
+    MeasuringSurface surface;
+    surface.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
+                               inchesToTwips(model.piece.PrinterTop));
+    PrintRun run(model, SharedSpool::instance().reader());
+    run.RunPrintJob(surface);
+    const RunReport &report = run.report();
+    QCOMPARE(report.count(NoteKind::CityLineLeftOut), qint64(200));
+    QCOMPARE(report.recordsNoted(), qint64(200));
+    QCOMPARE(int(report.notes().size()), RunReport::ExamplesPerKind);
+    QCOMPARE(report.notes().back().record, qint64(RunReport::ExamplesPerKind));
+    QCOMPARE(surface.pageCount(), 7);
+}
+
+void TestPreflight::overflowStaysOnItsPiece_data()
+{
+    QTest::addColumn<bool>("pdf");
+    QTest::newRow("pdf-file") << true;
+    QTest::newRow("preview") << false;
+}
+
+void TestPreflight::overflowStaysOnItsPiece()
+{
+    QFETCH(bool, pdf);
+    PieceModel &model = PieceModel::shared();
+    QVERIFY(LoadPieceByName(Labels, model));
+    SpoolFixture spool;
+    // Label 1's name wraps on far below the label, down the first column.
+    spool.add(person("Cy", QStringLiteral("Longname ").repeated(70)));
+    for (int i = 2; i <= 4; ++i)
+        spool.add(person(QStringLiteral("Eve%1").arg(i), "Ray"));
+    spool.close();
+
+    const double dpi = 50;
+    QImage page;
+    if (pdf) {
+        if (QStandardPaths::findExecutable(QStringLiteral("pdftoppm")).isEmpty())
+            QSKIP("pdftoppm (poppler-utils) is not installed");
+        QTemporaryDir dir;
+        const QString file = dir.filePath(QStringLiteral("clip.pdf"));
+        QCOMPARE(PrintSpoolToPdf(file, model, SharedSpool::instance().reader()).errorCode, 0);
+        QCOMPARE(QProcess::execute(QStringLiteral("pdftoppm"),
+                                   {QStringLiteral("-r"), QString::number(dpi),
+                                    QStringLiteral("-png"), QStringLiteral("-singlefile"), file,
+                                    dir.filePath(QStringLiteral("page"))}),
+                 0);
+        QVERIFY(page.load(dir.filePath(QStringLiteral("page.png"))));
+    } else {
+        PageEngine engine;
+        engine.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
+                                  inchesToTwips(model.piece.PrinterTop));
+        PrintRun run(model, SharedSpool::instance().reader());
+        run.RunPrintJob(engine);
+        page = QImage(int(8.5 * dpi), int(11 * dpi), QImage::Format_RGB32);
+        page.fill(Qt::white);
+        QPainter painter(&page);
+        engine.paintPage(painter, 1, dpi);
+    }
+    // 5160: the first column at 0.1875 in, rows an inch apart from 0.5 in.
+    // The lower half of label 1 is full of its name; that of label 4, under
+    // it, shows nothing of it (label 4's own three lines are at its top).
+    QVERIFY(ink(page, dpi, QRectF(0.3, 1.0, 2.3, 0.45)) > 0.02);
+    QCOMPARE(ink(page, dpi, QRectF(0.3, 2.05, 2.3, 0.4)), 0.0);
+    // Label 4 itself is there.
+    QVERIFY(ink(page, dpi, QRectF(0.3, 1.55, 1.0, 0.4)) > 0.01);
+}
+
+QTEST_MAIN(TestPreflight)
+#include "tst_preflight.moc"
