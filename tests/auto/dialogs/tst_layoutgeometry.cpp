@@ -3,7 +3,6 @@
 #include "dialogs/layoutgeometry.h"
 
 #include "model/error.h"
-#include "settings/units.h"
 
 #include <QTest>
 
@@ -16,7 +15,7 @@ Q_DECLARE_METATYPE(LayoutGeometry)
 namespace {
 // A No. 10 envelope at the display scale 0.5, in display twips, with its
 // delivery address where the default layout puts it.
-const LayoutGeometry Envelope(6840, 2970);
+const LayoutGeometry Envelope(6840, 2970, 0.5f);
 const QRectF Address(3120, 1260, 2160, 1080);
 } // namespace
 
@@ -25,8 +24,6 @@ class TestLayoutGeometry : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { display_scale = 0.5f; }
-    void cleanup() { display_scale = 1.0f; }
     void fitScale_data();
     void fitScale();
     void dragged_data();
