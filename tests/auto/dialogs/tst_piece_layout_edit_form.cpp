@@ -255,25 +255,20 @@ void TestPieceLayoutEditForm::fields_data()
     QTest::addColumn<int>("beeps");
     QTest::addColumn<int>("value"); // display twips, rounded
 
-    QTest::newRow("letters-dropped-with-beep") << 1 << "2a.5"
-                                               << "2.5" << 1 << 1800;
-    QTest::newRow("above-room-becomes-bound") << 1 << "9"
-                                              << "6.5" << 0 << 4680;
-    QTest::newRow("bound-as-the-field-shows-it") << 0 << "3"
-                                                 << "2.63" << 0 << 1894;
+    const auto row = [](const char *tag, int field, const char *keys, const char *text, int beeps,
+                        int value) {
+        QTest::newRow(tag) << field << QString::fromLatin1(keys) << QString::fromLatin1(text)
+                           << beeps << value;
+    };
+    row("above-room-becomes-bound", 1, "9", "6.5", 0, 4680);
+    row("bound-as-the-field-shows-it", 0, "3", "2.63", 0, 1894);
     // Every key leaves the text as "#0.##" shows it: "1.0" becomes "1.".
-    QTest::newRow("each-key-rewrites-the-number") << 2 << "1.05"
-                                                  << "1.5" << 0 << 1080;
-    QTest::newRow("second-point-continues") << 1 << "1.2.3"
-                                            << "1.23" << 0 << 886;
-    QTest::newRow("arrows-step-0.03") << 0 << "1.75^^"
-                                      << "1.81" << 0 << 1303;
-    QTest::newRow("keys-step-down") << 1 << "4.33---"
-                                    << "4.24" << 0 << 3053;
-    QTest::newRow("floor-0-beeps") << 2 << "0.1vvvvv"
-                                   << "0." << 2 << 0;
-    QTest::newRow("ceiling-is-room-right-beeps") << 3 << "5.1++++"
-                                                 << "5.17" << 2 << 3722;
+    row("each-key-rewrites-the-number", 2, "1.05", "1.5", 0, 1080);
+    row("second-point-continues", 1, "1.2.3", "1.23", 0, 886);
+    row("arrows-step-0.03", 0, "1.75^^", "1.81", 0, 1303);
+    row("keys-step-down", 1, "4.33---", "4.24", 0, 3053);
+    row("floor-0-beeps", 2, "0.1vvvvv", "0.", 2, 0);
+    row("ceiling-is-room-right-beeps", 3, "5.1++++", "5.17", 2, 3722);
 }
 
 void TestPieceLayoutEditForm::fields()
