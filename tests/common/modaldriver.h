@@ -4,9 +4,18 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QTest>
 #include <QTimer>
 
 #include <functional>
+
+// Shows a form as a person would find it: shown, active, ready for keys.
+inline bool showActive(QWidget *form)
+{
+    form->show();
+    form->activateWindow();
+    return QTest::qWaitForWindowActive(form);
+}
 
 // Drives a dialog that runs its own modal loop: once a dialog of the given
 // object name is the active modal widget, the action runs on it (it clicks

@@ -42,12 +42,7 @@ struct Form
         return form.findChild<QLabel *>(QLatin1String(name))->text();
     }
     SheetPreview *preview() const { return form.findChild<SheetPreview *>(); }
-    void show()
-    {
-        form.show();
-        form.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
-    }
+    void show() { QVERIFY(showActive(&form)); }
 };
 
 } // namespace

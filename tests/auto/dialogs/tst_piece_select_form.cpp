@@ -52,12 +52,7 @@ struct Form
         return label ? label->text() : QStringLiteral("<no %1>").arg(QLatin1String(name));
     }
     QWidget *widget(const QString &name) const { return form.findChild<QWidget *>(name); }
-    void show()
-    {
-        form.show();
-        form.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
-    }
+    void show() { QVERIFY(showActive(&form)); }
 };
 
 } // namespace
