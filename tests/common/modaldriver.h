@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QTest>
@@ -46,6 +47,17 @@ public:
     void onModal(const QString &objectName, std::function<void(QDialog *)> action)
     {
         QTimer::singleShot(0, this, [this, objectName, action] { poll(objectName, action); });
+    }
+
+    // Ends dialog as a person would: "return" and "escape" are keys pressed
+    // in keys (the dialog itself by default), anything else names a button.
+    static void close(QDialog *dialog, const QString &how, QWidget *keys = nullptr)
+    {
+        if (how == QLatin1String("return") || how == QLatin1String("escape"))
+            QTest::keyClick(keys ? keys : dialog,
+                            how == QLatin1String("return") ? Qt::Key_Return : Qt::Key_Escape);
+        else if (auto *button = dialog->findChild<QAbstractButton *>(how))
+            button->click();
     }
 
     bool watchdogFired() const { return m_watchdogFired; }

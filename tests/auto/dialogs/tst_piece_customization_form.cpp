@@ -338,12 +338,7 @@ void TestPieceCustomizationForm::modalResult()
         down->selectAll();
         if (!typeInDown.isEmpty())
             QTest::keyClicks(down, typeInDown);
-        if (closeWith == QLatin1String("return"))
-            QTest::keyClick(down, Qt::Key_Return);
-        else if (closeWith == QLatin1String("escape"))
-            QTest::keyClick(down, Qt::Key_Escape);
-        else
-            dialog->findChild<QPushButton *>(closeWith)->click();
+        ModalDriver::close(dialog, closeWith, down);
     });
     PieceSpec entry = original;
     QCOMPARE(ShowPieceCustomizationDialog(nullptr, entry), accepted);

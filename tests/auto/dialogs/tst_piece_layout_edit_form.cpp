@@ -606,10 +606,7 @@ void TestPieceLayoutEditForm::modalResult()
             QTest::mouseRelease(frame, Qt::LeftButton, {}, from + QPoint(-30, 10));
         }
         dropped = form->itemBox(1).topLeft();
-        if (closeWith == QLatin1String("escape"))
-            QTest::keyClick(dialog, Qt::Key_Escape);
-        else
-            dialog->findChild<QPushButton *>(closeWith)->click();
+        ModalDriver::close(dialog, closeWith);
     });
     std::array<Item, ItemCount> items = original;
     QCOMPARE(EditPieceLayout(nullptr, 9.5f, 4.125f, items), accepted);

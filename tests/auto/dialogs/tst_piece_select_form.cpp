@@ -254,12 +254,7 @@ void TestPieceSelectForm::okAndCancel()
         auto *list = dialog->findChild<QListWidget *>(QStringLiteral("piece_lst"));
         if (pickRow >= 0)
             list->setCurrentRow(pickRow);
-        if (closeWith == QLatin1String("return"))
-            QTest::keyClick(list, Qt::Key_Return);
-        else if (closeWith == QLatin1String("escape"))
-            QTest::keyClick(list, Qt::Key_Escape);
-        else
-            dialog->findChild<QPushButton *>(closeWith)->click();
+        ModalDriver::close(dialog, closeWith, list);
     });
     QString name = opening;
     QCOMPARE(ShowPieceSelectDialog(nullptr, name), accepted);
