@@ -26,6 +26,16 @@ constexpr double FontPerButton = 0.6;
 // The paging arrows fill this much of the button's height.
 constexpr double IconPerButton = 0.6;
 
+// The row's face: "Small Fonts", the compact bitmap face such button rows
+// were drawn in; where it is not installed, the pane's own family.
+QFont rowFace(const QFont &paneFont, int pixels)
+{
+    QFont face = paneFont;
+    face.setFamilies({QStringLiteral("Small Fonts"), paneFont.family()});
+    face.setPixelSize(pixels);
+    return face;
+}
+
 /**
  * A paging arrow drawn at whatever size the button asks for, in the
  * palette's button text colour (the disabled one when the button is off).
@@ -206,7 +216,7 @@ void PreviewPane::resizeEvent(QResizeEvent *event)
 void PreviewPane::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    // The row's font follows the pane's own family.
+    // Where the row's face is missing, it follows the pane's own family.
     if (event->type() == QEvent::FontChange)
         relayout();
 }
@@ -219,8 +229,7 @@ void PreviewPane::relayout()
 
     const int buttonPixels = PaneLayout::pixelsFromTwips(layout.buttonSize(), dpiY);
     m_fontPixels = std::max(1, int(std::lround(buttonPixels * FontPerButton)));
-    QFont rowFont = font();
-    rowFont.setPixelSize(m_fontPixels);
+    const QFont rowFont = rowFace(font(), m_fontPixels);
     const int iconPixels = std::max(1, int(std::lround(buttonPixels * IconPerButton)));
 
     for (int part = 0; part < PaneLayout::PartCount; ++part) {
@@ -242,8 +251,7 @@ void PreviewPane::fitLabelFont()
 {
     // The label takes the row's font, made smaller when a long page count
     // would not fit its width.
-    QFont labelFont = font();
-    labelFont.setPixelSize(m_fontPixels);
+    QFont labelFont = rowFace(font(), m_fontPixels);
     const int room = m_label->width();
     const int needed = QFontMetrics(labelFont).horizontalAdvance(m_label->text());
     if (needed > room && needed > 0) {

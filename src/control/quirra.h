@@ -52,7 +52,9 @@ class QUIRRACONTROL_EXPORT Quirra : public QWidget
 {
     Q_OBJECT
 #define QUIRRA_PROPERTY(type, name, ...) Q_PROPERTY(type name READ name WRITE name)
+#define QUIRRA_HIDDEN_PROPERTY(...)
 #include "control/properties.def"
+#undef QUIRRA_HIDDEN_PROPERTY
 #undef QUIRRA_PROPERTY
 
 public:

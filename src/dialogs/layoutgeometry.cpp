@@ -52,8 +52,9 @@ bool hasDigit(const QString &text)
 
 } // namespace
 
-LayoutGeometry::LayoutGeometry(double frameWidth, double frameHeight)
-    : m_width(frameWidth > 0 ? frameWidth : 0), m_height(frameHeight > 0 ? frameHeight : 0)
+LayoutGeometry::LayoutGeometry(double frameWidth, double frameHeight, float scale)
+    : m_width(frameWidth > 0 ? frameWidth : 0), m_height(frameHeight > 0 ? frameHeight : 0),
+      m_scale(scale)
 {
 }
 
@@ -221,7 +222,7 @@ float LayoutGeometry::upperBound(Field field, const QRectF &box) const
     }
     // The bound is what the field would show for that room, so a value the
     // field shows can always be typed back.
-    const float bound = ParseSingle(DisplayTwipsToText(room));
+    const float bound = ParseSingle(DisplayTwipsToText(room, m_scale));
     return bound > 0 ? bound : 0;
 }
 
@@ -254,15 +255,54 @@ LayoutGeometry::Step LayoutGeometry::stepped(const QString &text, int scrollValu
     return result;
 }
 
-QString LayoutGeometry::completed(const QString &text, float upper, double current)
+QString LayoutGeometry::typed(const QString &text, float upper)
 {
-    if (!hasDigit(text))
-        return FormatNumber(current, FieldFormat);
     const NumberField field(NumberField::Measure, 0, upper > 0 ? upper : 0);
     double value = field.read(text);
     if (float(value) > field.maximum())
         value = field.maximum();
     return FormatNumber(value, FieldFormat);
+}
+
+QString LayoutGeometry::completed(const QString &text, float upper, double current)
+{
+    return hasDigit(text) ? typed(text, upper) : FormatNumber(current, FieldFormat);
+}
+
+double LayoutGeometry::fieldValue(Field which, const QRectF &box)
+{
+    switch (which) {
+    case TopField:
+        return box.top();
+    case LeftField:
+        return box.left();
+    case HeightField:
+        return box.height();
+    case WidthField:
+        return box.width();
+    default:
+        return 0;
+    }
+}
+
+void LayoutGeometry::setFieldValue(Field which, QRectF &box, double twips)
+{
+    switch (which) {
+    case TopField:
+        box.moveTop(twips);
+        break;
+    case LeftField:
+        box.moveLeft(twips);
+        break;
+    case HeightField:
+        box.setHeight(twips);
+        break;
+    case WidthField:
+        box.setWidth(twips);
+        break;
+    default:
+        break;
+    }
 }
 
 } // namespace quirra

@@ -56,13 +56,18 @@ public:
 
     /** @brief A piece of no size. */
     LayoutGeometry() = default;
-    /** @brief A piece of frameWidth × frameHeight display twips (a negative size counts as 0). */
-    LayoutGeometry(double frameWidth, double frameHeight);
+    /**
+     * @brief A piece of frameWidth × frameHeight display twips (a negative
+     * size counts as 0), shown at scale display twips per twip.
+     */
+    LayoutGeometry(double frameWidth, double frameHeight, float scale = 1.0f);
 
     /** @brief The piece's width, display twips. */
     double frameWidth() const { return m_width; }
     /** @brief The piece's height, display twips. */
     double frameHeight() const { return m_height; }
+    /** @brief Display twips per twip of the real piece. */
+    float scale() const { return m_scale; }
 
     /**
      * @brief The display scale for a piece of pieceWidth × pieceHeight inches
@@ -135,15 +140,28 @@ public:
     static Step stepped(const QString &text, int scrollValue, float upper);
 
     /**
+     * @brief A field's text after a key was released in it: the number it
+     * reads (digits only, a second point continues the fraction), within 0
+     * and upper (inches), formatted "#0.##".
+     */
+    static QString typed(const QString &text, float upper);
+
+    /**
      * @brief A field's text when it loses the focus: the number it reads,
      * within 0 and upper (inches), formatted "#0.##"; current, formatted,
      * when the text holds no digit at all.
      */
     static QString completed(const QString &text, float upper, double current);
 
+    /** @brief The value, display twips, that field stands for in box. */
+    static double fieldValue(Field field, const QRectF &box);
+    /** @brief Moves (top, left) or sizes (height, width) box so that field stands for twips. */
+    static void setFieldValue(Field field, QRectF &box, double twips);
+
 private:
     double m_width = 0;
     double m_height = 0;
+    float m_scale = 1.0f;
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(LayoutGeometry::Fields)

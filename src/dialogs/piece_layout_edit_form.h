@@ -13,49 +13,35 @@
 #include <array>
 
 class QAction;
-class QCheckBox;
-class QFrame;
+class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QMenu;
 class QMenuBar;
-class QMouseEvent;
 class QPushButton;
 class QScrollBar;
-class QTextEdit;
 
 namespace quirra {
 
-class LayoutItemLabel;
+class LayoutCanvas;
 
 /**
- * @brief The layout editor: the piece drawn at the display scale, its five
- * items as labels to move and resize with the mouse, and four fields that
- * give the selected item's place and size in inches.
+ * @brief The layout editor: the piece (a LayoutCanvas, `piece_frame`) with
+ * its five items to move and resize with the mouse, the Edit, Format and
+ * Display menus, four fields that give the selected item's place and size
+ * in inches, and OK and Cancel.
  *
- * Children carry their published object names. Control arrays are named
- * with their index: the items `item_1` ... `item_5` (Address, Return,
- * Stamp, Message1, Message2), the handles `dot_1` ... `dot_8` (top-left,
- * top-centre, top-right, left-centre, right-centre, bottom-left,
- * bottom-centre, bottom-right), the in-place editors `edit_txt_0` ...
- * `edit_txt_2` (left, right and centre aligned), the menu entries
- * `format_justify_mnu_0` ... `_3` and `display_item_mnu_1` ... `_5`; each of
- * them also holds its index in the dynamic property "index". An item label's
- * dynamic property "Tag" holds the item's true font size in points as text.
+ * Children carry their published object names; the members of a control
+ * array share the array's name and hold their index in the dynamic
+ * property "index": the menu entries `format_justify_mnu` 0..3 and
+ * `display_item_mnu` 1..5, and on the canvas `item`, `dot` and `edit_txt`.
  *
- * Lengths on the piece are display twips: display_scale display twips stand
- * for one twip of the real piece, and the screen shows 1440 twips per
- * logical inch. The fields show inches, "#0.##".
- *
- * The mouse: a press on an item selects it and drags it, 50 display twips
- * clear of the piece's edges; a handle's corner follows the mouse while the
- * item's edge keeps its limits; a right click opens the Format menu, a
- * double click edits the text in place. The fields: what is typed moves the
- * item at once; a number past its bound becomes the bound when the key is
- * released; a stepper click moves it by 0.03 inch and beeps when a bound
- * stops it.
- * Filling the fields from an item never moves the item, so it keeps the
- * exact place the mouse gave it.
+ * The fields: what is typed moves the item at once; when a key is released
+ * the text is written back as the number it reads, within its bounds,
+ * "#0.##"; a stepper click moves it by 0.03 inch and beeps when a bound
+ * stops it. Filling the fields from an item never moves the item, so it
+ * keeps the exact place the mouse gave it. A right click on an item opens
+ * the Format menu, a double click edits the text in place.
  */
 class QUIRRACONTROL_EXPORT piece_layout_edit_form : public QDialog
 {
@@ -71,10 +57,11 @@ public:
 
     /**
      * @brief Loads a piece (width and height in inches) and its five items,
-     * in the order Address, Return, Stamp, Message1, Message2, into the
-     * labels at the current display_scale.
+     * in the order Address, Return, Stamp, Message1, Message2, drawn at
+     * scale display twips per twip of the piece.
      */
-    void loadItems(float pieceWidth, float pieceHeight, const std::array<Item, ItemCount> &items);
+    void loadItems(float pieceWidth, float pieceHeight, const std::array<Item, ItemCount> &items,
+                   float scale = 1.0f);
 
     /**
      * @brief Writes every label's box (inches), text, font, alignment,
@@ -84,16 +71,19 @@ public:
     void copyItemsBack(std::array<Item, ItemCount> &items) const;
 
     /** @brief True once OK was pressed; false after Cancel or on activation. */
-    bool dataWasAccepted() const;
+    bool dataWasAccepted() const { return m_accepted; }
 
     /** @brief The selected item, 1..5; 0 when no item is selected. */
-    int currentItem() const { return m_current; }
+    int currentItem() const;
 
     /** @brief Item index's box on the piece, in display twips (index 1..5). */
     QRectF itemBox(int index) const;
 
     /** @brief The piece's size in display twips. */
-    QSizeF pieceSize() const { return QSizeF(m_geometry.frameWidth(), m_geometry.frameHeight()); }
+    QSizeF pieceSize() const;
+
+    /** @brief Display twips per twip of the piece, as loadItems() was given it. */
+    float displayScale() const;
 
     /** @brief Twips per logical pixel of the screen the form was built for (15 at 96 dpi). */
     double twipsPerPixel() const { return m_twipsPerPixel; }
@@ -122,18 +112,6 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    // What a label holds for its item besides its box.
-    struct ItemState
-    {
-        LayoutItemLabel *label = nullptr;
-        QRectF box; // display twips
-        QString text;
-        eHorzAlign align = haLeft;
-        qint16 border = 0;
-        ItemFont font; // Size is the true size, the label's "Tag"
-        bool visible = true;
-    };
-
     // One of the four numeric fields.
     struct Field
     {
@@ -143,38 +121,20 @@ private:
     };
 
     void buildWidgets();
+    void buildFields(QGridLayout *layout, QWidget *panel);
     void buildMenus(QMenuBar *menuBar);
     void centreOnScreen();
+    void connectCanvas();
 
-    void loadItem(int index, const Item &item);
     void selectFirstVisible();
     void leaveFields();
-
-    ItemState *stateOf(int index);
-    const ItemState *stateOf(int index) const;
-    int itemIndexOf(const QObject *object) const;
-    int handleIndexOf(const QObject *object) const;
-    int fieldIndexOf(const QObject *object) const;
-    int editorIndexOf(const QObject *object) const;
-
-    int toPixels(double twips) const;
-    QPointF frameTwips(QWidget *child, const QMouseEvent *event) const;
-    void applyBox(int index);
-    void applyLook(int index);
-    void setCaption(int index, const QString &text);
-
-    void placeHandles(int index);
-    void hideHandles();
+    void showName(int index);
     void refreshFields(int index, LayoutGeometry::Fields fields = LayoutGeometry::AllFields);
 
-    bool itemMouse(int index, QEvent *event);
-    bool handleMouse(int handle, QEvent *event);
     bool fieldEvent(const Field &field, QEvent *event);
     void onFieldChanged(const Field &field);
     void onStepper(const Field &field, int value);
     float upperBound(const Field &field) const;
-
-    void onEditorChanged(int editor);
 
     void editClear();
     void editModify();
@@ -187,44 +147,30 @@ private:
     void formatFont();
     void displayOpening();
     void displayItem(int index);
-    void hideEditors();
 
-    LayoutGeometry m_geometry;
+    LayoutCanvas *m_canvas = nullptr;
     double m_twipsPerPixel = 15;
-    std::array<ItemState, ItemCount> m_items;
-    std::array<QLabel *, 8> m_handles{};
-    std::array<QTextEdit *, 3> m_editors{};
+    float m_pieceWidth = 0;  // inches, as loaded: the Default command lays out for it
+    float m_pieceHeight = 0; // inches
+    bool m_accepted = false;
+    bool m_activated = false;
+    bool m_refreshing = false; // the fields are being written from an item
+    int m_fieldItem = 0;       // the item whose values the fields hold
     std::array<Field, 4> m_fields;
     std::array<QAction *, 4> m_justify{};
     std::array<QAction *, ItemCount> m_display{};
 
-    QFrame *m_pieceFrame = nullptr;
     QLabel *m_itemName = nullptr;
-    QLabel *m_pieceWidth = nullptr;
-    QLabel *m_pieceHeight = nullptr;
-    QCheckBox *m_accepted = nullptr;
     QPushButton *m_ok = nullptr;
     QMenu *m_formatMenu = nullptr;
     QAction *m_borders = nullptr;
-
-    bool m_loading = true;
-    bool m_activated = false;
-    bool m_dragging = false;
-    bool m_sizing = false;
-    bool m_busy = false;
-    bool m_refreshing = false;
-    int m_current = 0;
-    int m_fieldItem = 0;  // the item whose values the fields hold
-    int m_editing = -1;   // the in-place editor that is open, -1 for none
-    QPointF m_itemDown;   // where the item was pressed, relative to it (display twips)
-    QPointF m_handleDown; // the latest mouse position over the held handle (display twips)
 };
 
 /**
  * @brief The edit-layout routine: runs the editor modally on the five items
  * of a piece of the given size (inches).
  *
- * Fits display_scale to the primary screen first. items are in the order
+ * Fits the editor's scale to the primary screen first. items are in the order
  * Address, Return, Stamp, Message1, Message2 (ArgumentOrder); on OK every
  * item's box, texts, fonts, alignment, border and visibility are written
  * back and true is returned; on Cancel items are untouched.

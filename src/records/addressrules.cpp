@@ -7,6 +7,7 @@
 #include "records/textmeasurer.h"
 #include "settings/strings.h"
 
+#include <cmath>
 #include <exception>
 
 namespace quirra {
@@ -23,6 +24,14 @@ constexpr qsizetype LinearSteps = 64;
 // keeps making new tokens stops within a fraction of a second.
 constexpr qint64 ReplaceWorkBudget = 256 * 1024 * 1024;
 constexpr qint64 ReplaceMaxLength = 16 * 1024 * 1024;
+
+// A width as the surface's measuring hands it back: whole twips. The rule's
+// equality test compares these, so it fires where the measure says so and
+// not only when a font's fractions happen to add up.
+double measuredTwips(TextMeasurer &measurer, const QString &text)
+{
+    return std::round(measurer.TextWidth(text));
+}
 
 enum Value : int {
     First = 0,
@@ -57,7 +66,7 @@ public:
             return false;
         }
         QString candidate = TrimBlanks(m_city.left(n) + m_tail);
-        if (m_measurer.TextWidth(candidate) < m_widest) {
+        if (measuredTwips(m_measurer, candidate) < m_widest) {
             line = std::move(candidate);
             return true;
         }
@@ -78,14 +87,14 @@ QString FitCityStateZip(const QString &city, const QString &state, const QString
 {
     const QString twoBlanks = QStringLiteral("  ");
     QString line = TrimBlanks(city + twoBlanks + state + twoBlanks + code);
-    if (measurer.TextWidth(line) <= widest) {
+    if (measuredTwips(measurer, line) <= widest) {
         return line;
     }
 
     // Single blanks are taken here only at exactly the widest width; a
     // narrower line is left to the cut below, which takes it at full length.
     line = TrimBlanks(city + QLatin1Char(' ') + state + QLatin1Char(' ') + code);
-    if (measurer.TextWidth(line) == widest) {
+    if (measuredTwips(measurer, line) == widest) {
         return line;
     }
 

@@ -77,7 +77,8 @@ QUIRRACONTROL_EXPORT bool ComposeAddressLines(SpoolReader &reader, TextMeasurer 
  * a runaway value from taking quadratic time.
  *
  * @param widest the widest line allowed, in twips
- * @param measurer measures candidates, in twips
+ * @param measurer measures candidates, in twips; widths are compared in
+ * whole twips (halves away from zero), as the surface's measure returns them
  */
 QUIRRACONTROL_EXPORT QString FitCityStateZip(const QString &city, const QString &state,
                                              const QString &code, double widest,

@@ -19,19 +19,17 @@ bool isPlaceholder(QChar c)
 }
 } // namespace
 
-float display_scale = 1.0f;
-
-double InchesToDisplayTwips(double inches)
+double InchesToDisplayTwips(double inches, float scale)
 {
-    return inches * 1440.0 * double(display_scale);
+    return inches * 1440.0 * double(scale);
 }
 
-QString DisplayTwipsToText(double displayTwips)
+QString DisplayTwipsToText(double displayTwips, float displayScale)
 {
-    double scale = double(display_scale);
+    double scale = double(displayScale);
     if (!(scale > 0) || !std::isfinite(scale)) {
-        qCWarning(lcSettings) << "display_scale is" << scale
-                           << "; lengths are shown at the scale 1 instead";
+        qCWarning(lcSettings) << "the display scale is" << scale
+                              << "; lengths are shown at the scale 1 instead";
         scale = 1.0;
     }
     return FormatNumber(displayTwips / scale / 1440.0, QStringLiteral("#0.##"));

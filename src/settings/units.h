@@ -9,25 +9,20 @@
 namespace quirra {
 
 /**
- * @brief Display twips per twip of the real piece in the layout editor;
- * one value per process, 1.0 until the editor fits a piece to the screen.
+ * @brief Inches to display twips: inches × 1440 × scale, in that order, in
+ * double precision. scale is the layout editor's display scale: display
+ * twips per twip of the real piece.
  */
-QUIRRACONTROL_EXPORT extern float display_scale;
+QUIRRACONTROL_EXPORT double InchesToDisplayTwips(double inches, float scale);
 
 /**
- * @brief Inches to display twips: inches × 1440 × display_scale, in that
- * order, in double precision.
- */
-QUIRRACONTROL_EXPORT double InchesToDisplayTwips(double inches);
-
-/**
- * @brief value ÷ display_scale ÷ 1440 as inches, formatted "#0.##" ("2." for
- * two inches).
+ * @brief value ÷ scale ÷ 1440 as inches, formatted "#0.##" ("2." for two
+ * inches); scale as for InchesToDisplayTwips().
  *
- * A display_scale that is not a positive number is taken as 1 (with a
- * warning in the log), so a field never shows an infinite length.
+ * A scale that is not a positive number is taken as 1 (with a warning in
+ * the log), so a field never shows an infinite length.
  */
-QUIRRACONTROL_EXPORT QString DisplayTwipsToText(double displayTwips);
+QUIRRACONTROL_EXPORT QString DisplayTwipsToText(double displayTwips, float scale);
 
 /** @brief b when a <= b, else a: on equal values the second argument. */
 QUIRRACONTROL_EXPORT float Larger(float a, float b);

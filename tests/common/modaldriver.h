@@ -2,11 +2,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
+#include <QTest>
 #include <QTimer>
 
 #include <functional>
+
+// Shows a form as a person would find it: shown, active, ready for keys.
+inline bool showActive(QWidget *form)
+{
+    form->show();
+    form->activateWindow();
+    return QTest::qWaitForWindowActive(form);
+}
 
 // Drives a dialog that runs its own modal loop: once a dialog of the given
 // object name is the active modal widget, the action runs on it (it clicks
@@ -37,6 +47,17 @@ public:
     void onModal(const QString &objectName, std::function<void(QDialog *)> action)
     {
         QTimer::singleShot(0, this, [this, objectName, action] { poll(objectName, action); });
+    }
+
+    // Ends dialog as a person would: "return" and "escape" are keys pressed
+    // in keys (the dialog itself by default), anything else names a button.
+    static void close(QDialog *dialog, const QString &how, QWidget *keys = nullptr)
+    {
+        if (how == QLatin1String("return") || how == QLatin1String("escape"))
+            QTest::keyClick(keys ? keys : dialog,
+                            how == QLatin1String("return") ? Qt::Key_Return : Qt::Key_Escape);
+        else if (auto *button = dialog->findChild<QAbstractButton *>(how))
+            button->click();
     }
 
     bool watchdogFired() const { return m_watchdogFired; }

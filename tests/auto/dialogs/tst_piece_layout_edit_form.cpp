@@ -45,30 +45,42 @@ QPoint pixels(QPointF twips)
     return (twips / 15).toPoint();
 }
 
+// The member of a control array: every member carries the array's name and
+// its index in the property "index".
+template <typename T> T *member(const QObject *parent, const QString &name, int index)
+{
+    for (T *candidate : parent->findChildren<T *>(name)) {
+        if (candidate->property("index").toInt() == index)
+            return candidate;
+    }
+    return nullptr;
+}
+
 // The form shown on a piece, with its children by their published names.
 struct Editor
 {
     piece_layout_edit_form form;
     QWidget *frame = form.findChild<QWidget *>(QStringLiteral("piece_frame"));
 
-    explicit Editor(const std::array<Item, ItemCount> &items = envelopeItems())
+    explicit Editor(const std::array<Item, ItemCount> &items = envelopeItems(), float scale = 0.5f)
     {
-        form.loadItems(9.5f, 4.125f, items);
-        form.show();
-        form.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
+        form.loadItems(9.5f, 4.125f, items, scale);
+        QVERIFY(showActive(&form));
     }
     template <typename T = QWidget> T *child(const QString &name) const
     {
         return form.findChild<T *>(name);
     }
-    QLabel *item(int i) const { return child<QLabel>(QStringLiteral("item_%1").arg(i)); }
-    QLabel *dot(int k) const { return child<QLabel>(QStringLiteral("dot_%1").arg(k)); }
+    QLabel *item(int i) const { return member<QLabel>(&form, QStringLiteral("item"), i); }
+    QLabel *dot(int k) const { return member<QLabel>(&form, QStringLiteral("dot"), k); }
+    QAction *entry(const char *array, int i) const
+    {
+        return member<QAction>(&form, QLatin1String(array), i);
+    }
     QLineEdit *field(int f) const
     {
         return child<QLineEdit>(FieldNames[f] + QLatin1String("_txt"));
     }
-    bool checked(const QString &name) const { return child<QAction>(name)->isChecked(); }
     // The four values the fields stand for: top, left, height, width (display twips).
     std::array<double, 4> values(int i) const
     {
@@ -89,12 +101,13 @@ struct Editor
     }
     // As the keyboard chooses: the menu opens (doing what opening it does),
     // the entry is made current and Return takes it.
-    void choose(const QString &menuName, const QString &actionName)
+    void choose(const QString &menuName, const QString &actionName, int index = -1)
     {
         auto *menu = child<QMenu>(menuName);
         menu->popup(frame->mapToGlobal(QPoint(10, 10)));
         QVERIFY(QTest::qWaitForWindowExposed(menu));
-        menu->setActiveAction(child<QAction>(actionName));
+        menu->setActiveAction(index < 0 ? child<QAction>(actionName)
+                                        : member<QAction>(&form, actionName, index));
         QTest::keyClick(menu, Qt::Key_Return);
         QTRY_VERIFY(!menu->isVisible());
     }
@@ -139,7 +152,6 @@ private:
 
 void TestPieceLayoutEditForm::init()
 {
-    display_scale = 0.5f;
     m_beeps = 0;
     setBeepHook([this] { ++m_beeps; });
 }
@@ -148,7 +160,6 @@ void TestPieceLayoutEditForm::cleanup()
 {
     setBeepHook({});
     setFontChooserHook({});
-    display_scale = 1.0f;
     QVERIFY(!QApplication::activeModalWidget());
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
 }
@@ -201,6 +212,13 @@ void TestPieceLayoutEditForm::mouseLayout()
     QFETCH(int, cursor);
 
     Editor e;
+    // A control array is found by its name: every member carries it.
+    for (const auto &[name, size] : {std::pair{"item", 5},
+                                     {"dot", 8},
+                                     {"edit_txt", 3},
+                                     {"format_justify_mnu", 4},
+                                     {"display_item_mnu", 5}})
+        QCOMPARE(e.form.findChildren<QObject *>(QLatin1String(name)).size(), size);
     QCOMPARE(e.form.twipsPerPixel(), 15.0);
     QCOMPARE(e.item(1)->geometry(), QRect(208, 84, 144, 72));
     // Texts that are no number move nothing; a refresh replaces them.
@@ -221,7 +239,7 @@ void TestPieceLayoutEditForm::mouseLayout()
     for (int f = 0; f < 4; ++f) {
         const bool wanted = refreshed.contains(QStringLiteral("TLHW")[f]);
         QCOMPARE(e.field(f)->text(),
-                 wanted ? DisplayTwipsToText(e.values(1)[size_t(f)]) : QStringLiteral("."));
+                 wanted ? DisplayTwipsToText(e.values(1)[size_t(f)], 0.5f) : QStringLiteral("."));
     }
 }
 
@@ -235,24 +253,20 @@ void TestPieceLayoutEditForm::fields_data()
     QTest::addColumn<int>("beeps");
     QTest::addColumn<int>("value"); // display twips, rounded
 
-    QTest::newRow("letters-dropped-with-beep") << 1 << "2a.5"
-                                               << "2.5" << 1 << 1800;
-    QTest::newRow("above-room-becomes-bound") << 1 << "9"
-                                              << "6.5" << 0 << 4680;
-    QTest::newRow("bound-as-the-field-shows-it") << 0 << "3"
-                                                 << "2.63" << 0 << 1894;
-    QTest::newRow("typed-decimals-kept") << 2 << "1.05"
-                                         << "1.05" << 0 << 756;
-    QTest::newRow("second-point-not-applied") << 1 << "1.2.3"
-                                              << "1.2.3" << 0 << 864;
-    QTest::newRow("arrows-step-0.03") << 0 << "1.75^^"
-                                      << "1.81" << 0 << 1303;
-    QTest::newRow("keys-step-down") << 1 << "4.33---"
-                                    << "4.24" << 0 << 3053;
-    QTest::newRow("floor-0-beeps") << 2 << "0.05vvv"
-                                   << "0." << 2 << 0;
-    QTest::newRow("ceiling-is-room-right-beeps") << 3 << "5.1++++"
-                                                 << "5.17" << 2 << 3722;
+    const auto row = [](const char *tag, int field, const char *keys, const char *text, int beeps,
+                        int value) {
+        QTest::newRow(tag) << field << QString::fromLatin1(keys) << QString::fromLatin1(text)
+                           << beeps << value;
+    };
+    row("above-room-becomes-bound", 1, "9", "6.5", 0, 4680);
+    row("bound-as-the-field-shows-it", 0, "3", "2.63", 0, 1894);
+    // Every key leaves the text as "#0.##" shows it: "1.0" becomes "1.".
+    row("each-key-rewrites-the-number", 2, "1.05", "1.5", 0, 1080);
+    row("second-point-continues", 1, "1.2.3", "1.23", 0, 886);
+    row("arrows-step-0.03", 0, "1.75^^", "1.81", 0, 1303);
+    row("keys-step-down", 1, "4.33---", "4.24", 0, 3053);
+    row("floor-0-beeps", 2, "0.1vvvvv", "0.", 2, 0);
+    row("ceiling-is-room-right-beeps", 3, "5.1++++", "5.17", 2, 3722);
 }
 
 void TestPieceLayoutEditForm::fields()
@@ -293,7 +307,7 @@ void TestPieceLayoutEditForm::modifyInPlace_data()
 
     QTest::newRow("left-item-by-menu") << 1 << "" << false << 0;
     QTest::newRow("centred-item-by-double-click") << 2 << "" << true << 2;
-    QTest::newRow("right-justified-item") << 1 << "format_justify_mnu_2" << false << 1;
+    QTest::newRow("right-justified-item") << 1 << "2" << false << 1;
 }
 
 void TestPieceLayoutEditForm::modifyInPlace()
@@ -307,13 +321,14 @@ void TestPieceLayoutEditForm::modifyInPlace()
     QLabel *label = e.item(item);
     e.click(item);
     if (!justify.isEmpty())
-        e.choose(QStringLiteral("format_mnu"), justify);
+        e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_justify_mnu"),
+                 justify.toInt());
     if (doubleClick)
         QTest::mouseDClick(e.frame, Qt::LeftButton, {}, label->geometry().topLeft() + QPoint(5, 5));
     else
         e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_modify_mnu"));
 
-    auto *box = e.child<QTextEdit>(QStringLiteral("edit_txt_%1").arg(editor));
+    auto *box = member<QTextEdit>(&e.form, QStringLiteral("edit_txt"), editor);
     QTRY_VERIFY(box->hasFocus());
     QCOMPARE(box->geometry(), label->geometry());
     QCOMPARE(box->font(), label->font());
@@ -335,20 +350,20 @@ void TestPieceLayoutEditForm::zOrder_data()
 {
     QTest::addColumn<QStringList>("commands"); // on the address
     QTest::addColumn<int>("clicked");          // the item a click in the overlap takes
-    QTest::addColumn<QString>("atCorner");     // what shows at the address's bottom-right handle
+    QTest::addColumn<int>(
+        "atCorner"); // what shows at the address's bottom-right handle: 0 the handle
 
-    QTest::newRow("selected-item-on-top") << QStringList() << 1 << "dot_8";
     QTest::newRow("send-to-back-buries-handles-too")
-        << QStringList{"edit_send_to_back_mnu"} << 4 << "item_4";
+        << QStringList{"edit_send_to_back_mnu"} << 4 << 4;
     QTest::newRow("bring-to-front-raises-item-and-handles")
-        << QStringList{"edit_send_to_back_mnu", "edit_bring_to_front_mnu"} << 1 << "dot_8";
+        << QStringList{"edit_send_to_back_mnu", "edit_bring_to_front_mnu"} << 1 << 0;
 }
 
 void TestPieceLayoutEditForm::zOrder()
 {
     QFETCH(QStringList, commands);
     QFETCH(int, clicked);
-    QFETCH(QString, atCorner);
+    QFETCH(int, atCorner);
 
     // Message 1 overlaps the address's bottom-right part.
     std::array<Item, ItemCount> items = envelopeItems();
@@ -357,10 +372,10 @@ void TestPieceLayoutEditForm::zOrder()
     Editor e(items);
     for (const QString &command : commands)
         e.choose(QStringLiteral("edit_mnu"), command);
-    QCOMPARE(e.frame->childAt(e.dot(8)->geometry().center())->objectName(), atCorner);
+    QCOMPARE(e.frame->childAt(e.dot(8)->geometry().center()),
+             atCorner ? static_cast<QWidget *>(e.item(atCorner)) : e.dot(8));
     // The handles stay above the address itself: its top-left one covers no other item.
-    QCOMPARE(e.frame->childAt(e.dot(1)->geometry().bottomRight())->objectName(),
-             QStringLiteral("dot_1"));
+    QCOMPARE(e.frame->childAt(e.dot(1)->geometry().bottomRight()), e.dot(1));
     QTest::mouseClick(e.frame, Qt::LeftButton, {}, pixels(QPointF(4500, 2000)));
     QCOMPARE(e.form.currentItem(), clicked);
 }
@@ -368,8 +383,9 @@ void TestPieceLayoutEditForm::zOrder()
 void TestPieceLayoutEditForm::formatMenu_data()
 {
     QTest::addColumn<int>("item");
-    QTest::addColumn<qint16>("border"); // the item's own value
-    QTest::addColumn<QString>("command");
+    QTest::addColumn<int>("align");       // the item's own
+    QTest::addColumn<qint16>("border");   // the item's own
+    QTest::addColumn<QString>("command"); // a justify entry's index, "B" borders, or a right click
     QTest::addColumn<int>("alignment");   // the label's, horizontally
     QTest::addColumn<int>("horzAlign");   // written back
     QTest::addColumn<qint16>("written");  // border written back
@@ -377,25 +393,29 @@ void TestPieceLayoutEditForm::formatMenu_data()
 
     const int left = Qt::AlignLeft;
     const qint16 none = 0;
-    QTest::newRow("second-entry-centres") << 1 << none << "format_justify_mnu_1"
-                                          << int(Qt::AlignHCenter) << int(haCenter) << none << "1";
-    QTest::newRow("third-entry-right") << 1 << none << "format_justify_mnu_2" << int(Qt::AlignRight)
-                                       << int(haRight) << none << "2";
+    QTest::newRow("second-entry-centres")
+        << 1 << int(haLeft) << none << "1" << int(Qt::AlignHCenter) << int(haCenter) << none << "1";
+    QTest::newRow("third-entry-right")
+        << 1 << int(haLeft) << none << "2" << int(Qt::AlignRight) << int(haRight) << none << "2";
     QTest::newRow("full-changes-nothing-stays-checked")
-        << 2 << none << "format_justify_mnu_3" << int(Qt::AlignHCenter) << int(haCenter) << none
+        << 2 << int(haCenter) << none << "3" << int(Qt::AlignHCenter) << int(haCenter) << none
         << "13";
-    QTest::newRow("borders-on") << 1 << none << "format_borders_mnu" << left << int(haLeft)
+    // The label draws it from the left: the menu ticks Left Justify.
+    QTest::newRow("fully-justified-item-ticks-left")
+        << 1 << int(haFull) << none << "" << int(Qt::AlignJustify) << int(haFull) << none << "0";
+    QTest::newRow("borders-on") << 1 << int(haLeft) << none << "B" << left << int(haLeft)
                                 << qint16(1) << "0B";
     QTest::newRow("untouched-border-kept")
-        << 1 << qint16(2) << "" << left << int(haLeft) << qint16(2) << "0B";
+        << 1 << int(haLeft) << qint16(2) << "" << left << int(haLeft) << qint16(2) << "0B";
     // A right click selects the item and opens the menu at the mouse.
-    QTest::newRow("right-click") << 4 << none << "right-click" << left << int(haLeft) << none
-                                 << "0";
+    QTest::newRow("right-click") << 4 << int(haLeft) << none << "right-click" << left << int(haLeft)
+                                 << none << "0";
 }
 
 void TestPieceLayoutEditForm::formatMenu()
 {
     QFETCH(int, item);
+    QFETCH(int, align);
     QFETCH(qint16, border);
     QFETCH(QString, command);
     QFETCH(int, alignment);
@@ -404,6 +424,7 @@ void TestPieceLayoutEditForm::formatMenu()
     QFETCH(QString, checked);
 
     std::array<Item, ItemCount> items = envelopeItems();
+    items[size_t(item - 1)].HorzAlign = eHorzAlign(align);
     items[size_t(item - 1)].Border = border;
     Editor e(items);
     const QRectF before = e.form.itemBox(item);
@@ -416,18 +437,21 @@ void TestPieceLayoutEditForm::formatMenu()
         QCOMPARE(e.child<QLabel>(QStringLiteral("item_lbl"))->text(), QStringLiteral("Message 1"));
     } else {
         e.click(item);
-        if (!command.isEmpty())
-            e.choose(QStringLiteral("format_mnu"), command);
+        if (command == QLatin1String("B"))
+            e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_borders_mnu"));
+        else if (!command.isEmpty())
+            e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_justify_mnu"),
+                     command.toInt());
         format->popup(QPoint(0, 0));
     }
     QCOMPARE(e.form.currentItem(), item);
     QVERIFY(e.dot(1)->isVisible());
     QString shown;
     for (int i = 0; i < 4; ++i) {
-        if (e.checked(QStringLiteral("format_justify_mnu_%1").arg(i)))
+        if (e.entry("format_justify_mnu", i)->isChecked())
             shown += QString::number(i);
     }
-    if (e.checked(QStringLiteral("format_borders_mnu")))
+    if (e.child<QAction>(QStringLiteral("format_borders_mnu"))->isChecked())
         shown += u'B';
     QCOMPARE(shown, checked);
     QTest::keyClick(format, Qt::Key_Escape);
@@ -461,7 +485,6 @@ void TestPieceLayoutEditForm::fontKeepsTrueSize()
     QFETCH(QString, tag);
     QFETCH(double, shownSize);
 
-    display_scale = scale;
     std::array<Item, ItemCount> items = envelopeItems();
     items[1].Font.Size = 12;
     QFont offered;
@@ -473,7 +496,7 @@ void TestPieceLayoutEditForm::fontKeepsTrueSize()
         font.setStrikeOut(true);
         return chosen;
     });
-    Editor e(items);
+    Editor e(items, scale);
     e.click(2);
     e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_font_mnu"));
     // The dialog is offered the true size, not the one on the screen.
@@ -511,7 +534,7 @@ void TestPieceLayoutEditForm::display()
 
     Editor e;
     for (int entry : toggles)
-        e.choose(QStringLiteral("display_mnu"), QStringLiteral("display_item_mnu_%1").arg(entry));
+        e.choose(QStringLiteral("display_mnu"), QStringLiteral("display_item_mnu"), entry);
     QString shown;
     for (int i = 1; i <= ItemCount; ++i)
         shown += e.item(i)->isVisible() ? u'1' : u'0';
@@ -570,21 +593,20 @@ void TestPieceLayoutEditForm::modalResult()
     const std::array<Item, ItemCount> original = envelopeItems();
     ModalDriver driver;
     QPointF dropped;
+    float scale = 0;
     driver.onModal(QStringLiteral("piece_layout_edit_form"), [&](QDialog *dialog) {
         auto *form = static_cast<piece_layout_edit_form *>(dialog);
         auto *frame = form->findChild<QWidget *>(QStringLiteral("piece_frame"));
+        scale = form->displayScale();
         if (dragFirst) {
             const QPoint from =
-                form->findChild<QLabel *>(QStringLiteral("item_1"))->pos() + QPoint(4, 4);
+                member<QLabel>(form, QStringLiteral("item"), 1)->pos() + QPoint(4, 4);
             QTest::mousePress(frame, Qt::LeftButton, {}, from);
             QTest::mouseMove(frame, from + QPoint(-30, 10));
             QTest::mouseRelease(frame, Qt::LeftButton, {}, from + QPoint(-30, 10));
         }
         dropped = form->itemBox(1).topLeft();
-        if (closeWith == QLatin1String("escape"))
-            QTest::keyClick(dialog, Qt::Key_Escape);
-        else
-            dialog->findChild<QPushButton *>(closeWith)->click();
+        ModalDriver::close(dialog, closeWith);
     });
     std::array<Item, ItemCount> items = original;
     QCOMPARE(EditPieceLayout(nullptr, 9.5f, 4.125f, items), accepted);
@@ -595,14 +617,14 @@ void TestPieceLayoutEditForm::modalResult()
     // holds the envelope at full size.
     const int screenWidth = QGuiApplication::primaryScreen()->availableGeometry().width();
     if (screenWidth == 800)
-        QCOMPARE(display_scale, 0.85f);
+        QCOMPARE(scale, 0.85f);
     else if (screenWidth >= 912)
-        QCOMPARE(display_scale, 1.0f);
+        QCOMPARE(scale, 1.0f);
 
     std::array<Item, ItemCount> expected = original;
     if (accepted && dragFirst) {
-        expected[0].Left = float(dropped.x() / display_scale / 1440);
-        expected[0].Top = float(dropped.y() / display_scale / 1440);
+        expected[0].Left = float(dropped.x() / scale / 1440);
+        expected[0].Top = float(dropped.y() / scale / 1440);
         QVERIFY(expected[0].Left < original[0].Left);
     }
     for (int i = 0; i < ItemCount; ++i)

@@ -14,7 +14,6 @@ class TestUnits : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { display_scale = 1.0f; }
     void formatNumber_data();
     void formatNumber();
     void displayTwipsToText_data();
@@ -78,13 +77,13 @@ void TestUnits::displayTwipsToText()
     QFETCH(float, scale);
     QFETCH(double, twips);
     QFETCH(QString, expected);
-    display_scale = scale;
     if (scale <= 0)
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("display_scale")));
-    QCOMPARE(DisplayTwipsToText(twips), expected);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("display scale")));
+    QCOMPARE(DisplayTwipsToText(twips, scale), expected);
     // A length placed on the editor's surface shows as itself.
     if (scale > 0)
-        QCOMPARE(DisplayTwipsToText(InchesToDisplayTwips(4.333)), QStringLiteral("4.33"));
+        QCOMPARE(DisplayTwipsToText(InchesToDisplayTwips(4.333, scale), scale),
+                 QStringLiteral("4.33"));
 }
 
 void TestUnits::tiesGiveTheSecondArgument()
