@@ -3,6 +3,7 @@
 //
 // The control's about box, opened through its real modal loop.
 #include "modaldriver.h"
+#include "nowindowleft.h"
 
 #include "control/quirra.h"
 #include "model/piecemodel.h"
@@ -19,7 +20,7 @@ class TestAboutBox : public QObject
 
 private Q_SLOTS:
     void init() { PieceModel::resetShared(); }
-    void cleanup() { qDeleteAll(QApplication::topLevelWidgets()); }
+    void cleanup() { verifyNoWindowLeft(); }
 
     void showsAndClosesOnItsButton_data();
     void showsAndClosesOnItsButton();

@@ -106,6 +106,8 @@ void TestSpoolWriter::linesOnDisk_data()
         << QByteArray("Ann||The \"Old\" Mill||||||||") << "nm_last.*double quote";
     QTest::newRow("line-break-warned") << ";;;1 Elm\nSt" << QByteArray("|||1 Elm\nSt|||||||")
                                        << "addr_1.*line break";
+    QTest::newRow("values-past-the-last-column-dropped") << "a;;;;;;;;;;s;past;past"
+                                                         << QByteArray("a||||||||||s") << "";
 }
 
 void TestSpoolWriter::linesOnDisk()
@@ -118,6 +120,9 @@ void TestSpoolWriter::linesOnDisk()
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
     }
     fixture::feed({record});
+    const Record r = fixture::record(record);
+    QCOMPARE(r.value(RecordField(RecordFieldCount)), QString()); // out of range: nothing
+    QCOMPARE(r.value(RecordField(-1)), QString());
     const QByteArray expected = fixture::Header + '"' + line.replace('|', "\",\"") + "\"\r\n";
     QCOMPARE(fixture::contents(m_path), expected);
 }
