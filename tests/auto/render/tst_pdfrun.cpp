@@ -6,6 +6,7 @@
 #include "spoolfixture.h"
 
 #include "catalogue/pieceloader.h"
+#include "render/messagehook.h"
 #include "render/pdfexport.h"
 #include "render/printrun.h"
 
@@ -100,6 +101,13 @@ void TestPdfRun::labelsLandWhereTheSheetHasThem()
     for (const pdfprobe::Line &l : pdfprobe::lines(pdf))
         cityLine = cityLine || l.text.startsWith(QLatin1String("Springfield, IL 62704"));
     QVERIFY(cityLine);
+
+    // A file that cannot be written is the printer's error: nothing is drawn.
+    setMessageHook([](const QString &) {});
+    const PdfRunResult failed = PrintSpoolToPdf(QStringLiteral("/quirra-no-such-dir/x.pdf"), model,
+                                                SharedSpool::instance().reader());
+    setMessageHook({});
+    QVERIFY(failed.errorCode != 0 && failed.pieces == 0);
 }
 
 void TestPdfRun::itemPlacement_data()
