@@ -3,7 +3,7 @@
 //
 // The three piece dialogs, driven through their real modal loops, opened by
 // the control's methods and by the buttons of the property page, which
-// works on a copy until it is applied.
+// works on a copy until it is applied; and the about box.
 #include "controlsteps.h"
 #include "modaldriver.h"
 #include "nowindowleft.h"
@@ -11,6 +11,8 @@
 #include "control/itemlayout.h"
 #include "control/quirra.h"
 #include "model/piecemodel.h"
+
+#include <QLabel>
 
 using namespace quirra;
 using namespace steps;
@@ -41,6 +43,7 @@ void TestPieceDialogs::dialogShow_data()
                 << QStringLiteral("piece_%1_form").arg(form) << ok << onPage;
         }
     }
+    QTest::newRow("about-box") << "about_box" << true << false;
 }
 
 void TestPieceDialogs::dialogShow()
@@ -56,8 +59,13 @@ void TestPieceDialogs::dialogShow()
     QSignalSpy changes(&control, &Quirra::propertyChanged);
 
     ModalDriver driver;
+    QString shown;
     driver.onModal(form, [&](QDialog *dialog) {
-        if (form == QLatin1String("piece_select_form")) {
+        if (form == QLatin1String("about_box")) {
+            QVERIFY(dialog->isModal() && dialog->parentWidget() == &control);
+            for (QLabel *label : dialog->findChildren<QLabel *>())
+                shown += label->text() + QLatin1Char('\n');
+        } else if (form == QLatin1String("piece_select_form")) {
             pickPiece(dialog, QStringLiteral("Envelopes"), QStringLiteral("Size 10 - Envelope"));
         } else if (form == QLatin1String("piece_customization_form")) {
             auto *pageSize = dialog->findChild<QComboBox *>(QStringLiteral("page_size_cbo"));
@@ -95,6 +103,10 @@ void TestPieceDialogs::dialogShow()
         }
         changed = true;
         changes.clear();
+    } else if (form == QLatin1String("about_box")) {
+        control.show();
+        control.ShowAboutBox();
+        changed = true;
     } else if (form == QLatin1String("piece_select_form")) {
         control.PieceSelectDialogShow(changed);
     } else if (form == QLatin1String("piece_customization_form")) {
@@ -109,6 +121,12 @@ void TestPieceDialogs::dialogShow()
     if (!ok) {
         QVERIFY(PieceModel::shared() == before);
         QCOMPARE(changes.size(), 0);
+        return;
+    }
+    if (form == QLatin1String("about_box")) {
+        QVERIFY2(shown.contains(QLatin1String("QuirraControl")) &&
+                     shown.contains(QLatin1String(QUIRRA_EXPECTED_VERSION)),
+                 qPrintable(shown));
         return;
     }
     if (form == QLatin1String("piece_layout_edit_form")) {
