@@ -19,6 +19,7 @@ private Q_SLOTS:
     void slotPlacement_data();
     void slotPlacement();
     void zeroAcrossIsADivisionError();
+    void sharedModelIsOneForTheProcess();
     void int16Overflow_data();
     void int16Overflow();
 };
@@ -108,6 +109,20 @@ void TestPiece::zeroAcrossIsADivisionError()
     } catch (const Error &e) {
         QVERIFY2(e.message().contains(QLatin1String("PieceNumAcross")), e.what());
     }
+}
+
+void TestPiece::sharedModelIsOneForTheProcess()
+{
+    PieceModel &a = PieceModel::shared();
+    a.item(ItemId::Address).Top = 1.25f;
+    a.piece.PieceName = QStringLiteral("5160 - Address Labels");
+    QCOMPARE(PieceModel::shared().item(ItemId::Address).Top, 1.25f);
+
+    PieceModel::resetShared();
+    QCOMPARE(PieceModel::shared().item(ItemId::Address).Top, 0.f);
+    QCOMPARE(PieceModel::shared().piece.PieceName, DefaultPieceName);
+    QCOMPARE(PieceModel::shared().piece.PrinterLeft, 0.25f);
+    QCOMPARE(int(PieceModel::shared().EnvelopeOrientation), int(eoLandscape));
 }
 
 void TestPiece::int16Overflow_data()

@@ -128,6 +128,8 @@ void TestPrintRun::pagination_data()
 
     QTest::newRow("seven-on-three-by-two-spill-one")
         << 7 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")};
+    QTest::newRow("eight-on-three-by-two-spill-two")
+        << 8 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360")};
     QTest::newRow("six-on-three-by-two-fill-one-page")
         << 6 << 3 << 2 << 1
         << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360"),
