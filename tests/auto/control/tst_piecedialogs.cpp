@@ -96,6 +96,12 @@ void TestPieceDialogs::dialogShow()
         QCOMPARE(marks.size(), changed ? 1 : 0);
         QVERIFY(PieceModel::shared() == before); // only the copy changed
         QCOMPARE(changes.size(), 0);
+        const PieceModel &copy = page.workingCopy().model();
+        if (ok && form == QLatin1String("piece_select_form"))
+            QCOMPARE(page.findChild<QLabel *>(QStringLiteral("lblPName"))->text(),
+                     QStringLiteral("Size 10 - Envelope"));
+        if (form == QLatin1String("piece_customization_form")) // the items stay where they were
+            QVERIFY(copy.items == before.items);
         page.applyChanges();
         if (!ok) {
             QVERIFY(PieceModel::shared() == before);
