@@ -132,11 +132,11 @@ void TestPrintRun::pagination_data()
         << 8 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360")};
     QTest::newRow("six-on-three-by-two-fill-one-page")
         << 6 << 3 << 2 << 1
-        << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360"),
-                       QStringLiteral("7560 360"), QStringLiteral("360 2160"),
+        << QStringList{QStringLiteral("360 360"),   QStringLiteral("3960 360"),
+                       QStringLiteral("7560 360"),  QStringLiteral("360 2160"),
                        QStringLiteral("3960 2160"), QStringLiteral("7560 2160")};
-    QTest::newRow("envelope-one-page-each") << 3 << 1 << 1 << 3
-                                            << QStringList{QStringLiteral("360 360")};
+    QTest::newRow("envelope-one-page-each")
+        << 3 << 1 << 1 << 3 << QStringList{QStringLiteral("360 360")};
     QTest::newRow("no-records-no-pages-drawn") << 0 << 3 << 2 << 1 << QStringList();
 }
 
@@ -169,8 +169,8 @@ void TestPrintRun::pagination()
     for (int i = lastPage + 1; i < surface.calls.size(); ++i) {
         const QString &c = surface.calls.at(i);
         if (c.startsWith(QLatin1String("box ["))) {
-            const QStringList parts = c.section(QLatin1Char(']'), 1).split(QLatin1Char(' '),
-                                                                            Qt::SkipEmptyParts);
+            const QStringList parts =
+                c.section(QLatin1Char(']'), 1).split(QLatin1Char(' '), Qt::SkipEmptyParts);
             boxes.append(parts.at(0) + QLatin1Char(' ') + parts.at(1));
         }
     }
@@ -194,8 +194,8 @@ void TestPrintRun::tokensAndTemplates()
 
     const QStringList drawn = surface.calls.filter(QRegularExpression(QStringLiteral("^box \\[.")));
     QCOMPARE(drawn.size(), 4);
-    QVERIFY2(drawn.at(0).startsWith(QLatin1String(
-                 "box [John Q. Public/12 Main St/Springfield,  IL  62704]")),
+    QVERIFY2(drawn.at(0).startsWith(
+                 QLatin1String("box [John Q. Public/12 Main St/Springfield,  IL  62704]")),
              qPrintable(drawn.at(0)));
     QVERIFY2(drawn.at(1).startsWith(QLatin1String("box [Dear Sir,]")), qPrintable(drawn.at(1)));
     // No street lines: the name sits right above the city line; the token stays unreplaced.
@@ -258,7 +258,8 @@ void TestPrintRun::borderAndJustify()
     RecordingSurface framed;
     DrawItem(item, piece, 1, framed);
     QVERIFY(framed.calls.contains(QStringLiteral("align 9"))); // justified, in the surface's code
-    const int frame = int(framed.calls.indexOf(QRegularExpression(QStringLiteral("^box \\[\\].*border=1"))));
+    const int frame =
+        int(framed.calls.indexOf(QRegularExpression(QStringLiteral("^box \\[\\].*border=1"))));
     QVERIFY(frame > 0);
     QCOMPARE(framed.calls.at(frame - 1), QStringLiteral("penWidth 10"));
     QVERIFY(framed.calls.last().startsWith(QLatin1String("box [x]")));
@@ -295,8 +296,8 @@ void TestPrintRun::positionsClampAtTheEdge()
     item.Width = 1.f;
     item.Height = 1.f;
     const ItemBox box = itemBoxOnSurface(item, piece, 1, 0);
-    QCOMPARE(box.left, 0);    // 144 - 360 would fall off the page
-    QCOMPARE(box.top, 360);   // 720 - 360
+    QCOMPARE(box.left, 0);  // 144 - 360 would fall off the page
+    QCOMPARE(box.top, 360); // 720 - 360
     // The surface's left margin is taken off as well.
     QCOMPARE(itemBoxOnSurface(item, piece, 2, 100).left, 0);
     piece.PieceNumAcross = 2;
