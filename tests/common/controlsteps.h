@@ -81,7 +81,7 @@ inline QVariant distinctValue(const quirra::PropertyInfo &property, int seed)
     case QMetaType::Int: // the alignments and the envelope's orientation
         return QVariant(seed % 3);
     case QMetaType::QString:
-        return QVariant(QStringLiteral("text %1").arg(seed));
+        return QVariant(QStringLiteral("text %1\r\n2nd line").arg(seed)); // a break survives too
     default: {
         QFont font(seed % 2 ? QStringLiteral("DejaVu Sans") : QStringLiteral("Liberation Serif"));
         font.setPointSize(6 + seed % 20);
