@@ -3,7 +3,6 @@
 #include "catalogue/catalogue.h"
 
 #include <QFile>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -42,7 +41,6 @@ private Q_SLOTS:
     void lists_data();
     void lists();
     void paperSizes();
-    void binaryFileReadsAsEmpty();
     void catalogueFilePath();
 };
 
@@ -155,25 +153,6 @@ void TestCatalogue::paperSizes()
         ReadPaperSize(int(size[0]), w, h);
         QCOMPARE(QList<float>({size[0], w, h}), size);
     }
-}
-
-void TestCatalogue::binaryFileReadsAsEmpty()
-{
-    QTemporaryDir dir;
-    QFile f(dir.filePath(QStringLiteral("quirra.cfg")));
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    QRandomGenerator random(7);
-    for (int i = 0; i < 64 * 1024; ++i) {
-        const quint32 word = random.generate();
-        f.write(reinterpret_cast<const char *>(&word), sizeof word);
-    }
-    f.close();
-    qputenv("QUIRRA_SYSTEM_DIR", dir.path().toUtf8());
-    qputenv("QUIRRA_PAPER_CATALOGUE", f.fileName().toUtf8());
-    QCOMPARE(ReadPieceSpec(f.fileName(), QStringLiteral("Acme 30-up")).NumAcross, qint16(0));
-    QCOMPARE(ReadProductList(f.fileName(), LaserFamilySection), QStringList());
-    QCOMPARE(ReadPieceType(QStringLiteral("Acme 30-up")), int(PieceTypeCut));
-    QCOMPARE(ReadPaperSizeCaptions(), QStringList());
 }
 
 void TestCatalogue::catalogueFilePath()

@@ -2,42 +2,25 @@
 // SPDX-License-Identifier: MIT
 //
 // The property page on a control: what it reads, what Apply writes and in
-// which order, the miniature, the three dialogs on the working copy, and the
-// control's own layout editor method.
+// which order, the miniature, the layout editor's refusal and the sheet.
+#include "controlsteps.h"
 #include "modaldriver.h"
+#include "nowindowleft.h"
 
 #include "control/itemlayout.h"
 #include "control/propertysheet.h"
 #include "control/propertytable.h"
 #include "control/quirra.h"
-#include "dialogs/piece_layout_edit_form.h"
 #include "model/piecemodel.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
-#include <QSignalSpy>
-#include <QTest>
 
 using namespace quirra;
+using namespace steps;
 
 namespace {
-
-const QStringList Fields = {"Border", "Font", "Height",    "HorzAlign", "Left",  "LineSpacing",
-                            "Text",   "Top",  "VertAlign", "Visible",   "Width", "Wrap"};
-
-QStringList itemNames(const QStringList &items)
-{
-    QStringList names;
-    for (const QString &item : items) {
-        for (const QString &field : Fields)
-            names.append(item + field);
-    }
-    return names;
-}
 
 // What Apply writes whatever the page holds, in its order.
 QStringList applyOrder()
@@ -47,66 +30,6 @@ QStringList applyOrder()
                        "PieceHeight",  "PieceWidth",       "PiecePitchHorz", "PiecePitchVert",
                        "PrinterLeft",  "PrinterTop"} +
            itemNames({"Address", "Return", "Message1", "Message2", "Stamp"});
-}
-
-QStringList emitted(const QSignalSpy &spy)
-{
-    QStringList names;
-    for (const QList<QVariant> &arguments : spy)
-        names.append(arguments.at(0).toString());
-    return names;
-}
-
-// A value of the property's saved type that differs for every seed.
-QVariant distinctValue(const PropertyInfo &property, int seed)
-{
-    switch (property.savedType.id()) {
-    case QMetaType::Float:
-        return QVariant::fromValue(0.125f * float(seed % 40 + 1));
-    case QMetaType::Short:
-        return QVariant::fromValue(short(seed % 300 + 2));
-    case QMetaType::Bool:
-        return QVariant(seed % 2 == 0);
-    case QMetaType::Int: // the alignments
-        return QVariant(seed % 3);
-    case QMetaType::QString:
-        return QVariant(QStringLiteral("text %1").arg(seed));
-    default: {
-        QFont font(seed % 2 ? QStringLiteral("DejaVu Sans") : QStringLiteral("Liberation Serif"));
-        font.setPointSize(6 + seed % 20);
-        font.setBold(seed % 3 == 0);
-        return QVariant::fromValue(font);
-    }
-    }
-}
-
-void click(QWidget *parent, const char *name)
-{
-    auto *button = parent->findChild<QAbstractButton *>(QLatin1String(name));
-    QVERIFY2(button, name);
-    QTest::mouseClick(button, Qt::LeftButton);
-}
-
-void pickPiece(QDialog *dialog, const QString &product, const QString &piece)
-{
-    auto *products = dialog->findChild<QComboBox *>(QStringLiteral("product_cbo"));
-    auto *list = dialog->findChild<QListWidget *>(QStringLiteral("piece_lst"));
-    QVERIFY(products && list);
-    products->setCurrentIndex(products->findText(product));
-    const QList<QListWidgetItem *> found = list->findItems(piece, Qt::MatchExactly);
-    QVERIFY2(!found.isEmpty(), qPrintable(piece));
-    list->setCurrentItem(found.first());
-}
-
-// In the layout editor: pick item (1..5) and type a length into a field.
-void editField(QDialog *dialog, int item, const char *field, const QString &inches)
-{
-    auto *form = qobject_cast<piece_layout_edit_form *>(dialog);
-    QVERIFY(form);
-    form->selectItem(item);
-    auto *edit = dialog->findChild<QLineEdit *>(QLatin1String(field));
-    QVERIFY2(edit, field);
-    edit->setText(inches);
 }
 
 QString text(const ItemLayout &page, const char *label)
@@ -122,7 +45,7 @@ class TestItemLayout : public QObject
 
 private Q_SLOTS:
     void init() { PieceModel::resetShared(); }
-    void cleanup() { qDeleteAll(QApplication::topLevelWidgets()); }
+    void cleanup() { verifyNoWindowLeft(); }
 
     void applyWritesInOrder_data();
     void applyWritesInOrder();
@@ -131,13 +54,9 @@ private Q_SLOTS:
     void itemInformation();
     void miniatureInProportion_data();
     void miniatureInProportion();
-    void dialogsWorkOnTheCopy_data();
-    void dialogsWorkOnTheCopy();
     void doubleClickEditsAndMarksChanged();
     void tooLargeAPieceIsRefused();
     void sheetAppliesAndClearsTheMark();
-    void layoutDialogShow_data();
-    void layoutDialogShow();
 };
 
 void TestItemLayout::applyWritesInOrder_data()
@@ -303,83 +222,6 @@ void TestItemLayout::miniatureInProportion()
     }
 }
 
-void TestItemLayout::dialogsWorkOnTheCopy_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("close");
-    QTest::newRow("selection-cancelled") << "btnDotDotDot"
-                                         << "cancel_btn";
-    QTest::newRow("selection-accepted") << "btnDotDotDot"
-                                        << "ok_btn";
-    QTest::newRow("customization-cancelled") << "btnPieceCust"
-                                             << "cancel_btn";
-    QTest::newRow("customization-accepted") << "btnPieceCust"
-                                            << "ok_btn";
-    QTest::newRow("layout-editor-cancelled") << "btnPieceLayout"
-                                             << "cancel_btn";
-    QTest::newRow("layout-editor-accepted") << "btnPieceLayout"
-                                            << "ok_btn";
-}
-
-void TestItemLayout::dialogsWorkOnTheCopy()
-{
-    QFETCH(QString, button);
-    QFETCH(QString, close);
-    const bool accepted = close == QLatin1String("ok_btn");
-    Quirra control;
-    ItemLayout page;
-    page.setSelectedControls({&control});
-    page.show();
-    const PieceModel shared = PieceModel::shared();
-    QSignalSpy marks(&page, &ItemLayout::changedMarkChanged);
-    QSignalSpy notices(&control, &Quirra::propertyChanged);
-
-    // Each dialog is changed, then closed by the row's button.
-    ModalDriver driver;
-    const auto closeWith = [close](QDialog *dialog) { click(dialog, qPrintable(close)); };
-    driver.onModal(QStringLiteral("piece_select_form"), [=](QDialog *dialog) {
-        pickPiece(dialog, QStringLiteral("Address Labels (US Letter)"),
-                  QStringLiteral("5160 - Address Labels"));
-        closeWith(dialog);
-    });
-    driver.onModal(QStringLiteral("piece_customization_form"), [=](QDialog *dialog) {
-        dialog->findChild<QLineEdit *>(QStringLiteral("nr_down_txt"))->setText(QStringLiteral("2"));
-        closeWith(dialog);
-    });
-    driver.onModal(QStringLiteral("piece_layout_edit_form"), [=](QDialog *dialog) {
-        editField(dialog, 3, "left_txt", QStringLiteral("0.5")); // the stamp
-        closeWith(dialog);
-    });
-    click(&page, qPrintable(button));
-    QVERIFY(!driver.watchdogFired());
-    QCOMPARE(driver.actionsRun(), 1);
-
-    const PieceModel &copy = page.workingCopy().model();
-    if (!accepted) {
-        QVERIFY(copy.piece == shared.piece && copy.items == shared.items);
-    } else if (button == QLatin1String("btnDotDotDot")) {
-        QCOMPARE(copy.piece.PieceName, QStringLiteral("5160 - Address Labels"));
-        QCOMPARE(int(copy.piece.PieceNumAcross), 3);
-        QCOMPARE(text(page, "lblPName"), QStringLiteral("5160 - Address Labels"));
-        QCOMPARE(text(page, "lblPWidth"), QStringLiteral("Width = 2.625"));
-    } else if (button == QLatin1String("btnPieceCust")) {
-        QCOMPARE(int(copy.piece.PieceNumDown), 2);
-        QCOMPARE(int(copy.piece.IsCustom), 1);
-        QVERIFY(copy.items == shared.items); // the items stay where they were
-    } else {
-        QCOMPARE(copy.item(ItemId::Stamp).Left, 0.5f);
-    }
-    // Only an accepted piece dialog marks the page; the editor's button does not.
-    const bool marked = accepted && button != QLatin1String("btnPieceLayout");
-    QCOMPARE(page.isChanged(), marked);
-    QCOMPARE(marks.size(), marked ? 1 : 0);
-    QVERIFY(PieceModel::shared() == shared);
-    QCOMPARE(notices.size(), 0);
-
-    page.applyChanges();
-    QVERIFY(PieceModel::shared().piece == copy.piece && PieceModel::shared().items == copy.items);
-}
-
 void TestItemLayout::doubleClickEditsAndMarksChanged()
 {
     Quirra control;
@@ -444,39 +286,6 @@ void TestItemLayout::sheetAppliesAndClearsTheMark()
     QVERIFY(!driver.watchdogFired());
     QCOMPARE(applied.size(), 1);
     QCOMPARE(control.PieceName(), QStringLiteral("Size 10 - Envelope"));
-}
-
-void TestItemLayout::layoutDialogShow_data()
-{
-    QTest::addColumn<QString>("close");
-    QTest::newRow("ok-writes-every-item") << "ok_btn";
-    QTest::newRow("cancel-writes-nothing") << "cancel_btn";
-}
-
-void TestItemLayout::layoutDialogShow()
-{
-    QFETCH(QString, close);
-    Quirra control;
-    const PieceModel before = PieceModel::shared();
-    QSignalSpy spy(&control, &Quirra::propertyChanged);
-    ModalDriver driver;
-    driver.onModal(QStringLiteral("piece_layout_edit_form"), [&](QDialog *dialog) {
-        editField(dialog, 4, "top_txt", QStringLiteral("1.5")); // Message1
-        click(dialog, qPrintable(close));
-    });
-    bool changed = close != QLatin1String("ok_btn");
-    control.PieceLayoutDialogShow(changed);
-
-    QVERIFY(!driver.watchdogFired());
-    if (close == QLatin1String("ok_btn")) {
-        QVERIFY(changed);
-        QVERIFY(qAbs(control.Message1Top() - 1.5f) < 0.01f);
-        QCOMPARE(emitted(spy), itemNames({"Address", "Return", "Stamp", "Message1", "Message2"}));
-    } else {
-        QVERIFY(!changed);
-        QVERIFY(PieceModel::shared() == before);
-        QCOMPARE(spy.size(), 0);
-    }
 }
 
 QTEST_MAIN(TestItemLayout)

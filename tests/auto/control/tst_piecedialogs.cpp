@@ -1,40 +1,21 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
 //
-// The control's two piece dialogs, driven through their real modal loops.
+// The three piece dialogs, driven through their real modal loops, opened by
+// the control's methods and by the buttons of the property page, which
+// works on a copy until it is applied; and the about box.
+#include "controlsteps.h"
 #include "modaldriver.h"
+#include "nowindowleft.h"
 
+#include "control/itemlayout.h"
 #include "control/quirra.h"
 #include "model/piecemodel.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QSignalSpy>
-#include <QTest>
+#include <QLabel>
 
 using namespace quirra;
-
-namespace {
-void click(QDialog *dialog, const char *button)
-{
-    auto *b = dialog->findChild<QAbstractButton *>(QLatin1String(button));
-    QVERIFY(b);
-    QTest::mouseClick(b, Qt::LeftButton);
-}
-
-void pickPiece(QDialog *dialog, const QString &name)
-{
-    auto *list = dialog->findChild<QListWidget *>(QStringLiteral("piece_lst"));
-    QVERIFY(list);
-    const QList<QListWidgetItem *> found = list->findItems(name, Qt::MatchExactly);
-    QVERIFY2(!found.isEmpty(), qPrintable(name));
-    list->setCurrentItem(found.first());
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                      list->visualItemRect(found.first()).center());
-}
-} // namespace
+using namespace steps;
 
 class TestPieceDialogs : public QObject
 {
@@ -42,104 +23,141 @@ class TestPieceDialogs : public QObject
 
 private Q_SLOTS:
     void init() { PieceModel::resetShared(); }
+    void cleanup() { verifyNoWindowLeft(); }
 
-    void selectingAPieceAppliesIt_data();
-    void selectingAPieceAppliesIt();
-    void customizingMarksThePieceCustom();
-    void cancelChangesNothing();
+    void dialogShow_data();
+    void dialogShow();
 };
 
-void TestPieceDialogs::selectingAPieceAppliesIt_data()
+void TestPieceDialogs::dialogShow_data()
 {
-    QTest::addColumn<QString>("product");
-    QTest::addColumn<QString>("piece");
-    QTest::addColumn<int>("across");
-    QTest::addColumn<int>("down");
-    QTest::newRow("label-sheet") << "Address Labels (US Letter)" << "5160 - Address Labels" << 3
-                                 << 10;
-    QTest::newRow("another-envelope") << "Envelopes" << "Size 10 - Envelope" << 1 << 1;
+    QTest::addColumn<QString>("form");
+    QTest::addColumn<bool>("ok");
+    QTest::addColumn<bool>("onPage");
+    for (const QString form : {"select", "customization", "layout_edit"}) {
+        for (const int row : {0, 1, 2, 3}) {
+            const bool ok = row < 2, onPage = row % 2;
+            const QString tag = form + (ok ? QStringLiteral("-ok") : QStringLiteral("-cancel")) +
+                                (onPage ? QStringLiteral("-on-the-page") : QString());
+            QTest::newRow(qPrintable(tag))
+                << QStringLiteral("piece_%1_form").arg(form) << ok << onPage;
+        }
+    }
+    QTest::newRow("about-box") << "about_box" << true << false;
 }
 
-void TestPieceDialogs::selectingAPieceAppliesIt()
+void TestPieceDialogs::dialogShow()
 {
-    QFETCH(QString, product);
-    QFETCH(QString, piece);
-    QFETCH(int, across);
-    QFETCH(int, down);
+    QFETCH(QString, form);
+    QFETCH(bool, ok);
+    QFETCH(bool, onPage);
     Quirra control;
-    control.PieceName(QStringLiteral("5163 - Shipping Labels"));
+    if (!form.contains(QLatin1String("layout")))
+        control.PieceName(QStringLiteral("5160 - Address Labels"));
     control.ReturnText(QStringLiteral("ACME Mail"));
+    const PieceModel before = PieceModel::shared();
     QSignalSpy changes(&control, &Quirra::propertyChanged);
 
     ModalDriver driver;
-    driver.onModal(QStringLiteral("piece_select_form"), [&](QDialog *dialog) {
-        auto *products = dialog->findChild<QComboBox *>(QStringLiteral("product_cbo"));
-        QVERIFY(products);
-        products->setCurrentIndex(products->findText(product));
-        pickPiece(dialog, piece);
-        click(dialog, "ok_btn");
+    QString shown;
+    driver.onModal(form, [&](QDialog *dialog) {
+        if (form == QLatin1String("about_box")) {
+            QVERIFY(dialog->isModal() && dialog->parentWidget() == &control);
+            for (QLabel *label : dialog->findChildren<QLabel *>())
+                shown += label->text() + QLatin1Char('\n');
+        } else if (form == QLatin1String("piece_select_form")) {
+            pickPiece(dialog, QStringLiteral("Envelopes"), QStringLiteral("Size 10 - Envelope"));
+        } else if (form == QLatin1String("piece_customization_form")) {
+            auto *pageSize = dialog->findChild<QComboBox *>(QStringLiteral("page_size_cbo"));
+            QVERIFY(pageSize);
+            pageSize->setCurrentIndex(
+                pageSize->findText(QStringLiteral("Letter (8 1/2 x 11 in.)")));
+            auto *down = dialog->findChild<QLineEdit *>(QStringLiteral("nr_down_txt"));
+            QVERIFY(down);
+            down->selectAll();
+            QTest::keyClicks(down, QStringLiteral("9"));
+        } else {
+            editField(dialog, 4, "top_txt", QStringLiteral("1.5")); // Message1
+        }
+        click(dialog, ok ? "ok_btn" : "cancel_btn");
     });
-    bool changed = false;
-    control.PieceSelectDialogShow(changed);
-
-    QVERIFY(!driver.watchdogFired());
-    QVERIFY(changed);
-    QCOMPARE(control.PieceName(), piece);
-    QCOMPARE(int(control.PieceNumAcross()), across);
-    QCOMPARE(int(control.PieceNumDown()), down);
-    QCOMPARE(int(control.IsCustom()), 0);
-    // Applying a piece lays the items out afresh and says so: the piece's
-    // fourteen names and all sixty item properties follow the name.
-    QVERIFY(changes.size() >= 1 + 14 + 60);
-    QCOMPARE(changes.last().first().toString(), QStringLiteral("Message2Wrap"));
-    QCOMPARE(control.ReturnText(), QStringLiteral("ACME Mail")); // the user's text survives
-}
-
-void TestPieceDialogs::customizingMarksThePieceCustom()
-{
-    Quirra control;
-    control.PieceName(QStringLiteral("5160 - Address Labels"));
-    ModalDriver driver;
-    driver.onModal(QStringLiteral("piece_customization_form"), [&](QDialog *dialog) {
-        auto *pageSize = dialog->findChild<QComboBox *>(QStringLiteral("page_size_cbo"));
-        QVERIFY(pageSize);
-        pageSize->setCurrentIndex(pageSize->findText(QStringLiteral("Letter (8 1/2 x 11 in.)")));
-        auto *down = dialog->findChild<QLineEdit *>(QStringLiteral("nr_down_txt"));
-        QVERIFY(down);
-        down->selectAll();
-        QTest::keyClicks(down, QStringLiteral("9"));
-        click(dialog, "ok_btn");
-    });
-    bool changed = false;
-    control.PieceCustomizationDialogShow(changed);
-
-    QVERIFY(!driver.watchdogFired());
-    QVERIFY(changed);
-    QCOMPARE(int(control.PieceNumDown()), 9);
-    QCOMPARE(int(control.PieceNumAcross()), 3);
-    QCOMPARE(int(control.IsCustom()), 1);
-    QCOMPARE(control.PageSize(), QStringLiteral("Letter (8 1/2 x 11 in.)"));
-    QCOMPARE(int(control.PageSizeNum()), 1);
-    QCOMPARE(int(control.PieceOrientation()), 0); // 8.31 in across, 9.5 in down
-}
-
-void TestPieceDialogs::cancelChangesNothing()
-{
-    Quirra control;
-    control.PieceName(QStringLiteral("5160 - Address Labels"));
-    const PieceModel before = PieceModel::shared();
-    for (const char *form : {"piece_select_form", "piece_customization_form"}) {
-        ModalDriver driver;
-        driver.onModal(QLatin1String(form), [](QDialog *dialog) { click(dialog, "cancel_btn"); });
-        bool changed = true;
-        if (QByteArray(form) == "piece_select_form")
-            control.PieceSelectDialogShow(changed);
-        else
-            control.PieceCustomizationDialogShow(changed);
-        QVERIFY(!driver.watchdogFired());
-        QVERIFY2(!changed, form);
-        QVERIFY2(PieceModel::shared() == before, form);
+    bool changed = !ok;
+    if (onPage) {
+        ItemLayout page;
+        page.setSelectedControls({&control});
+        page.show();
+        QSignalSpy marks(&page, &ItemLayout::changedMarkChanged);
+        click(&page, form == QLatin1String("piece_select_form")        ? "btnDotDotDot"
+                     : form == QLatin1String("piece_layout_edit_form") ? "btnPieceLayout"
+                                                                       : "btnPieceCust");
+        // Only an accepted piece dialog marks the page; the editor's button does not.
+        changed = ok && !form.contains(QLatin1String("layout"));
+        QCOMPARE(page.isChanged(), changed);
+        QCOMPARE(marks.size(), changed ? 1 : 0);
+        QVERIFY(PieceModel::shared() == before); // only the copy changed
+        QCOMPARE(changes.size(), 0);
+        const PieceModel &copy = page.workingCopy().model();
+        if (ok && form == QLatin1String("piece_select_form"))
+            QCOMPARE(page.findChild<QLabel *>(QStringLiteral("lblPName"))->text(),
+                     QStringLiteral("Size 10 - Envelope"));
+        if (form == QLatin1String("piece_customization_form")) // the items stay where they were
+            QVERIFY(copy.items == before.items);
+        page.applyChanges();
+        if (!ok) {
+            QVERIFY(PieceModel::shared() == before);
+            return;
+        }
+        changed = true;
+        changes.clear();
+    } else if (form == QLatin1String("about_box")) {
+        control.show();
+        control.ShowAboutBox();
+        changed = true;
+    } else if (form == QLatin1String("piece_select_form")) {
+        control.PieceSelectDialogShow(changed);
+    } else if (form == QLatin1String("piece_customization_form")) {
+        control.PieceCustomizationDialogShow(changed);
+    } else {
+        control.PieceLayoutDialogShow(changed);
     }
+
+    QVERIFY(!driver.watchdogFired());
+    QCOMPARE(driver.actionsRun(), 1);
+    QCOMPARE(changed, ok);
+    if (!ok) {
+        QVERIFY(PieceModel::shared() == before);
+        QCOMPARE(changes.size(), 0);
+        return;
+    }
+    if (form == QLatin1String("about_box")) {
+        QVERIFY2(shown.contains(QLatin1String("QuirraControl")) &&
+                     shown.contains(QLatin1String(QUIRRA_EXPECTED_VERSION)),
+                 qPrintable(shown));
+        return;
+    }
+    if (form == QLatin1String("piece_layout_edit_form")) {
+        QVERIFY(qAbs(control.Message1Top() - 1.5f) < 0.01f);
+        if (!onPage)
+            QCOMPARE(emitted(changes),
+                     itemNames({"Address", "Return", "Stamp", "Message1", "Message2"}));
+        return;
+    }
+    // A piece applied lays the items out afresh and says so: the piece's
+    // fourteen names and all sixty item properties follow the name.
+    if (!onPage) {
+        QVERIFY(changes.size() >= 1 + 14 + 60);
+        QCOMPARE(emitted(changes).last(), QStringLiteral("Message2Wrap"));
+    }
+    QCOMPARE(control.ReturnText(), QStringLiteral("ACME Mail")); // the user's text survives
+    const bool select = form == QLatin1String("piece_select_form");
+    QCOMPARE(control.PieceName(), select ? QStringLiteral("Size 10 - Envelope")
+                                         : QStringLiteral("5160 - Address Labels"));
+    const QList<int> layout = {control.PieceNumAcross(), control.PieceNumDown(), control.IsCustom(),
+                               control.PageSizeNum(), control.PieceOrientation()};
+    // Customized: 8.31 in across, 9.5 in down on Letter, portrait.
+    QCOMPARE(layout, (select ? QList<int>{1, 1, 0, 20, 1} : QList<int>{3, 9, 1, 1, 0}));
+    if (!select)
+        QCOMPARE(control.PageSize(), QStringLiteral("Letter (8 1/2 x 11 in.)"));
 }
 
 QTEST_MAIN(TestPieceDialogs)

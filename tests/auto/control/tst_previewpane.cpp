@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "control/previewpane.h"
 
+#include "nowindowleft.h"
 #include "pdfprobe.h"
+#include "spoolfixture.h"
 
 #include "catalogue/pieceloader.h"
-#include "records/record.h"
-#include "records/sharedspool.h"
-#include "records/spoolwriter.h"
 #include "render/printrun.h"
 #include "surface/printsurface.h"
 
@@ -33,17 +32,8 @@ void preview(PreviewPane &pane, int records)
     QVERIFY(LoadPieceByName(QStringLiteral("5160 - Address Labels"), model));
     model.piece.PieceNumAcross = 3;
     model.piece.PieceNumDown = 1;
-    SharedSpool::reset();
-    SharedSpool::instance().makeNewSpoolFile();
-    SpoolWriter writer;
-    writer.setYieldHook({});
-    for (int i = 1; i <= records; ++i) {
-        Record r;
-        r.setValue(RecordField::nm_first, QStringLiteral("Name%1").arg(i));
-        r.setValue(RecordField::city, QStringLiteral("Springfield"));
-        writer.NewPiece(r);
-    }
-    writer.EndDoc();
+    fixture::newSpool();
+    fixture::feed(fixture::numbered(records));
     pane.surface()->setPreview(true);
     PrintRun(model, SharedSpool::instance().reader()).RunPrintJob(*pane.surface());
     pane.Navigate(0);
@@ -65,9 +55,8 @@ private Q_SLOTS:
     void init() { PieceModel::resetShared(); }
     void cleanup()
     {
-        qDeleteAll(QApplication::topLevelWidgets());
+        verifyNoWindowLeft();
         QFile::remove(SharedSpool::instance().spoolPath());
-        SharedSpool::reset();
     }
     void paging_data();
     void paging();

@@ -19,7 +19,6 @@ private Q_SLOTS:
     void slotPlacement_data();
     void slotPlacement();
     void zeroAcrossIsADivisionError();
-    void notificationNames();
     void sharedModelIsOneForTheProcess();
     void int16Overflow_data();
     void int16Overflow();
@@ -27,55 +26,37 @@ private Q_SLOTS:
 
 void TestPiece::derivePageSetup_data()
 {
-    QTest::addColumn<int>("across");
-    QTest::addColumn<int>("down");
-    QTest::addColumn<float>("pieceW");
-    QTest::addColumn<float>("pieceH");
-    QTest::addColumn<float>("pitchH");
-    QTest::addColumn<float>("pitchV");
-    QTest::addColumn<float>("marginL");
-    QTest::addColumn<float>("marginT");
+    QTest::addColumn<QList<float>>("sheet"); // across, down, width, height, pitches, margins
     QTest::addColumn<QString>("pageSize");
     QTest::addColumn<int>("orientation");
     QTest::addColumn<int>("paper");
-
-    QTest::newRow("no10-envelope-is-landscape-paper-20")
-        << 1 << 1 << 9.5f << 4.125f << 9.5f << 4.125f << 0.f << 0.f << "4 1/8 x 9 1/2" << 1 << 20;
+    using S = QList<float>;
+    const S no10{1, 1, 9.5f, 4.125f, 9.5f, 4.125f, 0, 0};
+    QTest::newRow("no10-envelope-is-landscape-paper-20") << no10 << "4 1/8 x 9 1/2" << 1 << 20;
     QTest::newRow("letter-label-sheet-is-portrait")
-        << 3 << 10 << 2.625f << 1.f << 2.75f << 1.f << 0.1875f << 0.5f
-        << "Letter (8 1/2 x 11 in)" << 0 << 1;
-    QTest::newRow("square-sheet-tie-is-portrait")
-        << 2 << 2 << 2.f << 2.f << 3.f << 3.f << 1.f << 1.f << "6 x 6" << 0 << 1;
+        << S{3, 10, 2.625f, 1, 2.75f, 1, 0.1875f, 0.5f} << "Letter (8 1/2 x 11 in)" << 0 << 1;
+    QTest::newRow("square-sheet-tie-is-portrait") << S{2, 2, 2, 2, 3, 3, 1, 1} << "6 x 6" << 0 << 1;
     QTest::newRow("fourteen-anywhere-is-legal")
-        << 1 << 1 << 8.5f << 14.f << 8.5f << 14.f << 0.f << 0.f << "8 1/2 x 14" << 0 << 5;
+        << S{1, 1, 8.5f, 14, 8.5f, 14, 0, 0} << "8 1/2 x 14" << 0 << 5;
     QTest::newRow("fourteen-inside-a-number-is-legal-too")
-        << 1 << 1 << 4.f << 6.f << 4.f << 6.f << 0.f << 0.f << "C6 (114 x 162 mm)" << 0 << 5;
-    QTest::newRow("envelope-text-must-match-exactly")
-        << 1 << 1 << 9.5f << 4.125f << 9.5f << 4.125f << 0.f << 0.f << "4 1/8 x 9 1/2 " << 1 << 1;
-    QTest::newRow("only-one-piece-reaches-across")
-        << 1 << 3 << 5.f << 1.f << 0.f << 1.5f << 0.f << 0.f << "" << 1 << 1;
+        << S{1, 1, 4, 6, 4, 6, 0, 0} << "C6 (114 x 162 mm)" << 0 << 5;
+    QTest::newRow("envelope-text-must-match-exactly") << no10 << "4 1/8 x 9 1/2 " << 1 << 1;
+    QTest::newRow("only-one-piece-reaches-across") << S{1, 3, 5, 1, 0, 1.5f, 0, 0} << "" << 1 << 1;
 }
 
 void TestPiece::derivePageSetup()
 {
-    Piece p;
-    QFETCH(int, across);
-    QFETCH(int, down);
-    QFETCH(float, pieceW);
-    QFETCH(float, pieceH);
-    QFETCH(float, pitchH);
-    QFETCH(float, pitchV);
-    QFETCH(float, marginL);
-    QFETCH(float, marginT);
+    QFETCH(QList<float>, sheet);
     QFETCH(QString, pageSize);
-    p.PieceNumAcross = qint16(across);
-    p.PieceNumDown = qint16(down);
-    p.PieceWidth = pieceW;
-    p.PieceHeight = pieceH;
-    p.PiecePitchHorz = pitchH;
-    p.PiecePitchVert = pitchV;
-    p.PieceMarginLeft = marginL;
-    p.PieceMarginTop = marginT;
+    Piece p;
+    p.PieceNumAcross = qint16(sheet[0]);
+    p.PieceNumDown = qint16(sheet[1]);
+    p.PieceWidth = sheet[2];
+    p.PieceHeight = sheet[3];
+    p.PiecePitchHorz = sheet[4];
+    p.PiecePitchVert = sheet[5];
+    p.PieceMarginLeft = sheet[6];
+    p.PieceMarginTop = sheet[7];
     p.PageSize = pageSize;
     p.PageSizeNum = 99;
     p.PieceOrientation = 99;
@@ -128,26 +109,6 @@ void TestPiece::zeroAcrossIsADivisionError()
     } catch (const Error &e) {
         QVERIFY2(e.message().contains(QLatin1String("PieceNumAcross")), e.what());
     }
-}
-
-void TestPiece::notificationNames()
-{
-    const QStringList &piece = PieceChangedNames();
-    QCOMPARE(piece.size(), 14);
-    QCOMPARE(piece.first(), QStringLiteral("IsCustom"));
-    QCOMPARE(piece.at(3), QStringLiteral("NumAcross")); // the short form, not the property name
-    QCOMPARE(piece.last(), QStringLiteral("PrinterTop"));
-
-    const QStringList &items = ItemsChangedNames();
-    QCOMPARE(items.size(), 60);
-    QCOMPARE(items.first(), QStringLiteral("AddressBorder"));
-    QCOMPARE(items.at(11), QStringLiteral("AddressWrap"));
-    QCOMPARE(items.at(12), QStringLiteral("ReturnBorder"));
-    QCOMPARE(items.at(24), QStringLiteral("StampBorder")); // Stamp comes third
-    QCOMPARE(items.at(36), QStringLiteral("Message1Border"));
-    QCOMPARE(items.last(), QStringLiteral("Message2Wrap"));
-    QStringList unique = items;
-    QCOMPARE(unique.removeDuplicates(), 0);
 }
 
 void TestPiece::sharedModelIsOneForTheProcess()

@@ -45,6 +45,15 @@ QString shown(const AddressLines &lines)
            lines[9] + lines[6] + lines[7] + lines[8];
 }
 
+// Entries "c0^v0|c1^v1|..." in the given number, each ended by sep.
+QString manyEntries(int count, const QString &sep)
+{
+    QString list;
+    for (int i = 0; i < count; ++i)
+        list += QStringLiteral("c%1^v%1").arg(i) + sep;
+    return list;
+}
+
 } // namespace
 
 class TestAddressRules : public QObject
@@ -110,6 +119,7 @@ void TestAddressRules::longCityIsCutInBoundedWork_data()
 
     QTest::newRow("fits-just-below-the-walk") << 199936 << 0 << 199936;
     QTest::newRow("fits-nowhere") << 0 << 0 << 0;
+    QTest::newRow("one-letter-fits-after-the-bisection") << 1 << 0 << 1;
     // The walk from above the bisection finds what a full walk would.
     QTest::newRow("dip-above-the-fit") << 77777 << 77800 << 77800;
 }
@@ -137,28 +147,29 @@ void TestAddressRules::composeAddressLines_data()
 
     const double w = DefaultWidestCityLine;
     QTest::newRow("middle-initial") << "John;Q;Public;12 Main St;;Springfield;IL;62704" << w
-        << "|John Q. Public/12 Main St/Springfield,  IL  62704|62704";
+                                    << "|John Q. Public/12 Main St/Springfield,  IL  62704|62704";
     QTest::newRow("second-street-line") << "John;;Public;12 Main St;Apt 4;Troy;NY;12180" << w
-        << "|John Public/12 Main St/Apt 4/Troy,  NY  12180|12180";
-    QTest::newRow("only-second-street-line-moves-up") << "John;;Public;;PO Box 9;Troy;NY;12180" << w
+                                        << "|John Public/12 Main St/Apt 4/Troy,  NY  12180|12180";
+    QTest::newRow("only-second-street-line-moves-up")
+        << "John;;Public;;PO Box 9;Troy;NY;12180" << w
         << "|John Public/PO Box 9/Troy,  NY  12180|12180";
-    QTest::newRow("two-letter-state-upper-cased") << "Ann;Quincy;Lee;;;Troy;ny;12180" << w
-        << "|Ann Quincy Lee/Troy,  NY  12180|12180";
-    QTest::newRow("longer-state-as-given") << "Ann;;Lee;;;Troy;Ill;62704" << w
-        << "|Ann Lee/Troy,  Ill  62704|62704";
+    QTest::newRow("two-letter-state-upper-cased")
+        << "Ann;Quincy;Lee;;;Troy;ny;12180" << w << "|Ann Quincy Lee/Troy,  NY  12180|12180";
+    QTest::newRow("longer-state-as-given")
+        << "Ann;;Lee;;;Troy;Ill;62704" << w << "|Ann Lee/Troy,  Ill  62704|62704";
     QTest::newRow("initial-without-first-name") << ";Q;Public" << w << "|Q. Public|";
     // The name line is a blank before trimming, so it keeps its place.
-    QTest::newRow("no-name-leaves-an-empty-line") << ";;;12 Main St;;Troy;NY;12180" << w
-        << "|/12 Main St/Troy,  NY  12180|12180";
-    QTest::newRow("city-line-too-wide-dropped") << "John;;Public;12 Main St;;Troy;NY;12180" << 500.0
-        << "|John Public/12 Main St|12180";
+    QTest::newRow("no-name-leaves-an-empty-line")
+        << ";;;12 Main St;;Troy;NY;12180" << w << "|/12 Main St/Troy,  NY  12180|12180";
+    QTest::newRow("city-line-too-wide-dropped")
+        << "John;;Public;12 Main St;;Troy;NY;12180" << 500.0 << "|John Public/12 Main St|12180";
     QTest::newRow("carrier-route-line-one") << "Jo;;Li;;;Troy;NY;12180-1234;C001;BAR" << w
-        << "C001|Jo Li/Troy,  NY  12180-1234|12180-1234";
+                                            << "C001|Jo Li/Troy,  NY  12180-1234|12180-1234";
     QTest::newRow("accents") << QString::fromUtf8("Zoë;;Brontë;;;Málaga;;29001") << w
-        << QString::fromUtf8("|Zoë Brontë/Málaga    29001|29001");
+                             << QString::fromUtf8("|Zoë Brontë/Málaga    29001|29001");
     // A negative width makes the measurer throw: only the city line is lost.
     QTest::newRow("failing-measurer") << "John;;Public;12 Main St;Apt 4;Troy;NY;12180" << -1.0
-        << "|John Public/12 Main St/Apt 4|12180";
+                                      << "|John Public/12 Main St/Apt 4|12180";
 }
 
 void TestAddressRules::composeAddressLines()
@@ -189,7 +200,7 @@ void TestAddressRules::composeEndsTheRun()
     // After the last record, and at once for a file that is not a spool:
     // the run must learn that it is over, or it would ask again for ever.
     for (const QByteArray &spool : QList<QByteArray>{fixture::Header + "a,b,c,d,e,f,g,h,i,j,k\r\n",
-                                    QByteArray("\"NM_FIRST\",\"John\"\r\n")}) {
+                                                     QByteArray("\"NM_FIRST\",\"John\"\r\n")}) {
         QVERIFY(fixture::overwrite(m_path, spool));
         FixedMeasurer m;
         SpoolReader &reader = SharedSpool::instance().reader();
@@ -212,20 +223,71 @@ void TestAddressRules::replaceTokens_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("expected");
+    QTest::addColumn<QString>("separator"); // between entries
 
-    QTest::newRow("token-replaced") << "Dear <<salut>>," << "salut^Sir|x^y" << "Dear Sir,";
-    QTest::newRow("token-twice-replaced-twice") << "<<n>> and <<n>>" << "n^Ann" << "Ann and Ann";
-    QTest::newRow("name-case-counts") << "Dear <<Salut>>," << "salut^Sir" << "Dear <<Salut>>,";
-    QTest::newRow("entry-without-caret-skipped") << "<<s>>" << "s|s^Sir" << "Sir";
-    QTest::newRow("value-blanks-kept-name-blanks-count") << "<<s>>," << "s^ Sir | s^x" << " Sir ,";
-    QTest::newRow("empty-name-and-value") << "x<<>>y<<a>>" << "^z|a^" << "xzy";
-    QTest::newRow("later-entry-replaces-earlier-value") << "<<a>>" << "a^<<b>>|b^B" << "B";
-    QTest::newRow("earlier-entry-not-applied-again") << "<<a>>" << "b^B|a^<<b>>" << "<<b>>";
-    QTest::newRow("blank-entries-between") << "<<a>><<b>>" << "a^1|  |b^2|" << "12";
+    QTest::newRow("token-replaced") << "Dear <<salut>>,"
+                                    << "salut^Sir|x^y"
+                                    << "Dear Sir,"
+                                    << "|";
+    QTest::newRow("token-twice-replaced-twice") << "<<n>> and <<n>>"
+                                                << "n^Ann"
+                                                << "Ann and Ann"
+                                                << "|";
+    QTest::newRow("name-case-counts") << "Dear <<Salut>>,"
+                                      << "salut^Sir"
+                                      << "Dear <<Salut>>,"
+                                      << "|";
+    QTest::newRow("entry-without-caret-skipped") << "<<s>>"
+                                                 << "s|s^Sir"
+                                                 << "Sir"
+                                                 << "|";
+    QTest::newRow("value-blanks-kept-name-blanks-count") << "<<s>>,"
+                                                         << "s^ Sir | s^x"
+                                                         << " Sir ,"
+                                                         << "|";
+    QTest::newRow("empty-name-and-value") << "x<<>>y<<a>>"
+                                          << "^z|a^"
+                                          << "xzy"
+                                          << "|";
+    QTest::newRow("later-entry-replaces-earlier-value") << "<<a>>"
+                                                        << "a^<<b>>|b^B"
+                                                        << "B"
+                                                        << "|";
+    QTest::newRow("earlier-entry-not-applied-again") << "<<a>>"
+                                                     << "b^B|a^<<b>>"
+                                                     << "<<b>>"
+                                                     << "|";
+    QTest::newRow("blank-entries-between") << "<<a>><<b>>"
+                                           << "a^1|  |b^2|"
+                                           << "12"
+                                           << "|";
     // Replacing the inner token completes a new one, which goes in turn.
-    QTest::newRow("replacement-completes-a-new-token") << "<<<<a>>a>>" << "a^" << "";
-    QTest::newRow("self-referencing-value-once-per-occurrence") << "<<a>>-<<a>>" << "a^x<<a>>"
-                                                                << "x<<a>>-x<<a>>";
+    QTest::newRow("replacement-completes-a-new-token") << "<<<<a>>a>>"
+                                                       << "a^"
+                                                       << ""
+                                                       << "|";
+    QTest::newRow("self-referencing-value-once-per-occurrence") << "<<a>>-<<a>>"
+                                                                << "a^x<<a>>"
+                                                                << "x<<a>>-x<<a>>"
+                                                                << "|";
+    // Lists as long as a CSV file of as many columns gives: walking one costs
+    // milliseconds, copying its rest for every entry ten seconds and more.
+    const QString many = manyEntries(200000, QStringLiteral("|"));
+    QTest::newRow("token-of-the-last-of-200000-entries")
+        << "Dear <<c199999>>" << many << "Dear v199999"
+        << "|";
+    QTest::newRow("tokens-of-first-and-middle-entries")
+        << "<<c0>>-<<c100000>>" << many << "v0-v100000"
+        << "|";
+    QTest::newRow("two-character-separator")
+        << "<<c7>><<c99999>>" << manyEntries(100000, QStringLiteral(";;")) << "v7v99999"
+        << ";;";
+    QTest::newRow("200000-entries-without-pair-separator")
+        << "<<x>>" << QString(200000, QLatin1Char('|')) + QStringLiteral("x^y") << "y"
+        << "|";
+    QTest::newRow("blank-rest-ends-the-list")
+        << "<<a>>" << QStringLiteral("a^1|") + QString(100000, QLatin1Char(' ')) << "1"
+        << "|";
 }
 
 void TestAddressRules::replaceTokens()
@@ -233,8 +295,12 @@ void TestAddressRules::replaceTokens()
     QFETCH(QString, text);
     QFETCH(QString, list);
     QFETCH(QString, expected);
+    QFETCH(QString, separator);
 
-    QCOMPARE(ReplaceTokens(text, list, QStringLiteral("^"), QStringLiteral("|")), expected);
+    QElapsedTimer clock;
+    clock.start();
+    QCOMPARE(ReplaceTokens(text, list, QStringLiteral("^"), separator), expected);
+    QVERIFY2(clock.elapsed() < 3000, qPrintable(QStringLiteral("%1 ms").arg(clock.elapsed())));
 }
 
 void TestAddressRules::replaceTokensStopsARunawayList()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "spoolfixture.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -60,24 +61,26 @@ void TestSpoolReader::readsValuesAsListItems_data()
     QTest::addColumn<QStringList>("run");
 
     const QByteArray h = fixture::Header;
-    QTest::newRow("three-records-city-comma-kept") << h + John + John + John
-                                                   << QStringList{JohnRead, JohnRead, JohnRead};
+    QTest::newRow("three-records-city-comma-kept")
+        << h + John + John + John << QStringList{JohnRead, JohnRead, JohnRead};
     QTest::newRow("header-only") << h << QStringList();
-    QTest::newRow("wrong-case-header") << QByteArray(h).replace("nm_first", "NM_FIRST") + John
-                                       << QStringList();
+    QTest::newRow("wrong-case-header")
+        << QByteArray(h).replace("nm_first", "NM_FIRST") + John << QStringList();
     QTest::newRow("unquoted-values-lose-blanks-and-tabs")
         << QByteArray(h).replace("\"", "").replace("zip", " zip\t") +
                "  a\t ,b,c,d,e,f,g,h,i,j, k \r\n"
         << QStringList{Letters};
     QTest::newRow("text-after-closing-quote-skipped")
-        << h + "\"a\"junk,\"b\" ,c,d,e,f,g,h,i,j,\"k\"x\r\n" << QStringList{Letters};
+        << h + "\"a\"junk,\"b\" ,c,d,e,f,g,h,i,j,\"k\"x\r\n"
+        << QStringList{Letters};
     QTest::newRow("line-ends-separate-like-commas")
         << QByteArray(h).replace("\r\n", "\n") + "a,b,c\r\nd,e\rf,g,h,i,j,k\n"
         << QStringList{Letters};
-    QTest::newRow("truncated-record-dropped-whole") << h + John + "\"Jane\",\"\",\"Doe\""
-                                                    << QStringList{JohnRead};
+    QTest::newRow("truncated-record-dropped-whole")
+        << h + John + "\"Jane\",\"\",\"Doe\"" << QStringList{JohnRead};
     QTest::newRow("file-ends-after-tenth-value")
-        << h + "a,b,c,d,e,f,g,h,i,j\r\n" << QStringList{QStringLiteral("a|b|c|d|e|f|g|h|i|j|")};
+        << h + "a,b,c,d,e,f,g,h,i,j\r\n"
+        << QStringList{QStringLiteral("a|b|c|d|e|f|g|h|i|j|")};
     QTest::newRow("utf8-and-invalid-bytes")
         << h + "\"Zo\xc3\xab\",\"\xff\",c,d,e,f,g,h,i,j,k\r\n"
         << QStringList{QStringLiteral("Zo\u00eb|\ufffd|c|d|e|f|g|h|i|j|k")};
@@ -153,9 +156,15 @@ void TestSpoolReader::missingFileAndRereading()
     QVERIFY(SharedSpool::instance().reader().spoolExhausted());
     QCOMPARE(readRun(), preview);
 
+    // A spool that cannot be opened (removed, a folder, no name) gives no
+    // record and ends the run at once.
     QFile::remove(m_path);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Cannot open the spool")));
-    QCOMPARE(readRun(), QStringList());
+    for (const QString &path : {m_path, QDir::tempPath(), QString()}) {
+        SharedSpool::instance().setSpoolPath(path);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("Cannot open the spool")));
+        QCOMPARE(readRun(), QStringList());
+    }
 }
 
 QTEST_GUILESS_MAIN(TestSpoolReader)

@@ -39,14 +39,22 @@ void TestSpoolWriter::documentStates_data()
     QTest::addColumn<bool>("header");
     QTest::addColumn<int>("yields");
 
-    QTest::newRow("three-records") << "S123E" << "123" << true << 5;
-    QTest::newRow("new-piece-without-start-doc-creates-header") << "1E" << "1" << true << 3;
-    QTest::newRow("start-doc-twice-keeps-records") << "S1S2E" << "12" << true << 4;
-    QTest::newRow("end-doc-then-new-piece-appends") << "S1E2E" << "12" << true << 5;
-    QTest::newRow("start-doc-after-end-doc-truncates") << "S1ES2E" << "2" << true << 6;
-    QTest::newRow("end-doc-without-document") << "E" << "" << false << 1;
-    QTest::newRow("destroyed-while-open-keeps-lines") << "S12" << "12" << true << 3;
-    QTest::newRow("removed-file-made-again-owner-only") << "XS1E" << "1" << true << 3;
+    QTest::newRow("three-records") << "S123E"
+                                   << "123" << true << 5;
+    QTest::newRow("new-piece-without-start-doc-creates-header") << "1E"
+                                                                << "1" << true << 3;
+    QTest::newRow("start-doc-twice-keeps-records") << "S1S2E"
+                                                   << "12" << true << 4;
+    QTest::newRow("end-doc-then-new-piece-appends") << "S1E2E"
+                                                    << "12" << true << 5;
+    QTest::newRow("start-doc-after-end-doc-truncates") << "S1ES2E"
+                                                       << "2" << true << 6;
+    QTest::newRow("end-doc-without-document") << "E"
+                                              << "" << false << 1;
+    QTest::newRow("destroyed-while-open-keeps-lines") << "S12"
+                                                      << "12" << true << 3;
+    QTest::newRow("removed-file-made-again-owner-only") << "XS1E"
+                                                        << "1" << true << 3;
 }
 
 void TestSpoolWriter::documentStates()
@@ -93,19 +101,23 @@ void TestSpoolWriter::linesOnDisk_data()
     QTest::addColumn<QByteArray>("line"); // the values, each in quotes, comma-separated
     QTest::addColumn<QString>("warning");
 
-    QTest::newRow("city-and-state-get-comma") << "John;Q;Public;12 Main;;Springfield;IL;62704"
+    QTest::newRow("city-and-state-get-comma")
+        << "John;Q;Public;12 Main;;Springfield;IL;62704"
         << QByteArray("John|Q|Public|12 Main||Springfield,|IL|62704|||") << "";
-    QTest::newRow("no-state-city-unchanged") << ";;;;;Springfield;;62704"
-        << QByteArray("|||||Springfield||62704|||") << "";
+    QTest::newRow("no-state-city-unchanged")
+        << ";;;;;Springfield;;62704" << QByteArray("|||||Springfield||62704|||") << "";
     QTest::newRow("no-city-no-comma") << ";;;;;;IL" << QByteArray("||||||IL||||") << "";
-    QTest::newRow("setters-trim-blanks-only") << "  John ;\tQ;;;;;;;;;a^1, b^2 "
-        << QByteArray("John|\tQ|||||||||a^1, b^2") << "";
+    QTest::newRow("setters-trim-blanks-only")
+        << "  John ;\tQ;;;;;;;;;a^1, b^2 " << QByteArray("John|\tQ|||||||||a^1, b^2") << "";
     QTest::newRow("utf8-accents") << QString::fromUtf8("Zoë;;;;;Málaga;MA")
-        << QByteArray("Zo\xc3\xab|||||M\xc3\xa1laga,|MA||||") << "";
-    QTest::newRow("quote-written-as-is-warned") << "Ann;;The \"Old\" Mill"
-        << QByteArray("Ann||The \"Old\" Mill||||||||") << "nm_last.*double quote";
-    QTest::newRow("line-break-warned") << ";;;1 Elm\nSt" << QByteArray("|||1 Elm\nSt|||||||")
-                                       << "addr_1.*line break";
+                                  << QByteArray("Zo\xc3\xab|||||M\xc3\xa1laga,|MA||||") << "";
+    QTest::newRow("quote-written-as-is-warned")
+        << "Ann;;The \"Old\" Mill" << QByteArray("Ann||The \"Old\" Mill||||||||")
+        << "nm_last.*double quote";
+    QTest::newRow("line-break-warned")
+        << ";;;1 Elm\nSt" << QByteArray("|||1 Elm\nSt|||||||") << "addr_1.*line break";
+    QTest::newRow("values-past-the-last-column-dropped")
+        << "a;;;;;;;;;;s;past;past" << QByteArray("a||||||||||s") << "";
 }
 
 void TestSpoolWriter::linesOnDisk()
@@ -118,6 +130,9 @@ void TestSpoolWriter::linesOnDisk()
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
     }
     fixture::feed({record});
+    const Record r = fixture::record(record);
+    QCOMPARE(r.value(RecordField(RecordFieldCount)), QString()); // out of range: nothing
+    QCOMPARE(r.value(RecordField(-1)), QString());
     const QByteArray expected = fixture::Header + '"' + line.replace('|', "\",\"") + "\"\r\n";
     QCOMPARE(fixture::contents(m_path), expected);
 }
@@ -127,12 +142,14 @@ void TestSpoolWriter::failuresNameTheFile_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("reason");
 
-    QTest::newRow("folder-removed") << QDir::tempPath() + QStringLiteral("/gone/s.tmp")
-                                    << "No such file";
+    QTest::newRow("folder-removed")
+        << QDir::tempPath() + QStringLiteral("/gone/s.tmp") << "No such file";
     if (QFileInfo::exists(QStringLiteral("/dev/full"))) {
-        QTest::newRow("disk-full") << "/dev/full" << "No space";
+        QTest::newRow("disk-full") << "/dev/full"
+                                   << "No space";
     }
-    QTest::newRow("no-spool-made") << "" << "no spool file";
+    QTest::newRow("no-spool-made") << ""
+                                   << "no spool file";
 }
 
 void TestSpoolWriter::failuresNameTheFile()

@@ -26,7 +26,11 @@ public:
     }
 
     double TextWidth(const QString &text) override { return 100.0 * text.size(); }
-    void setPreview(bool on) override { log(QStringLiteral("preview %1").arg(on)); m_preview = on; }
+    void setPreview(bool on) override
+    {
+        log(QStringLiteral("preview %1").arg(on));
+        m_preview = on;
+    }
     bool preview() const override { return m_preview; }
     void setAction(quirra::SurfaceAction a) override
     {
@@ -51,7 +55,11 @@ public:
             m_paper = v;
     }
     int paperSize() const override { return m_paper; }
-    void setMarginLeft(int t) override { log(QStringLiteral("marginLeft %1").arg(t)); m_marginLeft = t; }
+    void setMarginLeft(int t) override
+    {
+        log(QStringLiteral("marginLeft %1").arg(t));
+        m_marginLeft = t;
+    }
     void setMarginTop(int t) override { log(QStringLiteral("marginTop %1").arg(t)); }
     void setMarginRight(int t) override { log(QStringLiteral("marginRight %1").arg(t)); }
     void setMarginBottom(int t) override { log(QStringLiteral("marginBottom %1").arg(t)); }
@@ -81,8 +89,8 @@ public:
                  bool border) override
     {
         log(QStringLiteral("box%1 [%2] %3 %4 %5 %6 wrap=%7 border=%8")
-                .arg(layoutOnly ? QStringLiteral("-layout") : QString(), QString(text).replace(
-                                                                             QLatin1Char('\r'), QLatin1Char('/')))
+                .arg(layoutOnly ? QStringLiteral("-layout") : QString(),
+                     QString(text).replace(QLatin1Char('\r'), QLatin1Char('/')))
                 .arg(l)
                 .arg(t)
                 .arg(w)

@@ -19,9 +19,12 @@ class TestPrintRun : public QObject
 
 private Q_SLOTS:
     void init();
-    void cleanup() { setMessageHook({}); }
+    void cleanup()
+    {
+        setMessageHook({});
+        QFile::remove(SharedSpool::instance().spoolPath());
+    }
 
-    void resetsTheSurfaceFirst();
     void verifiedPageSetup_data();
     void verifiedPageSetup();
     void printerErrorShowsOneMessage();
@@ -47,6 +50,7 @@ void TestPrintRun::init()
     m_messages.clear();
     setMessageHook([this](const QString &text) { m_messages.append(text); });
     useLabelSheet(1, 1);
+    fixture::newSpool();
 }
 
 void TestPrintRun::useLabelSheet(int across, int down)
@@ -68,27 +72,6 @@ void TestPrintRun::useLabelSheet(int across, int down)
     address.Height = 0.75f;
 }
 
-void TestPrintRun::resetsTheSurfaceFirst()
-{
-    SpoolFixture spool;
-    spool.close();
-    RecordingSurface surface;
-    PrintRun(PieceModel::shared(), SharedSpool::instance().reader()).RunPrintJob(surface);
-    const QStringList expected = {
-        QStringLiteral("indentLeft 0"),  QStringLiteral("marginRight 0"),
-        QStringLiteral("marginBottom 0"), QStringLiteral("marginLeft 0"),
-        QStringLiteral("marginTop 0"),   QStringLiteral("indentRight 0"),
-        QStringLiteral("align 0"),       QStringLiteral("header []"),
-        QStringLiteral("footer []"),     QStringLiteral("penStyle 1"),
-        QStringLiteral("brushStyle 0"),  QStringLiteral("penWidth 10"),
-    };
-    QCOMPARE(surface.calls.mid(0, expected.size()), expected);
-    // An empty spool: the document is still started and ended, with nothing on it.
-    QCOMPARE(surface.count(QStringLiteral("action 3")), 1);
-    QCOMPARE(surface.calls.last(), QStringLiteral("action 6"));
-    QCOMPARE(surface.count(QStringLiteral("box")), 0);
-}
-
 void TestPrintRun::verifiedPageSetup_data()
 {
     QTest::addColumn<int>("refusals");
@@ -102,8 +85,7 @@ void TestPrintRun::verifiedPageSetup()
 {
     QFETCH(int, refusals);
     QFETCH(int, attempts);
-    SpoolFixture spool;
-    spool.close();
+    fixture::feed({});
     PieceModel::shared().piece.PieceOrientation = 1;
     PieceModel::shared().piece.PageSizeNum = 20;
     RecordingSurface surface;
@@ -127,9 +109,7 @@ void TestPrintRun::verifiedPageSetup()
 
 void TestPrintRun::printerErrorShowsOneMessage()
 {
-    SpoolFixture spool;
-    spool.addNumbered(2);
-    spool.close();
+    fixture::feed(fixture::numbered(2));
     RecordingSurface surface;
     surface.startError = 3;
     PrintRun(PieceModel::shared(), SharedSpool::instance().reader()).RunPrintJob(surface);
@@ -148,13 +128,15 @@ void TestPrintRun::pagination_data()
 
     QTest::newRow("seven-on-three-by-two-spill-one")
         << 7 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")};
+    QTest::newRow("eight-on-three-by-two-spill-two")
+        << 8 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360")};
     QTest::newRow("six-on-three-by-two-fill-one-page")
         << 6 << 3 << 2 << 1
-        << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360"),
-                       QStringLiteral("7560 360"), QStringLiteral("360 2160"),
+        << QStringList{QStringLiteral("360 360"),   QStringLiteral("3960 360"),
+                       QStringLiteral("7560 360"),  QStringLiteral("360 2160"),
                        QStringLiteral("3960 2160"), QStringLiteral("7560 2160")};
-    QTest::newRow("envelope-one-page-each") << 3 << 1 << 1 << 3
-                                            << QStringList{QStringLiteral("360 360")};
+    QTest::newRow("envelope-one-page-each")
+        << 3 << 1 << 1 << 3 << QStringList{QStringLiteral("360 360")};
     QTest::newRow("no-records-no-pages-drawn") << 0 << 3 << 2 << 1 << QStringList();
 }
 
@@ -166,14 +148,20 @@ void TestPrintRun::pagination()
     QFETCH(int, pages);
     QFETCH(QStringList, lastPageBoxes);
     useLabelSheet(across, down);
-    SpoolFixture spool;
-    spool.addNumbered(records);
-    spool.close();
+    fixture::feed(fixture::numbered(records));
     RecordingSurface surface;
     PrintRun run(PieceModel::shared(), SharedSpool::instance().reader());
     run.RunPrintJob(surface);
 
     QCOMPARE(run.piecesDrawn(), qint64(records));
+    // Whatever a host left on the surface is reset before the document starts,
+    // and the document is ended even with nothing on it.
+    const int start = int(surface.calls.indexOf(QStringLiteral("action 3")));
+    for (const char *reset : {"indentLeft 0", "indentRight 0", "marginLeft 0", "marginTop 0",
+                              "marginRight 0", "marginBottom 0", "align 0", "header []",
+                              "footer []", "penStyle 1", "brushStyle 0", "penWidth 10"})
+        QVERIFY2(uint(surface.calls.indexOf(QLatin1String(reset))) < uint(start), reset);
+    QCOMPARE(surface.calls.last(), QStringLiteral("action 6"));
     QCOMPARE(surface.pageCount(), pages);
     QCOMPARE(surface.count(QStringLiteral("action 4")), pages - 1); // no blank page at the end
     const int lastPage = int(surface.calls.lastIndexOf(QStringLiteral("action 4")));
@@ -181,8 +169,8 @@ void TestPrintRun::pagination()
     for (int i = lastPage + 1; i < surface.calls.size(); ++i) {
         const QString &c = surface.calls.at(i);
         if (c.startsWith(QLatin1String("box ["))) {
-            const QStringList parts = c.section(QLatin1Char(']'), 1).split(QLatin1Char(' '),
-                                                                            Qt::SkipEmptyParts);
+            const QStringList parts =
+                c.section(QLatin1Char(']'), 1).split(QLatin1Char(' '), Qt::SkipEmptyParts);
             boxes.append(parts.at(0) + QLatin1Char(' ') + parts.at(1));
         }
     }
@@ -199,21 +187,15 @@ void TestPrintRun::tokensAndTemplates()
     ret.Text = QStringLiteral("Dear <<salut>>,");
     model.item(ItemId::Address).Text = QStringLiteral("kept");
 
-    SpoolFixture spool;
-    spool.add({QStringLiteral("John"), QStringLiteral("Q"), QStringLiteral("Public"),
-               QStringLiteral("12 Main St"), QString(), QStringLiteral("Springfield"),
-               QStringLiteral("il"), QStringLiteral("62704"),
-               QStringLiteral("salut^Sir|x^y")});
-    spool.add({QStringLiteral("Ann"), QString(), QStringLiteral("Lee"), QString(), QString(),
-               QStringLiteral("Troy"), QString(), QStringLiteral("12180"), QString()});
-    spool.close();
+    fixture::feed({QStringLiteral("John;Q;Public;12 Main St;;Springfield;il;62704;;;salut^Sir|x^y"),
+                   QStringLiteral("Ann;;Lee;;;Troy;;12180")});
     RecordingSurface surface;
     PrintRun(model, SharedSpool::instance().reader()).RunPrintJob(surface);
 
     const QStringList drawn = surface.calls.filter(QRegularExpression(QStringLiteral("^box \\[.")));
     QCOMPARE(drawn.size(), 4);
-    QVERIFY2(drawn.at(0).startsWith(QLatin1String(
-                 "box [John Q. Public/12 Main St/Springfield,  IL  62704]")),
+    QVERIFY2(drawn.at(0).startsWith(
+                 QLatin1String("box [John Q. Public/12 Main St/Springfield,  IL  62704]")),
              qPrintable(drawn.at(0)));
     QVERIFY2(drawn.at(1).startsWith(QLatin1String("box [Dear Sir,]")), qPrintable(drawn.at(1)));
     // No street lines: the name sits right above the city line; the token stays unreplaced.
@@ -276,7 +258,8 @@ void TestPrintRun::borderAndJustify()
     RecordingSurface framed;
     DrawItem(item, piece, 1, framed);
     QVERIFY(framed.calls.contains(QStringLiteral("align 9"))); // justified, in the surface's code
-    const int frame = int(framed.calls.indexOf(QRegularExpression(QStringLiteral("^box \\[\\].*border=1"))));
+    const int frame =
+        int(framed.calls.indexOf(QRegularExpression(QStringLiteral("^box \\[\\].*border=1"))));
     QVERIFY(frame > 0);
     QCOMPARE(framed.calls.at(frame - 1), QStringLiteral("penWidth 10"));
     QVERIFY(framed.calls.last().startsWith(QLatin1String("box [x]")));
@@ -313,8 +296,8 @@ void TestPrintRun::positionsClampAtTheEdge()
     item.Width = 1.f;
     item.Height = 1.f;
     const ItemBox box = itemBoxOnSurface(item, piece, 1, 0);
-    QCOMPARE(box.left, 0);    // 144 - 360 would fall off the page
-    QCOMPARE(box.top, 360);   // 720 - 360
+    QCOMPARE(box.left, 0);  // 144 - 360 would fall off the page
+    QCOMPARE(box.top, 360); // 720 - 360
     // The surface's left margin is taken off as well.
     QCOMPARE(itemBoxOnSurface(item, piece, 2, 100).left, 0);
     piece.PieceNumAcross = 2;
@@ -339,9 +322,7 @@ void TestPrintRun::badGeometryIsAnErrorOfTheRun()
     QFETCH(QString, message);
     useLabelSheet(across, down);
     PieceModel::shared().item(ItemId::Return).Text = QStringLiteral("template");
-    SpoolFixture spool;
-    spool.addNumbered(2);
-    spool.close();
+    fixture::feed(fixture::numbered(2));
     RecordingSurface surface;
     try {
         PrintRun(PieceModel::shared(), SharedSpool::instance().reader()).RunPrintJob(surface);

@@ -59,6 +59,16 @@ void TestDefaultLayout::boxes_data()
         << 3.31f << 4.f << m2 << B{2.71f, 2.4f, 0.5f, 1.5f} << true;
     QTest::newRow("message2-just-over")
         << 3.29f << 4.f << m2 << B{2.69f, 2.4f, 0.5f, 1.5f} << false;
+    // Either side of where the stamp meets the address's right edge (w = 5.61)
+    // and its top (h = 2.94).
+    QTest::newRow("stamp-just-clear-right")
+        << 2.f << 5.62f << s << B{0.05f, 4.75f, 0.91f, 0.82f} << true;
+    QTest::newRow("stamp-just-over-right")
+        << 2.f << 5.6f << s << B{0.05f, 4.73f, 0.91f, 0.82f} << false;
+    QTest::newRow("stamp-just-clear-above")
+        << 2.95f << 4.f << s << B{0.05f, 3.13f, 0.91f, 0.82f} << true;
+    QTest::newRow("stamp-just-over-above")
+        << 2.93f << 4.f << s << B{0.05f, 3.13f, 0.91f, 0.82f} << false;
     QTest::newRow("return-clear-on-the-left")
         << 2.f << 8.f << r << B{0.05f, 0.05f, 1.1f, 2} << true;
     QTest::newRow("message1-between-bounds")

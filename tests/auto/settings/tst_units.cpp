@@ -47,6 +47,11 @@ void TestUnits::formatNumber_data()
                                      << "-3";
     QTest::newRow("tiny-number") << 1e-20 << "#0.##"
                                  << "0.";
+    // Nothing but the half just past the last decimal shown.
+    QTest::newRow("half-past-the-last-decimal-rounds-up") << 0.005 << "#0.##"
+                                                          << "0.01";
+    QTest::newRow("below-half-past-the-last-decimal") << 0.0049 << "#0.##"
+                                                      << "0.";
     QTest::newRow("text-around-kept") << 2.0 << "0.00 in"
                                       << "2.00 in";
 }

@@ -298,6 +298,8 @@ void TestPageEngine::textHeight_data()
     QTest::newRow("cr-lf-is-one-break") << QStringLiteral("A\r\nB") << 10.0 << 100 << false << 460;
     QTest::newRow("break-at-the-end-adds-no-line")
         << QStringLiteral("A\r") << 10.0 << 100 << false << 230;
+    QTest::newRow("cr-lf-at-the-end-adds-no-line")
+        << QStringLiteral("A\r\n") << 10.0 << 100 << false << 230;
     QTest::newRow("blank-line-between-counts")
         << QStringLiteral("A\r\rB") << 10.0 << 100 << false << 690;
     QTest::newRow("empty-text-has-no-height") << QString() << 10.0 << 100 << false << 0;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "surface/printsurface.h"
 
+#include "nowindowleft.h"
 #include "pdfprobe.h"
 
 #include <QApplication>
@@ -20,7 +21,7 @@ private:
     QTemporaryDir m_dir;
 
 private Q_SLOTS:
-    void cleanup() { qDeleteAll(QApplication::topLevelWidgets()); }
+    void cleanup() { verifyNoWindowLeft(); }
     void printing_data();
     void printing();
     void pageOnShow_data();
