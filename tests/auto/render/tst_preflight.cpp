@@ -154,10 +154,8 @@ void TestPreflight::notes()
     PieceModel &model = PieceModel::shared();
     QVERIFY(LoadPieceByName(piece, model));
     apply(Tweak(tweak), model);
-    SpoolFixture spool;
-    spool.add(person("Ann", "Lee"));
-    spool.add(second);
-    spool.close();
+    fixture::newSpool();
+    fixture::feed({person("Ann", "Lee").join(';'), second.join(';')});
 
     MeasuringSurface surface;
     surface.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
@@ -188,10 +186,12 @@ void TestPreflight::longRunKeepsFewNotes()
 {
     PieceModel &model = PieceModel::shared();
     QVERIFY(LoadPieceByName(Labels, model));
-    SpoolFixture spool;
+    fixture::newSpool();
+    QStringList records;
     for (int i = 0; i < 200; ++i)
-        spool.add(person(QStringLiteral("P%1").arg(i), "Roe", "Troy", "NEW YORK STATE OF AMERICA"));
-    spool.close();
+        records.append(
+            person(QStringLiteral("P%1").arg(i), "Roe", "Troy", "NEW YORK STATE OF AMERICA").join(';'));
+    fixture::feed(records);
     MeasuringSurface surface;
     surface.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
                                inchesToTwips(model.piece.PrinterTop));
@@ -217,12 +217,12 @@ void TestPreflight::overflowStaysOnItsPiece()
     QFETCH(bool, pdf);
     PieceModel &model = PieceModel::shared();
     QVERIFY(LoadPieceByName(Labels, model));
-    SpoolFixture spool;
+    fixture::newSpool();
     // Label 1's name wraps on far below the label, down the first column.
-    spool.add(person("Cy", QStringLiteral("Longname ").repeated(70)));
+    QStringList records{person("Cy", QStringLiteral("Longname ").repeated(70)).join(';')};
     for (int i = 2; i <= 4; ++i)
-        spool.add(person(QStringLiteral("Eve%1").arg(i), "Ray"));
-    spool.close();
+        records.append(person(QStringLiteral("Eve%1").arg(i), "Ray").join(';'));
+    fixture::feed(records);
 
     const double dpi = 50;
     QImage page;
