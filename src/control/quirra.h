@@ -182,11 +182,12 @@ public:
      */
     void InitProperties();
     /**
-     * @brief Restores the 84 saved properties from bag, in their saving
+     * @brief Restores the 86 saved properties (the 84 published, then the
+     * sheet's PageWidth and PageHeight) from bag, in their saving
      * order. A missing or unreadable value takes its default.
      */
     void ReadProperties(quirra::PropertyBag &bag);
-    /** @brief Saves the 84 properties into bag, each with its default. */
+    /** @brief Saves the 86 properties into bag, each with its default. */
     void WriteProperties(quirra::PropertyBag &bag) const;
 
     /**

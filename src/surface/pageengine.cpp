@@ -110,6 +110,7 @@ public:
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
     QPageSize pageSize{QPageSize::Letter};
     int paperCode = 1;
+    QSize customPaper; // twips; empty: none given
     int originLeft = 0;
     int originTop = 0;
     int marginLeft = 0;
@@ -154,7 +155,7 @@ void PageEngine::Private::takeLayout(const QPageLayout &wanted, int wantedCode)
     const QPageLayout taken = (!preview && target) ? target->acceptedLayout(wanted) : wanted;
     orientation = taken.orientation();
     const QPageSize takenSize = taken.pageSize();
-    if (takenSize.isValid() && !takenSize.isEquivalentTo(pageSizeForPaperCode(wantedCode))) {
+    if (takenSize.isValid() && !takenSize.isEquivalentTo(wanted.pageSize())) {
         pageSize = takenSize;
         paperCode = paperCodeForPageSize(takenSize);
     } else {
@@ -467,9 +468,9 @@ int PageEngine::orientation() const
 
 void PageEngine::setPaperSize(int paperCode)
 {
-    const QPageSize size = pageSizeForPaperCode(paperCode);
+    const QPageSize size = pageSizeForPaper(paperCode, d->customPaper);
     if (!size.isValid()) {
-        qCWarning(lcSurface) << "paper code" << paperCode << "is not known; the paper stays";
+        qCWarning(lcSurface) << "paper code" << paperCode << "has no size; the paper stays";
         return;
     }
     QPageLayout wanted = d->wantedLayout();
@@ -480,6 +481,16 @@ void PageEngine::setPaperSize(int paperCode)
 int PageEngine::paperSize() const
 {
     return d->paperCode;
+}
+
+void PageEngine::setCustomPaperSize(int widthTwips, int heightTwips)
+{
+    d->customPaper = widthTwips > 0 && heightTwips > 0 ? QSize(widthTwips, heightTwips) : QSize();
+}
+
+QSize PageEngine::paperSizeTwips() const
+{
+    return uprightTwips(d->pageSize);
 }
 
 void PageEngine::setMarginLeft(int twips)

@@ -46,7 +46,8 @@ QStringList applyOrder()
                        "PieceNumDown", "PieceOrientation", "PageSize",       "PageSizeNum",
                        "PieceHeight",  "PieceWidth",       "PiecePitchHorz", "PiecePitchVert",
                        "PrinterLeft",  "PrinterTop"} +
-           itemNames({"Address", "Return", "Message1", "Message2", "Stamp"});
+           itemNames({"Address", "Return", "Message1", "Message2", "Stamp"}) +
+           QStringList{"PageWidth", "PageHeight"};
 }
 
 QStringList emitted(const QSignalSpy &spy)
