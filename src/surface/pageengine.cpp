@@ -60,28 +60,6 @@ int clampToInt(double twips)
                           double(std::numeric_limits<int>::max())));
 }
 
-QSizeF paperTwips(const QPageLayout &layout)
-{
-    return layout.fullRect(QPageLayout::Point).size() * twipsPerPoint;
-}
-
-Qt::Alignment alignmentForCode(int code)
-{
-    switch (code) {
-    case 0:
-        return Qt::AlignLeft;
-    case 1:
-        return Qt::AlignHCenter;
-    case 2:
-        return Qt::AlignRight;
-    case 9:
-        return Qt::AlignJustify;
-    default:
-        qCWarning(lcSurface) << "text alignment" << code << "is not known; text is set left";
-        return Qt::AlignLeft;
-    }
-}
-
 } // namespace
 
 class PageEngine::Private
@@ -649,7 +627,7 @@ void PageEngine::setLineSpacing(int percent)
 
 void PageEngine::setTextAlign(int code)
 {
-    d->alignment = alignmentForCode(code);
+    d->alignment = TextFormatter::alignmentForCode(code);
 }
 
 void PageEngine::textBox(const QString &text, int left, int top, int width, int height, bool wrap,

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "surface/papercodes.h"
 
+#include <QRectF>
 #include <QSizeF>
 
 namespace quirra {
@@ -39,6 +40,11 @@ QPageSize pageSizeForPaper(int code, const QSize &customTwips)
 {
     return code == CustomPaperCode ? pageSizeForTwips(customTwips.width(), customTwips.height())
                                    : pageSizeForPaperCode(code);
+}
+
+QSizeF paperTwips(const QPageLayout &layout)
+{
+    return layout.fullRect(QPageLayout::Point).size() * twipsPerPoint;
 }
 
 QSize uprightTwips(const QPageSize &size)

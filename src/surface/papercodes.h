@@ -5,6 +5,7 @@
 #include "model/papersizes.h"
 #include "quirracontrol_export.h"
 
+#include <QPageLayout>
 #include <QPageSize>
 
 namespace quirra {
@@ -35,6 +36,9 @@ QUIRRACONTROL_EXPORT QPageSize pageSizeForTwips(int widthTwips, int heightTwips)
  * or for CustomPaperCode the custom size in twips (pageSizeForTwips()).
  */
 QUIRRACONTROL_EXPORT QPageSize pageSizeForPaper(int code, const QSize &customTwips);
+
+/** @brief The paper of a page layout as it is oriented, in twips. */
+QUIRRACONTROL_EXPORT QSizeF paperTwips(const QPageLayout &layout);
 
 /** @brief A paper's size in whole twips, upright (the shorter side first). */
 QUIRRACONTROL_EXPORT QSize uprightTwips(const QPageSize &size);
