@@ -155,9 +155,10 @@ public:
      */
     Q_INVOKABLE void PieceSelectDialogShow(bool &changed);
     /**
-     * @brief Lets the user edit the current piece's geometry. On OK the edited
-     * piece is applied (and marked custom); changed tells whether the user
-     * accepted.
+     * @brief Lets the user edit the current piece's geometry. The dialog
+     * opens on the piece's own page (its description and real size), so OK
+     * alone keeps the paper. On OK the edited piece is applied (and marked
+     * custom); changed tells whether the user accepted.
      */
     Q_INVOKABLE void PieceCustomizationDialogShow(bool &changed);
     /**
@@ -193,8 +194,9 @@ public:
     /**
      * @brief Makes a piece entry the current piece, as the piece dialogs do
      * when the user accepts: loads the piece of the entry's name, sets the
-     * entry's geometry (lengths in inches) over it, derives orientation and
-     * paper, lays the five items out afresh and announces the change.
+     * entry's geometry and page size (lengths in inches) over it, derives
+     * orientation and paper, lays the five items out afresh and announces
+     * the change.
      */
     void ApplyPiece(const quirra::PieceSpec &entry);
 
