@@ -21,6 +21,9 @@ PieceSpec PieceEntryOf(const Piece &piece)
     entry.LabelWidth = piece.PieceWidth;
     entry.PitchHorz = piece.PiecePitchHorz;
     entry.PitchVert = piece.PiecePitchVert;
+    entry.PageDesc = piece.PageSize;
+    entry.PageWidth = piece.PageWidth;
+    entry.PageHeight = piece.PageHeight;
     return entry;
 }
 
@@ -37,6 +40,8 @@ void ApplyPieceSpec(const PieceSpec &entry, PieceModel &model)
     piece.PiecePitchVert = entry.PitchVert;
     piece.IsCustom = entry.IsCustom ? 1 : 0;
     piece.PageSize = entry.PageDesc;
+    piece.PageWidth = entry.PageWidth;
+    piece.PageHeight = entry.PageHeight;
     DerivePageSetup(piece);
     DefaultLayout(piece.PieceHeight, piece.PieceWidth, model.item(ItemId::Address),
                   model.item(ItemId::Return), model.item(ItemId::Stamp),

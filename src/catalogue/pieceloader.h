@@ -11,23 +11,23 @@
 namespace quirra {
 
 /**
- * @brief Puts a piece's geometry into the model and gives its items their
- * default layout.
- *
- * Copies margins, counts, piece size, pitch (inches), the page description
- * and the custom flag (1 when set, else 0) into model.piece, derives the
- * orientation and paper code, then lays out the five items for the piece's
- * size. The piece's name, the printer offsets and the envelope orientation
- * are left as they are. Choosing or customising a piece thus always resets
- * the item layout.
- */
-/**
- * @brief The piece's geometry as a catalogue entry (name, margins, counts,
- * sizes and pitch, in inches), the form the piece dialogs edit. The page
- * description and page size are left for the caller.
+ * @brief The piece as a catalogue entry (name, margins, counts, sizes and
+ * pitch, the page's description and real size, in inches), the form the
+ * piece dialogs edit. The custom flag is left for the caller.
  */
 QUIRRACONTROL_EXPORT PieceSpec PieceEntryOf(const Piece &piece);
 
+/**
+ * @brief Puts a piece's geometry into the model and gives its items their
+ * default layout.
+ *
+ * Copies margins, counts, piece size, pitch, the page's description and real
+ * size (inches) and the custom flag (1 when set, else 0) into model.piece,
+ * derives the orientation and paper code, then lays out the five items for
+ * the piece's size. The piece's name, the printer offsets and the envelope
+ * orientation are left as they are. Choosing or customising a piece thus
+ * always resets the item layout.
+ */
 QUIRRACONTROL_EXPORT void ApplyPieceSpec(const PieceSpec &entry, PieceModel &model);
 
 /**

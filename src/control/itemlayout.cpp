@@ -288,7 +288,6 @@ void ItemLayout::customizePiece()
 {
     Piece &piece = m_copy.model().piece;
     PieceSpec entry = PieceEntryOf(piece);
-    entry.PageDesc = piece.PageSize;
     entry.IsCustom = piece.IsCustom != 0;
     if (ShowPieceCustomizationDialog(this, entry)) {
         setChanged(true);
@@ -296,6 +295,8 @@ void ItemLayout::customizePiece()
         // where the developer put them, for the layout editor to adjust.
         piece.PieceName = entry.Name;
         piece.PageSize = entry.PageDesc;
+        piece.PageWidth = entry.PageWidth;
+        piece.PageHeight = entry.PageHeight;
         piece.PieceMarginTop = entry.MarginTop;
         piece.PieceMarginLeft = entry.MarginSide;
         piece.PieceNumAcross = entry.NumAcross;

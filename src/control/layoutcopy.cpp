@@ -93,6 +93,12 @@ const Field<Piece> PieceFieldTable[] = {
     QUIRRA_PLAIN(Piece, PrinterTop),
 };
 
+// The sheet's real size, read and written after every published name.
+const Field<Piece> PageSizeFieldTable[] = {
+    QUIRRA_PLAIN(Piece, PageWidth),
+    QUIRRA_PLAIN(Piece, PageHeight),
+};
+
 #undef QUIRRA_PLAIN
 
 const Field<Item> *findItemField(QStringView name)
@@ -107,6 +113,10 @@ const Field<Item> *findItemField(QStringView name)
 const Field<Piece> *findPieceField(QStringView name)
 {
     for (const Field<Piece> &field : PieceFieldTable) {
+        if (name == QLatin1String(field.name))
+            return &field;
+    }
+    for (const Field<Piece> &field : PageSizeFieldTable) {
         if (name == QLatin1String(field.name))
             return &field;
     }
@@ -149,6 +159,14 @@ QStringList pieceNames(bool withName)
     return names;
 }
 
+QStringList pageSizeNames()
+{
+    QStringList names;
+    for (const Field<Piece> &field : PageSizeFieldTable)
+        names.append(QLatin1String(field.name));
+    return names;
+}
+
 void writeProperty(Quirra &control, const QString &name, const QVariant &value)
 {
     const PropertyInfo *property = PropertyTable::find(name);
@@ -180,15 +198,17 @@ const QStringList &LayoutCopy::readOrder()
     // writing; either way every item is read and written whole.
     static const QStringList names = itemNames({ItemId::Address, ItemId::Message1, ItemId::Message2,
                                                 ItemId::Return, ItemId::Stamp}) +
-                                     pieceNames(true);
+                                     pieceNames(true) + pageSizeNames();
     return names;
 }
 
 const QStringList &LayoutCopy::writeOrder()
 {
     static const QStringList names =
-        pieceNames(false) + itemNames({ItemId::Address, ItemId::Return, ItemId::Message1,
-                                       ItemId::Message2, ItemId::Stamp});
+        pieceNames(false) +
+        itemNames({ItemId::Address, ItemId::Return, ItemId::Message1, ItemId::Message2,
+                   ItemId::Stamp}) +
+        pageSizeNames();
     return names;
 }
 

@@ -35,16 +35,18 @@ public:
     static const QStringList &itemFields();
 
     /**
-     * @brief The 75 property names readFrom() reads, in its order: the items
-     * Address, Message1, Message2, Return, Stamp with their fields, then the
-     * fifteen piece names from PieceName to PrinterTop.
+     * @brief The 77 property names readFrom() reads, in its order: the items
+     * Address, Message1, Message2, Return, Stamp with their fields, the
+     * fifteen piece names from PieceName to PrinterTop, then PageWidth and
+     * PageHeight.
      */
     static const QStringList &readOrder();
 
     /**
-     * @brief The 74 names writeTo() writes whatever they hold, in its order:
-     * the fourteen piece names from IsCustom to PrinterTop, then the items
-     * Address, Return, Message1, Message2, Stamp with their fields.
+     * @brief The 76 names writeTo() writes whatever they hold, in its order:
+     * the fourteen piece names from IsCustom to PrinterTop, the items
+     * Address, Return, Message1, Message2, Stamp with their fields, then
+     * PageWidth and PageHeight.
      * PieceName is not among them: it is written first, and only when it differs.
      */
     static const QStringList &writeOrder();

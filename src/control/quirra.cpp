@@ -356,11 +356,9 @@ void Quirra::PieceSelectDialogShow(bool &changed)
 
 void Quirra::PieceCustomizationDialogShow(bool &changed)
 {
-    const Piece &piece = model().piece;
-    PieceSpec entry = PieceEntryOf(piece);
-    // The paper goes in as its code; the dialog shows the page size whose
-    // caption matches, or the first one, for the user to choose.
-    entry.PageDesc = QString::number(piece.PageSizeNum);
+    // The paper goes in as its description and real size, so that OK keeps
+    // it: its number alone matches no caption of the dialog.
+    PieceSpec entry = PieceEntryOf(model().piece);
     changed = ShowPieceCustomizationDialog(this, entry);
     if (changed)
         ApplyPiece(entry);
@@ -399,6 +397,8 @@ void Quirra::ApplyPiece(const PieceSpec &entry)
     PiecePitchVert(entry.PitchVert);
     IsCustom(entry.IsCustom ? 1 : 0);
     PageSize(entry.PageDesc);
+    PageWidth(entry.PageWidth);
+    PageHeight(entry.PageHeight);
 
     Piece derived = model().piece;
     DerivePageSetup(derived);

@@ -159,9 +159,10 @@ public:
      */
     Q_INVOKABLE void PieceSelectDialogShow(bool &changed);
     /**
-     * @brief Lets the user edit the current piece's geometry. On OK the edited
-     * piece is applied (and marked custom); changed tells whether the user
-     * accepted.
+     * @brief Lets the user edit the current piece's geometry. The dialog
+     * opens on the piece's own page (its description and real size), so OK
+     * alone keeps the paper. On OK the edited piece is applied (and marked
+     * custom); changed tells whether the user accepted.
      */
     Q_INVOKABLE void PieceCustomizationDialogShow(bool &changed);
     /**
@@ -202,18 +203,20 @@ public:
      */
     void InitProperties();
     /**
-     * @brief Restores the 84 saved properties from bag, in their saving
+     * @brief Restores the 86 saved properties (the 84 published, then the
+     * sheet's PageWidth and PageHeight) from bag, in their saving
      * order. A missing or unreadable value takes its default.
      */
     void ReadProperties(quirra::PropertyBag &bag);
-    /** @brief Saves the 84 properties into bag, each with its default. */
+    /** @brief Saves the 86 properties into bag, each with its default. */
     void WriteProperties(quirra::PropertyBag &bag) const;
 
     /**
      * @brief Makes a piece entry the current piece, as the piece dialogs do
      * when the user accepts: loads the piece of the entry's name, sets the
-     * entry's geometry (lengths in inches) over it, derives orientation and
-     * paper, lays the five items out afresh and announces the change.
+     * entry's geometry and page size (lengths in inches) over it, derives
+     * orientation and paper, lays the five items out afresh and announces
+     * the change.
      */
     void ApplyPiece(const quirra::PieceSpec &entry);
 

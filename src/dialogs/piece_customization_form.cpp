@@ -87,11 +87,17 @@ struct BuiltInPage
     float height;
 };
 
+// The sizes are the pages' real sizes in inches, as the piece keeps them
+// whatever unit the caption names: the paper printed on follows from them.
 constexpr BuiltInPage BuiltInPages[] = {
-    {u"Letter (8 ½ x 11 in)", 8.5f, 11.0f}, {u"Letter landscape (11 x 8 ½ in)", 11.0f, 8.5f},
-    {u"A4 (21 x 29.7 cm)", 21.0f, 29.7f},   {u"A4 landscape (29.7 x 21 cm)", 29.7f, 21.0f},
-    {u"A5 (14.8 x 21 cm)", 14.8f, 21.0f},   {u"A5 landscape (21 x 14.8 cm)", 21.0f, 14.8f},
-    {u"B5 (18.2 x 25.7 cm)", 18.2f, 25.7f}, {u"Mini (4 ¼ x 5 in)", 4.25f, 5.0f},
+    {u"Letter (8 ½ x 11 in)", 8.5f, 11.0f},
+    {u"Letter landscape (11 x 8 ½ in)", 11.0f, 8.5f},
+    {u"A4 (21 x 29.7 cm)", 8.2677f, 11.6929f},
+    {u"A4 landscape (29.7 x 21 cm)", 11.6929f, 8.2677f},
+    {u"A5 (14.8 x 21 cm)", 5.8268f, 8.2677f},
+    {u"A5 landscape (21 x 14.8 cm)", 8.2677f, 5.8268f},
+    {u"B5 (18.2 x 25.7 cm)", 7.1654f, 10.1181f},
+    {u"Mini (4 ¼ x 5 in)", 4.25f, 5.0f},
 };
 
 // A stored length as text, as many digits as a single holds.

@@ -61,7 +61,8 @@ public:
     /**
      * @brief The captions the form offers when the catalogue lists no paper
      * size: Letter, Letter landscape, A4, A4 landscape, A5, A5 landscape, B5
-     * and Mini.
+     * and Mini. Whatever unit a caption names, its page size is the page's
+     * real size in inches, as a piece keeps it.
      */
     static QStringList builtInPageSizes();
 

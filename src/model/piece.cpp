@@ -9,31 +9,46 @@
 
 namespace quirra {
 
+namespace {
+
+constexpr double pointsPerInch = 72.0;
+
+QSizeF sheetPoints(const Piece &piece)
+{
+    return QSizeF(double(piece.PageWidth) * pointsPerInch,
+                  double(piece.PageHeight) * pointsPerInch);
+}
+
+} // namespace
+
 bool Piece::operator==(const Piece &o) const
 {
-    return PieceNumAcross == o.PieceNumAcross && PieceNumDown == o.PieceNumDown
-        && PieceOrientation == o.PieceOrientation && PageSizeNum == o.PageSizeNum
-        && IsCustom == o.IsCustom && PrinterTop == o.PrinterTop && PrinterLeft == o.PrinterLeft
-        && PieceMarginTop == o.PieceMarginTop && PieceMarginLeft == o.PieceMarginLeft
-        && PiecePitchVert == o.PiecePitchVert && PiecePitchHorz == o.PiecePitchHorz
-        && PieceHeight == o.PieceHeight && PieceWidth == o.PieceWidth
-        && PieceName == o.PieceName && PageSize == o.PageSize;
+    return PieceNumAcross == o.PieceNumAcross && PieceNumDown == o.PieceNumDown &&
+           PieceOrientation == o.PieceOrientation && PageSizeNum == o.PageSizeNum &&
+           IsCustom == o.IsCustom && PrinterTop == o.PrinterTop && PrinterLeft == o.PrinterLeft &&
+           PieceMarginTop == o.PieceMarginTop && PieceMarginLeft == o.PieceMarginLeft &&
+           PiecePitchVert == o.PiecePitchVert && PiecePitchHorz == o.PiecePitchHorz &&
+           PieceHeight == o.PieceHeight && PieceWidth == o.PieceWidth && PieceName == o.PieceName &&
+           PageSize == o.PageSize && PageWidth == o.PageWidth && PageHeight == o.PageHeight;
 }
 
 void DerivePageSetup(Piece &piece)
 {
     // Single precision, as the geometry itself is held.
-    const float across = float(piece.PieceNumAcross - 1) * piece.PiecePitchHorz
-        + piece.PieceMarginLeft + piece.PieceWidth;
-    const float down = float(piece.PieceNumDown - 1) * piece.PiecePitchVert
-        + piece.PieceMarginTop + piece.PieceHeight;
+    const float across = float(piece.PieceNumAcross - 1) * piece.PiecePitchHorz +
+                         piece.PieceMarginLeft + piece.PieceWidth;
+    const float down = float(piece.PieceNumDown - 1) * piece.PiecePitchVert + piece.PieceMarginTop +
+                       piece.PieceHeight;
     piece.PieceOrientation = across <= down ? eoPortrait : eoLandscape;
 
-    piece.PageSizeNum = PaperLetter;
+    // The No. 10 envelope keeps its code even where its size is unknown; every
+    // other paper is the sheet's real size, so Letter stays 1 and legal 5.
     if (piece.PageSize == EnvelopeTenPageSize)
         piece.PageSizeNum = PaperEnvelope10;
-    else if (piece.PageSize.contains(QLatin1String("14")))
-        piece.PageSizeNum = PaperLegal; // the test is loose on purpose: any "14" means legal
+    else if (piece.PageWidth > 0 && piece.PageHeight > 0)
+        piece.PageSizeNum = qint16(paperCodeForSize(sheetPoints(piece)));
+    else
+        piece.PageSizeNum = PaperLetter;
 }
 
 qint32 inchesToTwips(double inches)
@@ -53,7 +68,8 @@ SlotPlace placeOfSlot(const Piece &piece, int slot)
     SlotPlace place;
     place.row = (slot - 1) / piece.PieceNumAcross;
     place.column = (slot - 1) - place.row * piece.PieceNumAcross;
-    place.top = inchesToTwips(double(float(place.row) * piece.PiecePitchVert + piece.PieceMarginTop));
+    place.top =
+        inchesToTwips(double(float(place.row) * piece.PiecePitchVert + piece.PieceMarginTop));
     place.left =
         inchesToTwips(double(float(place.column) * piece.PiecePitchHorz + piece.PieceMarginLeft));
     return place;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/papersizes.h"
 #include "quirracontrol_export.h"
 
 #include <QString>
@@ -44,18 +45,24 @@ struct QUIRRACONTROL_EXPORT Piece
     float PieceWidth = 0;        ///< inches
     QString PieceName = DefaultPieceName;
     QString PageSize; ///< the catalogue's description of the paper
+    float PageWidth = 0;  ///< the sheet's real width as it is fed, inches; 0 unknown
+    float PageHeight = 0; ///< the sheet's real height as it is fed, inches; 0 unknown
 
     bool operator==(const Piece &other) const;
     bool operator!=(const Piece &other) const { return !(*this == other); }
 };
 
 /**
- * @brief Sets PieceOrientation and PageSizeNum from the geometry and the page
- * description.
+ * @brief Sets PieceOrientation and PageSizeNum from the geometry, the page
+ * description and the sheet's real size.
  *
  * The sheet is portrait unless the pieces reach further across than down (a
- * tie is portrait). The paper is a No. 10 envelope when the description is
- * exactly "4 1/8 x 9 1/2", legal when it holds "14" anywhere, letter otherwise.
+ * tie is portrait). The paper is a No. 10 envelope (20) when the description
+ * is exactly "4 1/8 x 9 1/2"; otherwise it is the paper of the sheet's real
+ * size, PageWidth x PageHeight in either orientation: the printers' code of
+ * that standard paper (1 Letter, 5 Legal, 9 A4, 31 C6, ...; see
+ * paperCodeForSize()), or CustomPaperCode, a paper of exactly the sheet's
+ * size, when no code has it. A sheet of unknown size (0) prints on Letter.
  */
 QUIRRACONTROL_EXPORT void DerivePageSetup(Piece &piece);
 

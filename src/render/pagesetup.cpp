@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "render/pagesetup.h"
 
+#include "model/papersizes.h"
 #include "surface/surface.h"
 
 #include <QString>
+
+#include <cstdlib>
 
 namespace quirra {
 
@@ -36,6 +39,18 @@ bool setVerified(Surface &surface, int value, Set set, Get get)
     return false;
 }
 
+constexpr int HalfPoint = 10; // twips
+
+bool sameUpright(QSize a, QSize b)
+{
+    if (a.width() > a.height())
+        a.transpose();
+    if (b.width() > b.height())
+        b.transpose();
+    return std::abs(a.width() - b.width()) <= HalfPoint &&
+           std::abs(a.height() - b.height()) <= HalfPoint;
+}
+
 } // namespace
 
 bool SetOrientationVerified(Surface &surface, int orientation)
@@ -47,6 +62,20 @@ bool SetPaperSizeVerified(Surface &surface, int paperCode)
 {
     // The paper code is a 16-bit value: compare as the surface hands it back.
     return setVerified(surface, qint16(paperCode), &Surface::setPaperSize, &Surface::paperSize);
+}
+
+bool SetPaperSizeVerified(Surface &surface, int paperCode, const QSize &customTwips)
+{
+    if (paperCode != CustomPaperCode)
+        return SetPaperSizeVerified(surface, paperCode);
+    for (int attempt = 0; attempt < Attempts; ++attempt) {
+        nudge(surface);
+        surface.setCustomPaperSize(customTwips.width(), customTwips.height());
+        surface.setPaperSize(paperCode);
+        if (surface.paperSize() == paperCode && sameUpright(surface.paperSizeTwips(), customTwips))
+            return true;
+    }
+    return false;
 }
 
 } // namespace quirra

@@ -4,6 +4,8 @@
 
 #include "quirracontrol_export.h"
 
+#include <QSize>
+
 namespace quirra {
 
 class Surface;
@@ -21,5 +23,15 @@ QUIRRACONTROL_EXPORT bool SetOrientationVerified(Surface &surface, int orientati
 
 /** @brief The same for the paper code (1 letter, 5 legal, 20 No. 10 envelope, ...). */
 QUIRRACONTROL_EXPORT bool SetPaperSizeVerified(Surface &surface, int paperCode);
+
+/**
+ * @brief The same for a paper code that may be 256, a custom paper of
+ * customTwips (whole twips, either side first): each attempt hands the
+ * surface the custom size before the code, and the paper only counts as
+ * taken when the surface also holds that size, to within half a point. For
+ * any other code customTwips is not used.
+ */
+QUIRRACONTROL_EXPORT bool SetPaperSizeVerified(Surface &surface, int paperCode,
+                                               const QSize &customTwips);
 
 } // namespace quirra

@@ -97,7 +97,9 @@ void PrintRun::RunPrintJob(Surface &surface)
     m_report.clear();
     resetSurface(surface);
     SetOrientationVerified(surface, m_model.piece.PieceOrientation);
-    SetPaperSizeVerified(surface, m_model.piece.PageSizeNum);
+    const Piece &piece = m_model.piece;
+    SetPaperSizeVerified(surface, piece.PageSizeNum,
+                         QSize(inchesToTwips(piece.PageWidth), inchesToTwips(piece.PageHeight)));
 
     if (!abortFlag()) {
         surface.setAction(SurfaceAction::StartDoc);

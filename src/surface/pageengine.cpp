@@ -67,6 +67,7 @@ public:
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
     QPageSize pageSize{QPageSize::Letter};
     int paperCode = 1;
+    QSize customPaper; // twips; empty: none given
     int originLeft = 0;
     int originTop = 0;
     int marginLeft = 0;
@@ -112,7 +113,7 @@ void PageEngine::Private::takeLayout(const QPageLayout &wanted, int wantedCode)
     const QPageLayout taken = (!preview && target) ? target->acceptedLayout(wanted) : wanted;
     orientation = taken.orientation();
     const QPageSize takenSize = taken.pageSize();
-    if (takenSize.isValid() && !takenSize.isEquivalentTo(pageSizeForPaperCode(wantedCode))) {
+    if (takenSize.isValid() && !takenSize.isEquivalentTo(wanted.pageSize())) {
         pageSize = takenSize;
         paperCode = paperCodeForPageSize(takenSize);
     } else {
@@ -428,9 +429,9 @@ int PageEngine::orientation() const
 
 void PageEngine::setPaperSize(int paperCode)
 {
-    const QPageSize size = pageSizeForPaperCode(paperCode);
+    const QPageSize size = pageSizeForPaper(paperCode, d->customPaper);
     if (!size.isValid()) {
-        qCWarning(lcSurface) << "paper code" << paperCode << "is not known; the paper stays";
+        qCWarning(lcSurface) << "paper code" << paperCode << "has no size; the paper stays";
         return;
     }
     QPageLayout wanted = d->wantedLayout();
@@ -441,6 +442,16 @@ void PageEngine::setPaperSize(int paperCode)
 int PageEngine::paperSize() const
 {
     return d->paperCode;
+}
+
+void PageEngine::setCustomPaperSize(int widthTwips, int heightTwips)
+{
+    d->customPaper = widthTwips > 0 && heightTwips > 0 ? QSize(widthTwips, heightTwips) : QSize();
+}
+
+QSize PageEngine::paperSizeTwips() const
+{
+    return uprightTwips(d->pageSize);
 }
 
 void PageEngine::setMarginLeft(int twips)
@@ -599,7 +610,7 @@ void PageEngine::setLineSpacing(int percent)
 
 void PageEngine::setTextAlign(int code)
 {
-    d->alignment = alignmentForCode(code);
+    d->alignment = TextFormatter::alignmentForCode(code);
 }
 
 void PageEngine::textBox(const QString &text, int left, int top, int width, int height, bool wrap,

@@ -90,6 +90,8 @@ public:
     int orientation() const override;
     void setPaperSize(int paperCode) override;
     int paperSize() const override;
+    void setCustomPaperSize(int widthTwips, int heightTwips) override;
+    QSize paperSizeTwips() const override;
     void setMarginLeft(int twips) override;
     void setMarginTop(int twips) override;
     void setMarginRight(int twips) override;

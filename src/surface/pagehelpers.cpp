@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "surface/pagehelpers_p.h"
 
-#include "surface/logging_p.h"
-
 #include <QPaintDevice>
 #include <QPainter>
 #include <QPicture>
@@ -13,10 +11,6 @@
 #include <limits>
 
 namespace quirra {
-
-namespace {
-constexpr double twipsPerPoint = 20.0;
-} // namespace
 
 // A picture played on a painter is scaled by the device's resolution over
 // the picture's own; undo that, so that the painter's transform alone says
@@ -39,28 +33,6 @@ int clampToInt(double twips)
 {
     return int(std::clamp(std::round(twips), double(std::numeric_limits<int>::min()),
                           double(std::numeric_limits<int>::max())));
-}
-
-QSizeF paperTwips(const QPageLayout &layout)
-{
-    return layout.fullRect(QPageLayout::Point).size() * twipsPerPoint;
-}
-
-Qt::Alignment alignmentForCode(int code)
-{
-    switch (code) {
-    case 0:
-        return Qt::AlignLeft;
-    case 1:
-        return Qt::AlignHCenter;
-    case 2:
-        return Qt::AlignRight;
-    case 9:
-        return Qt::AlignJustify;
-    default:
-        qCWarning(lcSurface) << "text alignment" << code << "is not known; text is set left";
-        return Qt::AlignLeft;
-    }
 }
 
 } // namespace quirra

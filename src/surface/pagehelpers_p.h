@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPageLayout>
-#include <QSizeF>
-#include <Qt>
 
 class QPainter;
 class QPicture;
@@ -23,12 +20,5 @@ void playPicture(QPainter &painter, const QPicture &picture);
 /** @brief Twips as a whole number, held within int so that a run far off the page cannot overflow.
  */
 int clampToInt(double twips);
-
-/** @brief The paper of a page layout in twips, as oriented. */
-QSizeF paperTwips(const QPageLayout &layout);
-
-/** @brief The alignment of a surface alignment code; unknown codes set text left, with a warning.
- */
-Qt::Alignment alignmentForCode(int code);
 
 } // namespace quirra

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "surface/surface.h"
 
+#include "model/papersizes.h"
+
+#include <cmath>
+
 namespace quirra {
 
 // Out of line so the class has one home for its vtable.
@@ -19,6 +23,14 @@ void Surface::clearClipBox() {}
 QRect Surface::paperRect() const
 {
     return QRect();
+}
+
+void Surface::setCustomPaperSize(int, int) {}
+
+QSize Surface::paperSizeTwips() const
+{
+    const QSizeF points = paperSizePoints(paperSize());
+    return QSize(int(std::lround(points.width() * 20.0)), int(std::lround(points.height() * 20.0)));
 }
 
 } // namespace quirra

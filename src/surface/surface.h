@@ -6,6 +6,7 @@
 #include "records/textmeasurer.h"
 
 #include <QRect>
+#include <QSize>
 #include <QString>
 
 namespace quirra {
@@ -77,14 +78,33 @@ public:
 
     /**
      * @brief Paper by its paper code (1 Letter, 5 Legal, 9 A4, 20 No. 10
-     * envelope, 27 DL, 28 C5, ...).
+     * envelope, 27 DL, 28 C5, ...; model/papersizes.h), or 256
+     * (CustomPaperCode) for the paper setCustomPaperSize() gave.
      *
-     * An unknown code is refused and the old paper stays. While a document is
-     * open the change takes effect on the next page.
+     * An unknown code, or 256 with no custom size given, is refused and the
+     * old paper stays. While a document is open the change takes effect on
+     * the next page.
      */
     virtual void setPaperSize(int paperCode) = 0;
-    /** @brief The code of the paper the output really took. */
+    /** @brief The code of the paper the output really took; 256 for a paper no code names. */
     virtual int paperSize() const = 0;
+
+    /**
+     * @brief The size of the custom paper, in whole twips, that the next
+     * setPaperSize(256) takes; which side comes first does not matter, as
+     * orientation is a setting of its own. A side that is not positive
+     * clears the custom size.
+     *
+     * The base class keeps no custom paper, so such a surface refuses 256.
+     */
+    virtual void setCustomPaperSize(int widthTwips, int heightTwips);
+    /**
+     * @brief The size of the paper the output really took, in whole twips,
+     * upright (the shorter side first).
+     *
+     * The base class gives the size of paperSize()'s code.
+     */
+    virtual QSize paperSizeTwips() const;
 
     /**
      * @brief Page margins, in twips, inside the printable area.

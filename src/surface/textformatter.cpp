@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "surface/textformatter_p.h"
 
+#include "surface/logging_p.h"
 #include "surface/textblock_p.h"
 
 #include <QFontMetricsF>
@@ -48,6 +49,23 @@ size_t qHash(const TextFormatter::WidthKey &key, size_t seed)
 size_t qHash(const TextFormatter::BlockKey &key, size_t seed)
 {
     return qHashMulti(seed, key.font, key.text, key.width, key.wrap, key.alignment, key.spacing);
+}
+
+Qt::Alignment TextFormatter::alignmentForCode(int code)
+{
+    switch (code) {
+    case 0:
+        return Qt::AlignLeft;
+    case 1:
+        return Qt::AlignHCenter;
+    case 2:
+        return Qt::AlignRight;
+    case 9:
+        return Qt::AlignJustify;
+    default:
+        qCWarning(lcSurface) << "text alignment" << code << "is not known; text is set left";
+        return Qt::AlignLeft;
+    }
 }
 
 TextFormatter::TextFormatter() : m_blocks(maxBlocks), m_widths(maxWidths)

@@ -32,6 +32,12 @@ public:
     TextFormatter(const TextFormatter &) = delete;
     TextFormatter &operator=(const TextFormatter &) = delete;
 
+    /**
+     * @brief The alignment of an alignment code: 0 left, 1 centre, 2 right,
+     * 9 justified; any other code is left, with a warning.
+     */
+    static Qt::Alignment alignmentForCode(int code);
+
     void setFamily(const QString &family);
     /** @brief Font size in twips (points × 20); kept at 1 or more. */
     void setSizeTwips(int twips);

@@ -29,7 +29,8 @@ QStringList applyOrder()
                        "PieceNumDown", "PieceOrientation", "PageSize",       "PageSizeNum",
                        "PieceHeight",  "PieceWidth",       "PiecePitchHorz", "PiecePitchVert",
                        "PrinterLeft",  "PrinterTop"} +
-           itemNames({"Address", "Return", "Message1", "Message2", "Stamp"});
+           itemNames({"Address", "Return", "Message1", "Message2", "Stamp"}) +
+           QStringList{"PageWidth", "PageHeight"};
 }
 
 QString text(const ItemLayout &page, const char *label)

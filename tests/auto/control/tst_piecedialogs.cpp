@@ -27,6 +27,8 @@ private Q_SLOTS:
 
     void dialogShow_data();
     void dialogShow();
+    void customizingKeepsOrSetsThePaper_data();
+    void customizingKeepsOrSetsThePaper();
 };
 
 void TestPieceDialogs::dialogShow_data()
@@ -158,6 +160,47 @@ void TestPieceDialogs::dialogShow()
     QCOMPARE(layout, (select ? QList<int>{1, 1, 0, 20, 1} : QList<int>{3, 9, 1, 1, 0}));
     if (!select)
         QCOMPARE(control.PageSize(), QStringLiteral("Letter (8 1/2 x 11 in.)"));
+}
+
+void TestPieceDialogs::customizingKeepsOrSetsThePaper_data()
+{
+    QTest::addColumn<QString>("piece");
+    QTest::addColumn<QString>("chosen"); // the page size picked; empty: OK at once
+    QTest::addColumn<int>("paper");
+    QTest::addColumn<float>("pageWidth");
+
+    QTest::newRow("default-envelope-ok-keeps-envelope")
+        << "Size 10 - Envelope" << QString() << 20 << 9.5f;
+    QTest::newRow("c6-envelope-ok-keeps-c6") << "C6 - Envelope" << QString() << 31 << 6.378f;
+    QTest::newRow("letter-sheet-moved-to-a4")
+        << "5160 - Address Labels"
+        << "A4 (210 x 297 mm = 8.27 x 11.69 in.)" << 9 << 8.2677f;
+}
+
+void TestPieceDialogs::customizingKeepsOrSetsThePaper()
+{
+    QFETCH(QString, piece);
+    QFETCH(QString, chosen);
+    Quirra control;
+    control.PieceName(piece);
+    const QString description = control.PageSize();
+    ModalDriver driver;
+    driver.onModal(QStringLiteral("piece_customization_form"), [&](QDialog *dialog) {
+        if (!chosen.isEmpty()) {
+            auto *pageSize = dialog->findChild<QComboBox *>(QStringLiteral("page_size_cbo"));
+            QVERIFY(pageSize && pageSize->findText(chosen) >= 0);
+            pageSize->setCurrentIndex(pageSize->findText(chosen));
+        }
+        click(dialog, "ok_btn");
+    });
+    bool changed = false;
+    control.PieceCustomizationDialogShow(changed);
+
+    QVERIFY(!driver.watchdogFired());
+    QVERIFY(changed);
+    QCOMPARE(control.PageSize(), chosen.isEmpty() ? description : chosen);
+    QTEST(int(control.PageSizeNum()), "paper");
+    QTEST(control.PageWidth(), "pageWidth");
 }
 
 QTEST_MAIN(TestPieceDialogs)

@@ -206,9 +206,9 @@ private Q_SLOTS:
     {
         Quirra control;
         PieceSpec entry{ShippingLabels,
-                        QStringLiteral("8 1/2 x 14"),
-                        0,
-                        0,
+                        QStringLiteral("Legal"),
+                        8.5f,
+                        14,
                         0.5f,
                         0.25f,
                         2.5f,
@@ -223,7 +223,7 @@ private Q_SLOTS:
         control.ApplyPiece(entry);
 
         // The entry's geometry wins over the catalogue's record of the same name;
-        // the orientation and paper follow from it ("14": legal, taller than wide).
+        // the orientation and paper follow from it (a legal sheet, taller than wide).
         const QList<float> read = {control.PieceWidth(),
                                    control.PieceHeight(),
                                    control.PiecePitchVert(),

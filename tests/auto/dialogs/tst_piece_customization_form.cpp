@@ -141,8 +141,9 @@ void TestPieceCustomizationForm::builtInPagesWithoutCatalogue()
     QCOMPARE(f.pageSize->itemText(0), QStringLiteral("Letter (8 ½ x 11 in)"));
     QCOMPARE(f.pageSize->itemText(7), QStringLiteral("Mini (4 ¼ x 5 in)"));
     QCOMPARE(f.pageSize->currentIndex(), 2);
-    QCOMPARE(f.form.acceptedEntry().PageWidth, 21.0f);
-    QCOMPARE(f.form.acceptedEntry().PageHeight, 29.7f);
+    // The page's real size, in inches as the piece keeps it, whatever the caption's unit.
+    QCOMPARE(f.form.acceptedEntry().PageWidth, 8.2677f);
+    QCOMPARE(f.form.acceptedEntry().PageHeight, 11.6929f);
 }
 
 void TestPieceCustomizationForm::typing_data()

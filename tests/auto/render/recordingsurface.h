@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/papersizes.h"
 #include "surface/surface.h"
 
 #include <QStringList>
@@ -55,6 +56,18 @@ public:
             m_paper = v;
     }
     int paperSize() const override { return m_paper; }
+    QSize takenCustom; // the custom paper reported taken; empty: the one given
+    void setCustomPaperSize(int w, int h) override
+    {
+        log(QStringLiteral("custom %1 x %2").arg(w).arg(h));
+        m_custom = QSize(w, h);
+    }
+    QSize paperSizeTwips() const override
+    {
+        if (m_paper != quirra::CustomPaperCode)
+            return Surface::paperSizeTwips();
+        return takenCustom.isEmpty() ? m_custom : takenCustom;
+    }
     void setMarginLeft(int t) override
     {
         log(QStringLiteral("marginLeft %1").arg(t));
@@ -111,6 +124,7 @@ private:
     bool m_preview = false;
     int m_orientation = 0;
     int m_paper = 1;
+    QSize m_custom;
     int m_orientationTries = 0;
     int m_paperTries = 0;
     int m_marginLeft = 0;

@@ -5,6 +5,7 @@
 #include "pdfprobe.h"
 #include "spoolfixture.h"
 
+#include "catalogue/catalogue.h"
 #include "catalogue/pieceloader.h"
 #include "render/messagehook.h"
 #include "render/pdfexport.h"
@@ -45,6 +46,8 @@ private Q_SLOTS:
     void labelsLandWhereTheSheetHasThem();
     void itemPlacement_data();
     void itemPlacement();
+    void everyProductOnItsRealSheet_data();
+    void everyProductOnItsRealSheet();
 
 private:
     QString pdfPath(const QString &name) const { return m_dir.filePath(name); }
@@ -108,6 +111,76 @@ void TestPdfRun::labelsLandWhereTheSheetHasThem()
                                                 SharedSpool::instance().reader());
     setMessageHook({});
     QVERIFY(failed.errorCode != 0 && failed.pieces == 0);
+}
+
+void TestPdfRun::everyProductOnItsRealSheet_data()
+{
+    QTest::addColumn<QString>("piece");
+    const QString file = CatalogueFilePath();
+    int products = 0;
+    for (const QString &family : {LaserFamilySection, DotMatrixFamilySection}) {
+        for (const QString &product : ReadProductList(file, family)) {
+            for (const QString &piece : ReadPieceList(file, product)) {
+                QTest::newRow(qPrintable(piece)) << piece;
+                ++products;
+            }
+        }
+    }
+    QCOMPARE(products, 139);
+}
+
+// A full sheet of each shipped product: the page is the sheet's real size
+// and each slot's marker lies where the sheet's geometry puts its address.
+void TestPdfRun::everyProductOnItsRealSheet()
+{
+    QFETCH(QString, piece);
+    PieceModel &model = PieceModel::shared();
+    QVERIFY(LoadPieceByName(piece, model));
+    const PieceSpec sheet = ReadPieceSpec(CatalogueFilePath(), piece);
+    const Piece &p = model.piece;
+    const int perSheet = p.PieceNumAcross * p.PieceNumDown;
+    QStringList markers;
+    for (int slot = 1; slot <= perSheet; ++slot)
+        markers.append(QStringLiteral("Q%1").arg(slot));
+    fixture::feed(markers);
+    const QString pdf = pdfPath(QStringLiteral("product.pdf"));
+    QCOMPARE(PrintSpoolToPdf(pdf, model, SharedSpool::instance().reader()).errorCode, 0);
+
+    const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
+    QCOMPARE(sizes.size(), 1);
+    QSizeF page = sizes.first();
+    const QSizeF real(sheet.PageWidth * 72.0, sheet.PageHeight * 72.0);
+    if ((page.width() > page.height()) != (real.width() > real.height()))
+        page.transpose();
+    QVERIFY2(qAbs(page.width() - real.width()) <= 1.5 && qAbs(page.height() - real.height()) <= 1.5,
+             qPrintable(QStringLiteral("page %1 x %2 pt, sheet %3 x %4 pt")
+                            .arg(sizes.first().width())
+                            .arg(sizes.first().height())
+                            .arg(real.width())
+                            .arg(real.height())));
+
+    const Item &address = model.item(ItemId::Address);
+    const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
+    for (int slot = 1; slot <= perSheet; ++slot) {
+        const SlotPlace place = placeOfSlot(p, slot);
+        // What lies in the strip the printer cannot reach is drawn at its edge.
+        const double left =
+            std::max(place.left + inchesToTwips(address.Left), inchesToTwips(p.PrinterLeft)) / 20.0;
+        const double top =
+            std::max(place.top + inchesToTwips(address.Top), inchesToTwips(p.PrinterTop)) / 20.0;
+        const QString marker = QStringLiteral("Q%1").arg(slot);
+        const pdfprobe::Word *w = findWord(words, 1, marker);
+        QVERIFY2(w, qPrintable(marker + QStringLiteral(" is not on the page")));
+        QVERIFY2(qAbs(w->box.left() - left) < 1 && w->box.top() > top - 1 &&
+                     w->box.top() < top + 6 && w->box.right() <= sizes.first().width() &&
+                     w->box.bottom() <= sizes.first().height(),
+                 qPrintable(QStringLiteral("%1 at %2, %3 pt; its box at %4, %5 pt")
+                                .arg(marker)
+                                .arg(w->box.left())
+                                .arg(w->box.top())
+                                .arg(left)
+                                .arg(top)));
+    }
 }
 
 void TestPdfRun::itemPlacement_data()

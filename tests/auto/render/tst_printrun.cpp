@@ -76,29 +76,46 @@ void TestPrintRun::verifiedPageSetup_data()
 {
     QTest::addColumn<int>("refusals");
     QTest::addColumn<int>("attempts");
-    QTest::newRow("taken-at-once") << 0 << 1;
-    QTest::newRow("taken-on-the-fourth-try") << 3 << 4;
-    QTest::newRow("never-taken-stops-after-ten") << -1 << 10;
+    QTest::addColumn<int>("paper");
+    QTest::addColumn<QSize>("takenCustom"); // the custom size the surface reports; empty: as given
+    QTest::addColumn<int>("paperAttempts");
+    QTest::newRow("taken-at-once") << 0 << 1 << 20 << QSize() << 1;
+    QTest::newRow("taken-on-the-fourth-try") << 3 << 4 << 20 << QSize() << 4;
+    QTest::newRow("never-taken-stops-after-ten") << -1 << 10 << 20 << QSize() << 10;
+    QTest::newRow("custom-paper-taken-at-once") << 0 << 1 << 256 << QSize() << 1;
+    QTest::newRow("custom-paper-of-another-size-is-not-taken")
+        << 0 << 1 << 256 << QSize(12240, 15840) << 10;
 }
 
 void TestPrintRun::verifiedPageSetup()
 {
     QFETCH(int, refusals);
     QFETCH(int, attempts);
+    QFETCH(int, paper);
+    QFETCH(QSize, takenCustom);
+    QFETCH(int, paperAttempts);
     fixture::feed({});
-    PieceModel::shared().piece.PieceOrientation = 1;
-    PieceModel::shared().piece.PageSizeNum = 20;
+    Piece &piece = PieceModel::shared().piece;
+    piece.PieceOrientation = 1;
+    piece.PageSizeNum = qint16(paper);
+    piece.PageWidth = 14.8f; // a custom paper is the sheet's real size, in twips
+    piece.PageHeight = 1;
     RecordingSurface surface;
     surface.acceptOrientationAfter = refusals;
     surface.acceptPaperAfter = refusals;
+    surface.takenCustom = takenCustom;
     PrintRun(PieceModel::shared(), SharedSpool::instance().reader()).RunPrintJob(surface);
 
     QCOMPARE(surface.count(QStringLiteral("orientation 1")), attempts);
-    QCOMPARE(surface.count(QStringLiteral("paper 20")), attempts);
+    QCOMPARE(surface.count(QStringLiteral("paper %1").arg(paper)), paperAttempts);
+    if (paper == CustomPaperCode) {
+        const int first = int(surface.calls.indexOf(QStringLiteral("paper 256")));
+        QCOMPARE(surface.calls.at(first - 1), QStringLiteral("custom 21312 x 1440"));
+    }
     // Each attempt writes a line of 23 blanks four times at 2000, 2000 first.
     const QString blanks = QStringLiteral("text [%1]").arg(QString(23, QLatin1Char(' ')));
-    QCOMPARE(surface.count(blanks), 2 * 4 * attempts);
-    QCOMPARE(surface.count(QStringLiteral("x 2000")), 2 * attempts);
+    QCOMPARE(surface.count(blanks), 4 * (attempts + paperAttempts));
+    QCOMPARE(surface.count(QStringLiteral("x 2000")), attempts + paperAttempts);
     const int firstSet = int(surface.calls.indexOf(QStringLiteral("orientation 1")));
     QCOMPARE(surface.calls.mid(firstSet - 6, 6),
              QStringList({QStringLiteral("x 2000"), QStringLiteral("y 2000"), blanks, blanks,

@@ -136,18 +136,26 @@ void TestPageEngine::paperAndOrientation_data()
     QTest::addColumn<QSizeF>("points");
     QTest::addColumn<int>("paperTaken"); // read back; a refused value leaves Letter portrait
     QTest::addColumn<int>("orientationTaken");
+    QTest::addColumn<QSize>("customTwips"); // given before the paper code; empty: none
 
-    QTest::newRow("letter-portrait") << 1 << 0 << QSizeF(612, 792) << 1 << 0;
-    QTest::newRow("legal") << 5 << 0 << QSizeF(612, 1008) << 5 << 0;
-    QTest::newRow("no10-envelope-landscape") << 20 << 1 << QSizeF(684, 297) << 20 << 1;
-    QTest::newRow("a4") << 9 << 0 << QSizeF(595.3, 841.9) << 9 << 0;
-    QTest::newRow("dl-landscape") << 27 << 1 << QSizeF(623.6, 311.8) << 27 << 1;
-    QTest::newRow("c5") << 28 << 0 << QSizeF(459.2, 649.1) << 28 << 0;
-    QTest::newRow("monarch") << 37 << 0 << QSizeF(279, 540) << 37 << 0;
-    QTest::newRow("six-and-three-quarter") << 38 << 0 << QSizeF(261, 468) << 38 << 0;
-    QTest::newRow("paper-code-zero-refused") << 0 << 1 << QSizeF(792, 612) << 1 << 1;
-    QTest::newRow("unknown-paper-code-refused") << 999 << 0 << QSizeF(612, 792) << 1 << 0;
-    QTest::newRow("orientation-two-refused") << 5 << 2 << QSizeF(612, 1008) << 5 << 0;
+    QTest::newRow("letter-portrait") << 1 << 0 << QSizeF(612, 792) << 1 << 0 << QSize();
+    QTest::newRow("legal") << 5 << 0 << QSizeF(612, 1008) << 5 << 0 << QSize();
+    QTest::newRow("no10-envelope-landscape") << 20 << 1 << QSizeF(684, 297) << 20 << 1 << QSize();
+    QTest::newRow("a4") << 9 << 0 << QSizeF(595.3, 841.9) << 9 << 0 << QSize();
+    QTest::newRow("dl-landscape") << 27 << 1 << QSizeF(623.6, 311.8) << 27 << 1 << QSize();
+    QTest::newRow("c5") << 28 << 0 << QSizeF(459.2, 649.1) << 28 << 0 << QSize();
+    QTest::newRow("monarch") << 37 << 0 << QSizeF(279, 540) << 37 << 0 << QSize();
+    QTest::newRow("six-and-three-quarter") << 38 << 0 << QSizeF(261, 468) << 38 << 0 << QSize();
+    QTest::newRow("paper-code-zero-refused") << 0 << 1 << QSizeF(792, 612) << 1 << 1 << QSize();
+    QTest::newRow("unknown-paper-code-refused")
+        << 999 << 0 << QSizeF(612, 792) << 1 << 0 << QSize();
+    QTest::newRow("b6-envelope-landscape-stays-landscape")
+        << 35 << 1 << QSizeF(498.9, 354.3) << 35 << 1 << QSize();
+    QTest::newRow("custom-continuous-row-landscape")
+        << 256 << 1 << QSizeF(1065.6, 72) << 256 << 1 << QSize(21312, 1440);
+    QTest::newRow("custom-without-a-size-refused")
+        << 256 << 0 << QSizeF(612, 792) << 1 << 0 << QSize();
+    QTest::newRow("orientation-two-refused") << 5 << 2 << QSizeF(612, 1008) << 5 << 0 << QSize();
 }
 
 void TestPageEngine::paperAndOrientation()
@@ -157,9 +165,11 @@ void TestPageEngine::paperAndOrientation()
     QFETCH(QSizeF, points);
     QFETCH(int, paperTaken);
     QFETCH(int, orientationTaken);
+    QFETCH(QSize, customTwips);
 
     const QString file = print(QTest::currentDataTag(), [&](PageEngine &e) {
         e.setOrientation(orientation);
+        e.setCustomPaperSize(customTwips.width(), customTwips.height());
         e.setPaperSize(paper);
         QCOMPARE(e.paperSize(), paperTaken);
         QCOMPARE(e.orientation(), orientationTaken);
