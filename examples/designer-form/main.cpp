@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 //
 // designer-form: shows addressform.ui, a form drawn in Qt Designer with a
-// Quirra on it and compiled by uic. With --check it builds the form without
-// showing it and prints the values the form gave the control, one a line.
+// Quirra on it and compiled by uic, and previews one label laid out as the
+// form says. With --check it builds the form without showing it and prints
+// the values the form gave the control, one a line.
 //
 //   designer-form [--check]
 #include "control/quirra.h"
+#include "model/error.h"
 #include "ui_addressform.h"
 
 #include <QApplication>
@@ -29,11 +31,24 @@ int main(int argc, char **argv)
     Ui::AddressForm ui;
     ui.setupUi(&form);
 
+    Quirra *control = ui.envelope;
     if (args.isEmpty()) {
+        try {
+            control->FirstName(QStringLiteral("Margaret"));
+            control->LastName(QStringLiteral("Holloway"));
+            control->Address1(QStringLiteral("1427 Birchwood Ln"));
+            control->city(QStringLiteral("Springfield"));
+            control->State(QStringLiteral("IL"));
+            control->zip(QStringLiteral("62704"));
+            control->NewPiece();
+            control->PreviewNow();
+        } catch (const quirra::Error &error) {
+            std::fprintf(stderr, "designer-form: %s\n", error.what());
+            return 1;
+        }
         form.show();
         return QApplication::exec();
     }
-    const Quirra *control = ui.envelope;
     std::printf("PieceName: %s\nReturnText: %s\nButtonMaxHeight: %d\nAddressTop: %g\n"
                 "AddressHorzAlign: %d\n",
                 qPrintable(control->PieceName()),
