@@ -15,6 +15,9 @@ namespace {
 // Boxes are rounded to whole twips on their own: an edge may be one twip
 // out without anything being lost.
 constexpr int Slack = 1;
+// Papers are whole points (a C6 envelope's 162 mm is 459 pt, 4 twips short):
+// a sheet's own edge may lie up to half a point past the page's.
+constexpr int PaperSlack = 10;
 
 int twips(double value)
 {
@@ -32,9 +35,9 @@ QString inches(double twipsValue)
     return QString::number(twipsValue / 1440.0, 'f', 2) + QStringLiteral(" in");
 }
 
-bool within(const QRect &inner, const QRect &outer)
+bool within(const QRect &inner, const QRect &outer, int slack = Slack)
 {
-    return outer.adjusted(-Slack, -Slack, Slack, Slack).contains(inner);
+    return outer.adjusted(-slack, -slack, slack, slack).contains(inner);
 }
 
 // How inner lies outside outer: wholly, or by how much past which edge.
@@ -124,7 +127,7 @@ void PieceChecks::checkAddress(const AddressLines &lines, const CityLineFit &fit
 
 bool PieceChecks::checkPiece(const QRect &pieceBox, const QRect &paper)
 {
-    if (paper.isEmpty() || within(pieceBox, paper))
+    if (paper.isEmpty() || within(pieceBox, paper, PaperSlack))
         return true;
     note(NoteKind::PieceOffPage, [&] {
         return QStringLiteral("the %1 x %2 piece %3")
@@ -141,7 +144,7 @@ void PieceChecks::checkItem(ItemId id, const Item &item, const QRect &itemBox,
     if (!item.Visible || (item.Text.isEmpty() && item.Border <= 0))
         return;
     const QString name = itemName(id);
-    if (pieceOnPaper && !paper.isEmpty() && !within(itemBox, paper)) {
+    if (pieceOnPaper && !paper.isEmpty() && !within(itemBox, paper, PaperSlack)) {
         note(NoteKind::ItemOffPage, [&] {
             return QStringLiteral("the %1 box %2")
                 .arg(name, placeAgainst(itemBox, paper, QStringLiteral("the page")));

@@ -110,6 +110,9 @@ void TestPreflight::notes_data()
         return k;
     };
     QTest::newRow("clean") << Envelope << int(None) << bob << QList<int>() << 0 << 0 << QString();
+    // 162 mm is 459.2 pt; the paper is 459 pt, and nothing is lost.
+    QTest::newRow("clean-c6-on-its-whole-point-paper")
+        << "C6 - Envelope" << int(None) << bob << QList<int>() << 0 << 0 << QString();
     QTest::newRow("city-line-left-out")
         << Envelope << int(None)
         << person("Bob", "Roe", "Troy", "NEW YORK STATE OF AMERICA", "12180-0000-0000-0000")
