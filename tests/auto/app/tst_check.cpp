@@ -3,6 +3,8 @@
 //
 // The preflight as the quirra program tells it: quirra check, print's
 // summary of what needs a look, and print --strict that writes nothing.
+#include "quirrarun.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -11,11 +13,7 @@
 
 namespace {
 
-struct Run
-{
-    int status = -1;
-    QString err;
-};
+using Run = QuirraRun;
 
 const QByteArray Header = "first,last,address1,city,state,zip\n";
 const QByteArray Clean = "Ann,Lee,12 Elm St,Troy,NY,12180\n";
@@ -58,21 +56,7 @@ QString TestCheck::write(const QString &name, const QByteArray &bytes)
 
 Run TestCheck::quirra(const QStringList &arguments)
 {
-    QProcess process;
-    process.setWorkingDirectory(m_dir->path());
-    process.start(QStringLiteral(QUIRRA_BINARY), arguments);
-    Run run;
-    if (!process.waitForStarted(30000))
-        return run;
-    process.closeWriteChannel();
-    if (!process.waitForFinished(120000)) {
-        process.kill();
-        process.waitForFinished();
-        return run;
-    }
-    run.status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2;
-    run.err = QString::fromUtf8(process.readAllStandardError());
-    return run;
+    return runQuirra(m_dir->path(), arguments);
 }
 
 void TestCheck::check_data()

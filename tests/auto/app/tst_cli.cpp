@@ -3,6 +3,7 @@
 //
 // The quirra program run as a user runs it: CSV files in, PDF files and
 // messages out, read back with the poppler tools.
+#include "quirrarun.h"
 #include "pdfprobe.h"
 
 #include "control/jsonpropertybag.h"
@@ -19,12 +20,7 @@
 
 namespace {
 
-struct Run
-{
-    int status = -1;
-    QString out;
-    QString err;
-};
+using Run = QuirraRun;
 
 QString dataFile(const QString &name)
 {
@@ -109,25 +105,7 @@ void TestCli::init()
 
 Run TestCli::quirra(const QStringList &arguments, const QByteArray &input)
 {
-    QProcess process;
-    process.setWorkingDirectory(m_dir->path());
-    process.start(QStringLiteral(QUIRRA_BINARY), arguments);
-    Run run;
-    if (!process.waitForStarted(30000))
-        return run;
-    if (!input.isEmpty())
-        process.write(input);
-    process.closeWriteChannel(); // standard input is a pipe at its end, never a terminal
-    if (!process.waitForFinished(120000)) {
-        process.kill();
-        process.waitForFinished();
-        run.err = QStringLiteral("<did not finish>");
-        return run;
-    }
-    run.status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2;
-    run.out = QString::fromUtf8(process.readAllStandardOutput());
-    run.err = QString::fromUtf8(process.readAllStandardError());
-    return run;
+    return runQuirra(m_dir->path(), arguments, input);
 }
 
 // "%DATA%/x.csv" names a fixture, "%OUT%/x" a file in the test's own folder.
