@@ -26,6 +26,12 @@ namespace {
 const QString ProductStem = QStringLiteral("product");
 const QString PieceStem = QStringLiteral("Piece");
 
+// Names are looked up in any case, as the settings reader finds keys.
+QString nameKey(const QString &name)
+{
+    return name.toLower();
+}
+
 QString listKey(const QString &stem, const QString &section)
 {
     return stem + QLatin1Char('\n') + section;
@@ -129,7 +135,7 @@ void Catalogue::readShipped(const QString &folder)
             const QStringList pieces = ReadPieceList(m_masterFile, product);
             m_lists.insert(key, pieces);
             for (const QString &name : pieces) {
-                if (name.isEmpty() || m_entries.contains(name))
+                if (name.isEmpty() || m_entries.contains(nameKey(name)))
                     continue;
                 const QString record = ReadSetting(m_masterFile, DetailsSection, name);
                 const QStringList fields = record.split(u',');
@@ -167,7 +173,7 @@ void Catalogue::readTemplates(const QStringList &folders)
         const TemplateReadResult read = readTemplateFolder(folder, papers);
         m_warnings += read.warnings;
         for (const LabelTemplate &t : read.templates) {
-            if (m_entries.contains(t.name()))
+            if (m_entries.contains(nameKey(t.name())))
                 continue;
             add(t.name(), entryOf(t));
             ++m_imported;
@@ -188,7 +194,7 @@ void Catalogue::add(const QString &name, CatalogueEntry entry)
 {
     m_searchKeys.append(
         QStringList{name, entry.brand, entry.part, entry.product}.join(u'\n').toLower());
-    m_entries.insert(name, std::move(entry));
+    m_entries.insert(nameKey(name), std::move(entry));
     m_names.append(name);
 }
 
@@ -212,10 +218,13 @@ std::shared_ptr<const Catalogue> Catalogue::system()
 
 QStringList Catalogue::defaultTemplateFolders()
 {
+    // A test names its own folder (or none, with an empty value) and sees
+    // nothing else.
+    if (qEnvironmentVariableIsSet("QUIRRA_TEMPLATE_DIR")) {
+        const QString forTests = qEnvironmentVariable("QUIRRA_TEMPLATE_DIR");
+        return forTests.isEmpty() ? QStringList() : QStringList{forTests};
+    }
     QStringList folders;
-    const QString forTests = qEnvironmentVariable("QUIRRA_TEMPLATE_DIR");
-    if (!forTests.isEmpty())
-        folders << forTests;
     const QString own =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/quirra/templates";
     if (QDir(own).exists())
@@ -235,14 +244,17 @@ QStringList Catalogue::defaultTemplateFolders()
 
 const CatalogueEntry *Catalogue::entry(const QString &name) const
 {
-    const auto it = m_entries.constFind(name);
+    const auto it = m_entries.constFind(nameKey(name));
     return it == m_entries.cend() ? nullptr : &*it;
 }
 
 PieceSpec Catalogue::piece(const QString &name) const
 {
-    if (const CatalogueEntry *e = entry(name))
-        return e->spec;
+    if (const CatalogueEntry *e = entry(name)) {
+        PieceSpec spec = e->spec;
+        spec.Name = name;
+        return spec;
+    }
     // A record no product lists is still a piece of the master file.
     return ReadPieceSpec(m_masterFile, name);
 }

@@ -62,7 +62,8 @@ public:
     /**
      * @brief Where templates are looked for: the installed database
      * ($XDG_DATA_DIRS/libglabels-3.0/templates), the user's own
-     * ($XDG_DATA_HOME/quirra/templates) and QUIRRA_TEMPLATE_DIR; those that exist.
+     * ($XDG_DATA_HOME/quirra/templates), those that exist, the user's first.
+     * QUIRRA_TEMPLATE_DIR, when set, is the only one (none when empty).
      */
     static QStringList defaultTemplateFolders();
 
