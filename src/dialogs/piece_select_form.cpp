@@ -313,22 +313,26 @@ void piece_select_form::onPieceNameChanged()
 {
     unlessBusy([this] {
         const QString name = m_pieceName->text();
-        if (name.trimmed().isEmpty())
-            return;
-        m_currentFile = m_catalogue->masterFile();
-        const int type = m_catalogue->type(name);
-        const QString product = m_catalogue->group(name);
-        qCDebug(lcDialogs) << "piece" << name << "of" << product << "paper kind" << type;
-
-        m_paper->button(type == Continuous ? Continuous : CutSheet)->setChecked(true);
-        fillProducts(m_catalogue->products(familyOf(type)));
-        selectMatchingProduct(product);
-        // The pieces are those of the piece's own product, whatever row
-        // the product box ended on.
-        fillPieces(m_catalogue->pieces(product));
-        selectMatchingPiece(name);
-        showFacts(name);
+        if (!name.trimmed().isEmpty())
+            showPiece(name);
     });
+}
+
+void piece_select_form::showPiece(const QString &name)
+{
+    m_currentFile = m_catalogue->masterFile();
+    const int type = m_catalogue->type(name);
+    const QString product = m_catalogue->group(name);
+    qCDebug(lcDialogs) << "piece" << name << "of" << product << "paper kind" << type;
+
+    m_paper->button(type == Continuous ? Continuous : CutSheet)->setChecked(true);
+    fillProducts(m_catalogue->products(familyOf(type)));
+    selectMatchingProduct(product);
+    // The pieces are those of the piece's own product, whatever row
+    // the product box ended on.
+    fillPieces(m_catalogue->pieces(product));
+    selectMatchingPiece(name);
+    showFacts(name);
 }
 
 void piece_select_form::onPaperKind(int index, bool checked)
@@ -366,9 +370,9 @@ void piece_select_form::onSearch()
     unlessBusy([this] {
         const QString text = m_search->text();
         if (text.trimmed().isEmpty()) {
-            // Back to the product's pieces, on the piece chosen.
-            fillPieces(m_catalogue->pieces(m_products->currentText()));
-            selectMatchingPiece(m_pieceName->text());
+            // Back to the lists, on the piece chosen.
+            if (!m_pieceName->text().trimmed().isEmpty())
+                showPiece(m_pieceName->text());
             return;
         }
         fillPieces(m_catalogue->search(text));

@@ -39,7 +39,7 @@ class SheetPreview;
  *
  * Beyond those: the line edit "search_txt" lists, as one types, every
  * piece whose name, brand, part or product holds the words typed (an empty
- * search gives the product's pieces back); "sheet_preview" draws the
+ * search shows the chosen piece among its product's again); "sheet_preview" draws the
  * chosen sheet small beside the Info box; "family_txt" shows its product.
  */
 class QUIRRACONTROL_EXPORT piece_select_form : public QDialog
@@ -88,6 +88,7 @@ private:
     template <typename Work> void unlessBusy(Work work);
 
     void onPieceNameChanged();
+    void showPiece(const QString &name);
     void onPaperKind(int index, bool checked);
     void onProductChanged();
     void onPieceClicked();
