@@ -9,6 +9,7 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/pieceentry.h"
+#include "catalogue/piececatalogue.h"
 #include "control/jsonpropertybag.h"
 #include "control/quirra.h"
 #include "model/error.h"
@@ -160,8 +161,7 @@ bool RunOptions::read(const QCommandLineParser &parser, bool withOutput, QString
 bool RunOptions::catalogueHasPiece(const QString &name)
 {
     // The test of LoadPieceByName: a record with at least one piece across.
-    const QString file = CatalogueFilePath();
-    return !file.isEmpty() && ReadPieceSpec(file, name).NumAcross >= 1;
+    return Catalogue::system()->piece(name).NumAcross >= 1;
 }
 
 std::optional<int> RunOptions::applyTo(Quirra &control, const QString &command)
