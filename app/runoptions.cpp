@@ -8,8 +8,8 @@
 #include "valuelimits.h"
 
 #include "catalogue/catalogue.h"
-#include "catalogue/pieceentry.h"
 #include "catalogue/piececatalogue.h"
+#include "catalogue/pieceentry.h"
 #include "control/jsonpropertybag.h"
 #include "control/quirra.h"
 #include "model/error.h"
