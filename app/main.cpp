@@ -15,6 +15,7 @@
 #include "runoptions.h"
 
 #include "catalogue/catalogue.h"
+#include "catalogue/piececatalogue.h"
 #include "catalogue/pieceentry.h"
 #include "control/quirra.h"
 #include "model/error.h"
@@ -57,7 +58,7 @@ int usage(bool asked = false)
         "[CSV | -]\n"
         "       quirra check [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]... "
         "[CSV | -]\n"
-        "       quirra pieces [--product NAME]\n"
+        "       quirra pieces [--product NAME] [--search TEXT] [--brand NAME]\n"
         "       quirra --version\n"
         "Run 'quirra COMMAND --help' for the options of a command."));
     if (asked) {
@@ -392,6 +393,13 @@ int runPieces(const QStringList &arguments)
                        "layout, paper."));
     parser.addOption({QStringLiteral("product"), QStringLiteral("Only the pieces of this product."),
                       QStringLiteral("name")});
+    parser.addOption({QStringLiteral("search"),
+                      QStringLiteral("Only the pieces whose name, brand, part or product holds "
+                                     "every word of the text."),
+                      QStringLiteral("text")});
+    parser.addOption({QStringLiteral("brand"),
+                      QStringLiteral("Only the imported products of this brand."),
+                      QStringLiteral("name")});
     if (const auto status = parseArguments(parser, arguments, QStringLiteral("pieces")))
         return *status;
     if (!parser.positionalArguments().isEmpty()) {
@@ -400,7 +408,8 @@ int runPieces(const QStringList &arguments)
         return 2;
     }
 
-    const QString file = CatalogueFilePath();
+    const auto catalogue = Catalogue::system();
+    const QString file = catalogue->masterFile();
     if (file.isEmpty()) {
         say(QStringLiteral("quirra pieces: no catalogue (quirra.cfg) in %1; set "
                            "QUIRRA_SYSTEM_DIR to the folder that holds it")
@@ -409,27 +418,29 @@ int runPieces(const QStringList &arguments)
     }
     const QString only = parser.value(QStringLiteral("product"));
     int listed = 0;
-    for (const QString &family : {LaserFamilySection, DotMatrixFamilySection}) {
-        for (const QString &product : ReadProductList(file, family)) {
-            if (product.isEmpty() ||
-                (!only.isEmpty() && product.compare(only, Qt::CaseInsensitive)))
-                continue;
-            for (const QString &name : ReadPieceList(file, product)) {
-                if (name.isEmpty())
-                    continue;
-                const PieceSpec entry = ReadPieceSpec(file, name);
-                print(QStringList{family, product, name,
-                                  inches(entry.LabelWidth) + QStringLiteral(" x ") +
-                                      inches(entry.LabelHeight) + QStringLiteral(" in"),
-                                  QStringLiteral("%1 x %2").arg(entry.NumAcross).arg(entry.NumDown),
-                                  entry.PageDesc}
-                          .join(QLatin1Char('\t')));
-                ++listed;
-            }
-        }
+    for (const QString &name : catalogue->search(parser.value(QStringLiteral("search")),
+                                                 parser.value(QStringLiteral("brand")))) {
+        const CatalogueEntry &entry = *catalogue->entry(name);
+        if (!only.isEmpty() && entry.group.compare(only, Qt::CaseInsensitive))
+            continue;
+        const PieceSpec &spec = entry.spec;
+        QStringList line{entry.type == PieceTypeContinuous ? DotMatrixFamilySection
+                                                           : LaserFamilySection,
+                         entry.group,
+                         name,
+                         inches(spec.LabelWidth) + QStringLiteral(" x ") +
+                             inches(spec.LabelHeight) + QStringLiteral(" in"),
+                         QStringLiteral("%1 x %2").arg(spec.NumAcross).arg(spec.NumDown),
+                         spec.PageDesc};
+        if (entry.imported)
+            line << entry.product;
+        print(line.join(QLatin1Char('\t')));
+        ++listed;
     }
-    if (listed == 0 && !only.isEmpty()) {
-        say(QStringLiteral("quirra pieces: no product \"%1\" in %2").arg(only, file));
+    if (listed == 0 && parser.isSet(QStringLiteral("search")) +
+                               parser.isSet(QStringLiteral("brand")) + !only.isEmpty() >
+                           0) {
+        say(QStringLiteral("quirra pieces: no piece matches; 'quirra pieces' lists them all"));
         return 1;
     }
     // A damaged or foreign file reads as a catalogue of nothing.

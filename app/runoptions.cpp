@@ -8,6 +8,7 @@
 #include "valuelimits.h"
 
 #include "catalogue/catalogue.h"
+#include "catalogue/piececatalogue.h"
 #include "catalogue/pieceentry.h"
 #include "control/jsonpropertybag.h"
 #include "control/quirra.h"
@@ -160,8 +161,7 @@ bool RunOptions::read(const QCommandLineParser &parser, bool withOutput, QString
 bool RunOptions::catalogueHasPiece(const QString &name)
 {
     // The test of LoadPieceByName: a record with at least one piece across.
-    const QString file = CatalogueFilePath();
-    return !file.isEmpty() && ReadPieceSpec(file, name).NumAcross >= 1;
+    return Catalogue::system()->piece(name).NumAcross >= 1;
 }
 
 std::optional<int> RunOptions::applyTo(Quirra &control, const QString &command)

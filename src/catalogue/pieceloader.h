@@ -34,7 +34,7 @@ QUIRRACONTROL_EXPORT void ApplyPieceSpec(const PieceSpec &entry, PieceModel &mod
  * @brief Loads the catalogue piece name into the model, as setting the
  * piece's name does.
  *
- * Reads name's record from the master catalogue; when it is missing or
+ * Catalogue::system()->loadPiece(): reads name from the catalogue; when it is missing or
  * broken (fewer than 1 piece across) "Size 10 - Envelope" is taken instead,
  * silently. The geometry is applied with ApplyPieceSpec, and PieceName is
  * name even when it fell back. With no catalogue at all the geometry is 0

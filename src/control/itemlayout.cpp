@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "control/itemlayout.h"
 
-#include "catalogue/catalogue.h"
+#include "catalogue/piececatalogue.h"
 #include "catalogue/pieceentry.h"
 #include "catalogue/pieceloader.h"
 #include "control/logging_p.h"
@@ -294,19 +294,7 @@ void ItemLayout::customizePiece()
         // The page takes the name and the whole geometry; the items stay
         // where the developer put them, for the layout editor to adjust.
         piece.PieceName = entry.Name;
-        piece.PageSize = entry.PageDesc;
-        piece.PageWidth = entry.PageWidth;
-        piece.PageHeight = entry.PageHeight;
-        piece.PieceMarginTop = entry.MarginTop;
-        piece.PieceMarginLeft = entry.MarginSide;
-        piece.PieceNumAcross = entry.NumAcross;
-        piece.PieceNumDown = entry.NumDown;
-        piece.PieceHeight = entry.LabelHeight;
-        piece.PieceWidth = entry.LabelWidth;
-        piece.PiecePitchHorz = entry.PitchHorz;
-        piece.PiecePitchVert = entry.PitchVert;
-        piece.IsCustom = entry.IsCustom ? 1 : 0;
-        DerivePageSetup(piece);
+        CopyPieceSpec(entry, piece);
     }
     refresh();
 }
@@ -315,14 +303,12 @@ void ItemLayout::choosePiece()
 {
     PieceModel &model = m_copy.model();
     QString name = model.piece.PieceName;
-    if (ShowPieceSelectDialog(this, name)) {
+    const auto catalogue = Catalogue::system();
+    if (ShowPieceSelectDialog(this, name, catalogue)) {
         setChanged(true);
         // As the control does: a name the catalogue has lost falls back on
         // the default envelope, and the items are laid out afresh.
-        const QString master = CatalogueFilePath();
-        PieceSpec entry = ReadPieceSpec(master, name);
-        if (entry.NumAcross < 1)
-            entry = ReadPieceSpec(master, DefaultPieceName);
+        const PieceSpec entry = catalogue->pieceOrDefault(name);
         model.piece.PieceName = entry.Name.isEmpty() ? name : entry.Name;
         ApplyPieceSpec(entry, model);
     }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "control/quirra.h"
 
-#include "catalogue/catalogue.h"
+#include "catalogue/piececatalogue.h"
 #include "catalogue/pieceloader.h"
 #include "catalogue/pieceentry.h"
 #include "control/aboutbox.h"
@@ -338,20 +338,16 @@ void Quirra::loadPiece(const QString &name)
 {
     // The name is kept even when the catalogue lacks it and the default
     // envelope's geometry is taken.
-    LoadPieceByName(name, model());
+    Catalogue::system()->loadPiece(name, model());
 }
 
 void Quirra::PieceSelectDialogShow(bool &changed)
 {
+    const auto catalogue = Catalogue::system();
     QString name = PieceName();
-    changed = ShowPieceSelectDialog(this, name);
-    if (!changed)
-        return;
-    const QString master = CatalogueFilePath();
-    PieceSpec entry = ReadPieceSpec(master, name);
-    if (entry.NumAcross < 1)
-        entry = ReadPieceSpec(master, DefaultPieceName);
-    ApplyPiece(entry);
+    changed = ShowPieceSelectDialog(this, name, catalogue);
+    if (changed)
+        ApplyPiece(catalogue->pieceOrDefault(name));
 }
 
 void Quirra::PieceCustomizationDialogShow(bool &changed)

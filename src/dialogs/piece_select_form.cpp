@@ -3,11 +3,11 @@
 #include "dialogs/piece_select_form.h"
 
 #include "catalogue/catalogue.h"
+#include "catalogue/piececatalogue.h"
 #include "catalogue/pieceentry.h"
 #include "dialogs/logging_p.h"
 #include "dialogs/piece_customization_form.h"
-#include "settings/files.h"
-#include "settings/settings.h"
+#include "dialogs/sheetpreview.h"
 #include "settings/strings.h"
 
 #include <QButtonGroup>
@@ -19,6 +19,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -63,12 +64,18 @@ QLabel *factLabel(const char *name, const QString &caption, QWidget *parent)
 
 } // namespace
 
-piece_select_form::piece_select_form(QWidget *parent) : QDialog(parent)
+piece_select_form::piece_select_form(QWidget *parent)
+    : piece_select_form(Catalogue::system(), parent)
+{
+}
+
+piece_select_form::piece_select_form(std::shared_ptr<const Catalogue> catalogue, QWidget *parent)
+    : QDialog(parent), m_catalogue(std::move(catalogue))
 {
     buildWidgets();
     // Load: the lists are read from the laser/ink-jet catalogue until a
     // piece is named or a paper kind chosen.
-    m_currentFile = SystemDirectory() + LaserCatalogueFileName;
+    m_currentFile = m_catalogue->path(LaserCatalogueFileName);
     m_busy = false;
 }
 
@@ -114,11 +121,19 @@ void piece_select_form::buildWidgets()
     m_pieces = new QListWidget(this);
     m_pieces->setObjectName(QStringLiteral("piece_lst"));
     m_pieces->setSelectionMode(QAbstractItemView::SingleSelection);
+    // Rows of one height keep a list of a brand's hundreds of pieces quick.
+    m_pieces->setUniformItemSizes(true);
     // Wide enough for a long name ("Size 7 3/4 Monarch - Envelope").
     m_pieces->setMinimumWidth(m_pieces->fontMetrics().horizontalAdvance(u'x') * 34);
     pieceLabel->setBuddy(m_pieces);
     connect(m_pieces, &QListWidget::currentRowChanged, this, &piece_select_form::onPieceClicked);
     connect(m_pieces, &QListWidget::itemClicked, this, &piece_select_form::onPieceClicked);
+
+    m_search = new QLineEdit(this);
+    m_search->setObjectName(QStringLiteral("search_txt"));
+    m_search->setPlaceholderText(tr("Search part, brand or product"));
+    m_search->setClearButtonEnabled(true);
+    connect(m_search, &QLineEdit::textChanged, this, &piece_select_form::onSearch);
 
     m_pieceName = factLabel("piece_txt", QString(), this);
     m_pieceName->hide();
@@ -140,17 +155,29 @@ void piece_select_form::buildWidgets()
     m_pageSize = factLabel("page_size_txt", QString(), m_facts);
     auto *layoutLabel = factLabel("layout_lbl", tr("Layout:"), m_facts);
     m_layout = factLabel("layout_txt", QString(), m_facts);
+    auto *familyLabel = factLabel("family_lbl", tr("Product:"), m_facts);
+    m_family = factLabel("family_txt", QString(), m_facts);
+    m_family->setWordWrap(true);
     // A long page description wraps rather than widening the dialog.
     m_pageSize->setWordWrap(true);
     facts->addRow(typeLabel, m_type);
     facts->addRow(sizeLabel, m_size);
     facts->addRow(pageLabel, m_pageSize);
     facts->addRow(layoutLabel, m_layout);
+    facts->addRow(familyLabel, m_family);
     m_facts->installEventFilter(this);
     for (QLabel *label :
          {typeLabel, m_type, sizeLabel, m_size, pageLabel, m_pageSize, layoutLabel, m_layout}) {
         label->installEventFilter(this);
     }
+
+    m_sheet = new SheetPreview(this);
+    m_sheet->setObjectName(QStringLiteral("sheet_preview"));
+    m_sheet->setThumbnail(true);
+    m_sheet->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    auto *info = new QVBoxLayout;
+    info->addWidget(m_facts);
+    info->addWidget(m_sheet, 1);
 
     auto *ok = new QPushButton(tr("O&k"), this);
     ok->setObjectName(QStringLiteral("ok_btn"));
@@ -183,10 +210,11 @@ void piece_select_form::buildWidgets()
     layout->addLayout(paperRow, 0, 1, 1, 2);
     layout->addWidget(productLabel, 1, 0);
     layout->addWidget(m_products, 1, 1, 1, 2);
-    layout->addWidget(pieceLabel, 2, 0, 1, 2);
+    layout->addWidget(pieceLabel, 2, 0);
+    layout->addWidget(m_search, 2, 1);
     layout->addWidget(infoLabel, 2, 2);
     layout->addWidget(m_pieces, 3, 0, 1, 2);
-    layout->addWidget(m_facts, 3, 2, Qt::AlignTop);
+    layout->addLayout(info, 3, 2);
     layout->addLayout(buttons, 0, 3, 4, 1);
     layout->setColumnStretch(1, 1);
     layout->setColumnStretch(2, 1);
@@ -194,7 +222,8 @@ void piece_select_form::buildWidgets()
 
     setTabOrder(cutSheet, continuous);
     setTabOrder(continuous, m_products);
-    setTabOrder(m_products, m_pieces);
+    setTabOrder(m_products, m_search);
+    setTabOrder(m_search, m_pieces);
     setTabOrder(m_pieces, ok);
     setTabOrder(ok, cancel);
     setTabOrder(cancel, details);
@@ -284,22 +313,26 @@ void piece_select_form::onPieceNameChanged()
 {
     unlessBusy([this] {
         const QString name = m_pieceName->text();
-        if (name.trimmed().isEmpty())
-            return;
-        m_currentFile = CatalogueFilePath();
-        const int type = ReadPieceType(name);
-        const QString product = ReadPieceProduct(name);
-        qCDebug(lcDialogs) << "piece" << name << "of" << product << "paper kind" << type;
-
-        m_paper->button(type == Continuous ? Continuous : CutSheet)->setChecked(true);
-        fillProducts(ReadProductList(m_currentFile, familyOf(type)));
-        selectMatchingProduct(product);
-        // The pieces are those of the piece's own product, whatever row
-        // the product box ended on.
-        fillPieces(ReadPieceList(m_currentFile, product));
-        selectMatchingPiece(name);
-        showFacts(m_currentFile, name);
+        if (!name.trimmed().isEmpty())
+            showPiece(name);
     });
+}
+
+void piece_select_form::showPiece(const QString &name)
+{
+    m_currentFile = m_catalogue->masterFile();
+    const int type = m_catalogue->type(name);
+    const QString product = m_catalogue->group(name);
+    qCDebug(lcDialogs) << "piece" << name << "of" << product << "paper kind" << type;
+
+    m_paper->button(type == Continuous ? Continuous : CutSheet)->setChecked(true);
+    fillProducts(m_catalogue->products(familyOf(type)));
+    selectMatchingProduct(product);
+    // The pieces are those of the piece's own product, whatever row
+    // the product box ended on.
+    fillPieces(m_catalogue->pieces(product));
+    selectMatchingPiece(name);
+    showFacts(name);
 }
 
 void piece_select_form::onPaperKind(int index, bool checked)
@@ -309,10 +342,10 @@ void piece_select_form::onPaperKind(int index, bool checked)
     unlessBusy([this, index] {
         // Both families are listed in the master file, under their own
         // sections; the family's own file name is not what is read.
-        m_currentFile = SystemDirectory() + MasterCatalogueFileName;
-        fillProducts(ReadProductList(m_currentFile, familyOf(index)));
+        m_currentFile = m_catalogue->path(MasterCatalogueFileName);
+        fillProducts(m_catalogue->products(familyOf(index)));
         QCoreApplication::processEvents();
-        fillPieces(ReadPieceList(m_currentFile, m_products->currentText()));
+        fillPieces(m_catalogue->pieces(m_products->currentText()));
     });
 }
 
@@ -324,10 +357,28 @@ void piece_select_form::onProductChanged()
             m_pieces->clear();
             return;
         }
-        fillPieces(ReadPieceList(m_currentFile, product));
+        fillPieces(m_catalogue->pieces(product));
         if (const QListWidgetItem *item = m_pieces->currentItem()) {
             m_pieceName->setText(item->text());
-            showFacts(m_currentFile, item->text());
+            showFacts(item->text());
+        }
+    });
+}
+
+void piece_select_form::onSearch()
+{
+    unlessBusy([this] {
+        const QString text = m_search->text();
+        if (text.trimmed().isEmpty()) {
+            // Back to the lists, on the piece chosen.
+            if (!m_pieceName->text().trimmed().isEmpty())
+                showPiece(m_pieceName->text());
+            return;
+        }
+        fillPieces(m_catalogue->search(text));
+        if (const QListWidgetItem *item = m_pieces->currentItem()) {
+            m_pieceName->setText(item->text());
+            showFacts(item->text());
         }
     });
 }
@@ -337,28 +388,32 @@ void piece_select_form::onPieceClicked()
     unlessBusy([this] {
         if (const QListWidgetItem *item = m_pieces->currentItem()) {
             m_pieceName->setText(item->text());
-            showFacts(m_currentFile, item->text());
+            showFacts(item->text());
         }
     });
 }
 
-void piece_select_form::showFacts(const QString &file, const QString &name)
+void piece_select_form::showFacts(const QString &name)
 {
-    const QStringList fields = ReadSetting(file, DetailsSection, name).split(u',');
-    const auto field = [&fields](int n) { return n < fields.size() ? fields.at(n) : QString(); };
+    const CatalogueEntry *entry = m_currentFile.isEmpty() ? nullptr : m_catalogue->entry(name);
     m_facts->setUpdatesEnabled(false);
     m_type->setText(TextAfterLast(name, QStringLiteral(" - ")));
-    m_size->setText(field(1));
-    m_layout->setText(field(5));
-    m_pageSize->setText(field(6));
+    m_size->setText(entry ? entry->sizeText : QString());
+    m_layout->setText(entry ? entry->layoutText : QString());
+    m_pageSize->setText(entry ? entry->spec.PageDesc : QString());
+    m_family->setText(entry ? entry->product : QString());
     m_facts->setUpdatesEnabled(true);
+    m_sheet->setThumbnail(true, entry && entry->shape != LabelShape::Rectangle);
+    m_sheet->setEntry(entry ? entry->spec : PieceSpec());
 }
 
 void piece_select_form::openDetails()
 {
     // The details are shown for a look only: what the user changes there
     // is dropped, and this dialog's piece stays as it was.
-    PieceSpec entry = ReadPieceSpec(m_currentFile, m_pieceName->text());
+    PieceSpec entry =
+        m_currentFile.isEmpty() ? PieceSpec() : m_catalogue->piece(m_pieceName->text());
+    entry.Name = m_pieceName->text();
     ShowPieceCustomizationDialog(this, entry);
 }
 
@@ -392,7 +447,13 @@ void piece_select_form::reject()
 
 bool ShowPieceSelectDialog(QWidget *parent, QString &pieceName)
 {
-    piece_select_form form(parent);
+    return ShowPieceSelectDialog(parent, pieceName, Catalogue::system());
+}
+
+bool ShowPieceSelectDialog(QWidget *parent, QString &pieceName,
+                           std::shared_ptr<const Catalogue> catalogue)
+{
+    piece_select_form form(std::move(catalogue), parent);
     form.setPieceName(pieceName);
     form.exec();
     const bool accepted = form.dataWasAccepted();

@@ -7,14 +7,20 @@
 #include <QDialog>
 #include <QString>
 
+#include <memory>
+
 class QButtonGroup;
 class QCheckBox;
 class QComboBox;
 class QFrame;
 class QLabel;
+class QLineEdit;
 class QListWidget;
 
 namespace quirra {
+
+class Catalogue;
+class SheetPreview;
 
 /**
  * @brief The dialog that picks the mail piece from the catalogue: paper kind
@@ -30,14 +36,23 @@ namespace quirra {
  *
  * A busy flag makes every handler ignore the change and click events that
  * its own updates of other widgets raise.
+ *
+ * Beyond those: the line edit "search_txt" lists, as one types, every
+ * piece whose name, brand, part or product holds the words typed (an empty
+ * search shows the chosen piece among its product's again); "sheet_preview" draws the
+ * chosen sheet small beside the Info box; "family_txt" shows its product.
  */
 class QUIRRACONTROL_EXPORT piece_select_form : public QDialog
 {
     Q_OBJECT
 
 public:
-    /** @brief Builds the form; its current file is the laser/ink-jet catalogue. */
+    /** @brief Builds the form on Catalogue::system(); its current file is the laser/ink-jet
+     * catalogue. */
     explicit piece_select_form(QWidget *parent = nullptr);
+    /** @brief Builds the form on the catalogue given. */
+    explicit piece_select_form(std::shared_ptr<const Catalogue> catalogue,
+                               QWidget *parent = nullptr);
     ~piece_select_form() override;
 
     /**
@@ -73,17 +88,20 @@ private:
     template <typename Work> void unlessBusy(Work work);
 
     void onPieceNameChanged();
+    void showPiece(const QString &name);
     void onPaperKind(int index, bool checked);
     void onProductChanged();
     void onPieceClicked();
+    void onSearch();
     void openDetails();
 
     void fillProducts(const QStringList &entries);
     void fillPieces(const QStringList &entries);
     void selectMatchingProduct(const QString &product);
     void selectMatchingPiece(const QString &name);
-    void showFacts(const QString &file, const QString &name);
+    void showFacts(const QString &name);
 
+    std::shared_ptr<const Catalogue> m_catalogue;
     QString m_currentFile;
     bool m_busy = false;
 
@@ -96,6 +114,9 @@ private:
     QLabel *m_size = nullptr;
     QLabel *m_pageSize = nullptr;
     QLabel *m_layout = nullptr;
+    QLabel *m_family = nullptr;
+    QLineEdit *m_search = nullptr;
+    SheetPreview *m_sheet = nullptr;
     QCheckBox *m_accepted = nullptr;
 };
 
@@ -108,5 +129,8 @@ private:
  * @return true when the user accepted.
  */
 QUIRRACONTROL_EXPORT bool ShowPieceSelectDialog(QWidget *parent, QString &pieceName);
+/** @brief The same on the catalogue given. */
+QUIRRACONTROL_EXPORT bool ShowPieceSelectDialog(QWidget *parent, QString &pieceName,
+                                                std::shared_ptr<const Catalogue> catalogue);
 
 } // namespace quirra

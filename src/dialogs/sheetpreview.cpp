@@ -7,6 +7,8 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace quirra {
 
 namespace {
@@ -40,6 +42,14 @@ void SheetPreview::setEntry(const PieceSpec &entry)
     update();
 }
 
+void SheetPreview::setThumbnail(bool thumbnail, bool roundPieces)
+{
+    m_thumbnail = thumbnail;
+    m_round = roundPieces;
+    updateGeometry();
+    update();
+}
+
 SheetDrawing SheetPreview::drawing() const
 {
     const QFontMetricsF metrics(font());
@@ -52,12 +62,16 @@ SheetDrawing SheetPreview::drawing() const
 QSize SheetPreview::sizeHint() const
 {
     const qreal em = QFontMetricsF(font()).height();
+    if (m_thumbnail)
+        return QSize(int(em * 8), int(em * 10));
     return QSize(int(em * 24), int(em * 26));
 }
 
 QSize SheetPreview::minimumSizeHint() const
 {
     const qreal em = QFontMetricsF(font()).height();
+    if (m_thumbnail)
+        return QSize(int(em * 5), int(em * 5));
     return QSize(int(em * 12), int(em * 12));
 }
 
@@ -65,6 +79,10 @@ void SheetPreview::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (m_thumbnail) {
+        paintThumbnail(painter);
+        return;
+    }
     const SheetDrawing sheet = drawing();
     if (sheet.isEmpty()) {
         painter.setPen(palette().color(QPalette::PlaceholderText));
@@ -108,6 +126,39 @@ void SheetPreview::paintEvent(QPaintEvent *)
         painter.drawText(QRectF(-area.height() / 2, -area.width() / 2, area.height(), area.width()),
                          Qt::AlignCenter | Qt::TextDontClip, mark.text);
         painter.restore();
+    }
+}
+
+void SheetPreview::paintThumbnail(QPainter &painter)
+{
+    const PieceSpec &e = m_entry;
+    if (e.PageWidth <= 0 || e.PageHeight <= 0)
+        return;
+    // The sheet fills the widget but for room for its shadow.
+    const QRectF area = QRectF(rect()).adjusted(2, 2, -5, -5);
+    const double scale = std::min(area.width() / e.PageWidth, area.height() / e.PageHeight);
+    const QSizeF page(e.PageWidth * scale, e.PageHeight * scale);
+    const QRectF paper(area.center() - QPointF(page.width(), page.height()) / 2, page);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 60));
+    painter.drawRect(paper.translated(3, 3));
+    painter.setBrush(Qt::white);
+    painter.setPen(QPen(QColor(90, 90, 90), 1));
+    painter.drawRect(paper);
+    painter.setBrush(QColor(232, 240, 250));
+    painter.setPen(QPen(QColor(60, 90, 140), 0.5));
+    const int across = std::min<int>(e.NumAcross, SheetDrawing::MaxDrawnPerDirection);
+    const int down = std::min<int>(e.NumDown, SheetDrawing::MaxDrawnPerDirection);
+    for (int row = 0; row < down; ++row) {
+        for (int column = 0; column < across; ++column) {
+            const QRectF piece(paper.left() + (e.MarginSide + column * e.PitchHorz) * scale,
+                               paper.top() + (e.MarginTop + row * e.PitchVert) * scale,
+                               e.LabelWidth * scale, e.LabelHeight * scale);
+            if (m_round)
+                painter.drawEllipse(piece);
+            else
+                painter.drawRect(piece);
+        }
     }
 }
 

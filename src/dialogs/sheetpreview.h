@@ -7,6 +7,8 @@
 
 #include <QWidget>
 
+class QPainter;
+
 namespace quirra {
 
 class SheetDrawing;
@@ -29,6 +31,11 @@ public:
 
     /** @brief Draws entry from now on (lengths in the page's unit). */
     void setEntry(const PieceSpec &entry);
+    /**
+     * @brief A thumbnail draws the sheet and its pieces filling the widget,
+     * without the marks; round pieces as ellipses. Its size hint is small.
+     */
+    void setThumbnail(bool thumbnail, bool roundPieces = false);
     /** @brief The piece drawn. */
     const PieceSpec &entry() const { return m_entry; }
     /** @brief How many times the piece was handed over, for a look at the redraws. */
@@ -46,8 +53,12 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void paintThumbnail(QPainter &painter);
+
     PieceSpec m_entry;
     int m_entryUpdates = 0;
+    bool m_thumbnail = false;
+    bool m_round = false;
 };
 
 } // namespace quirra

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void versionAndHelp();
     void progressOnRequestOnly();
     void previewWithoutDisplay();
+    void piecesListsTheDatabase();
 
 private:
     Run quirra(const QStringList &arguments, const QByteArray &input = {});
@@ -510,6 +511,26 @@ void TestCli::previewWithoutDisplay()
     QVERIFY(process.waitForFinished(60000));
     QCOMPARE(process.exitCode(), 1);
     QVERIFY(process.readAllStandardError().contains("no display"));
+}
+
+// With the label-template database installed the list holds its products,
+// and the brand and search narrow it down to the one imported sheet.
+void TestCli::piecesListsTheDatabase()
+{
+    const QByteArray own = qgetenv("QUIRRA_TEMPLATE_DIR");
+    qunsetenv("QUIRRA_TEMPLATE_DIR");
+    const Run all = quirra({"pieces"});
+    const Run one = quirra({"pieces", "--brand", "avery", "--search", "l7163"});
+    const Run none = quirra({"pieces", "--search", "no such sheet"});
+    qputenv("QUIRRA_TEMPLATE_DIR", own);
+    QCOMPARE(all.status, 0);
+    QCOMPARE(none.status, 1);
+    QVERIFY2(none.err.contains(QLatin1String("no piece matches")), qPrintable(none.err));
+    if (!QFileInfo::exists(QStringLiteral("/usr/share/libglabels-3.0/templates")))
+        QSKIP("the label-template database (Debian glabels-data) is not installed");
+    QVERIFY2(all.out.count(QLatin1Char('\n')) > 1000, qPrintable(all.out.left(200)));
+    QCOMPARE(one.out, QStringLiteral("Laser/InkJet Products\tAvery\tAvery L7163\t3.90139 x 1.5 in"
+                                     "\t2 x 7\tA4 (210 x 297 mm)\tMailing labels\n"));
 }
 
 QTEST_MAIN(TestCli)

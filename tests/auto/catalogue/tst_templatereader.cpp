@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "catalogue/piececatalogue.h"
 #include "catalogue/templatereader.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace quirra;
@@ -82,16 +84,28 @@ void TestTemplateReader::lengths()
         QCOMPARE(value, inches);
 }
 
+// A folder as a user writes one, read through the catalogue the program
+// uses: every shape, an alias, a skipped sheet, a clash with a shipped name.
 void TestTemplateReader::shapesAndAliases()
 {
-    const TemplateReadResult result = readText(R"(<Glabels-templates>
+    QTemporaryDir dir;
+    const auto write = [&dir](const char *name, const QByteArray &text) {
+        QFile file(dir.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    };
+    write("paper-sizes.xml", R"(<Glabels-paper-sizes>
+  <Paper-size id="A4" name="A4" width="210mm" height="297mm"/>
+  <Paper-size id="US-Letter" name="US Letter" width="8.5in" height="11in"/>
+</Glabels-paper-sizes>)");
+    write("acme-templates.xml", R"(<Glabels-templates>
   <Template brand="Acme" part="A1" equiv="R1"/>
   <Template brand="Acme" part="R1" size="A4" _description="Round stickers">
     <Meta category="label"/><Meta category="round-label"/>
-    <Label-round id="0" radius="20mm"><Layout nx="4" ny="6" x0="10mm" y0="12mm" dx="50mm" dy="45mm"/></Label-round>
+    <Label-round id="0" radius="2cm"><Layout nx="4" ny="6" x0="10mm" y0="12mm" dx="50mm" dy="45mm"/></Label-round>
   </Template>
-  <Template brand="Acme" part="CD1" size="Other" width="8.5in" height="11in" description="Business CD">
-    <Label-cd id="0" radius="1.5in" hole="0.5in" width="3.5in" height="2.5in"><Layout nx="2" ny="4" x0="0.5in" y0="0.5in" dx="4in" dy="2.6in"/></Label-cd>
+  <Template brand="Acme" part="CD1" size="Other" width="51pc" height="792" description="Business CD">
+    <Label-cd id="0" radius="1.5in" hole="0.5in" width="3.5in" height="2.5in"><Layout nx="2" ny="4" x0="36pt" y0="0.5in" dx="4in" dy="2.6in"/></Label-cd>
   </Template>
   <Template brand="Acme" part="E1" size="US-Letter" _description="Ovals">
     <Label-ellipse id="0" width="3in" height="2in"><Layout nx="1" ny="5" x0="1in" y0="0.5in" dy="2in"/></Label-ellipse>
@@ -100,36 +114,63 @@ void TestTemplateReader::shapesAndAliases()
     <Label-rectangle id="0" width="1in" height="1in"><Layout nx="1" ny="1" x0="0" y0="0"/><Layout nx="1" ny="1" x0="100" y0="100"/></Label-rectangle>
   </Template>
   <Template brand="Other" part="X" equiv="R1"/>
+  <Template brand="5160" part="- Address Labels" size="A4" _description="Not ours">
+    <Label-rectangle id="0" width="1in" height="1in"><Layout nx="1" ny="1"/></Label-rectangle>
+  </Template>
 </Glabels-templates>)");
+    write("broken-templates.xml", sheet(R"(width="-2in" height="1in")"));
+    qputenv("QUIRRA_TEMPLATE_DIR", dir.path().toUtf8());
+    const auto catalogue = Catalogue::system();
+    qunsetenv("QUIRRA_TEMPLATE_DIR");
 
-    QCOMPARE(result.skippedNonUniform, 1);
-    QCOMPARE(result.warnings.size(), 1); // "Other X" names a product of another brand
-    QVERIFY2(result.warnings.first().contains(QLatin1String("\"Other X\"")),
-             qPrintable(result.warnings.first()));
-    QCOMPARE(result.templates.size(), 4);
+    // "Acme Two" is counted, not warned of; "Other X" names a product of
+    // another brand; "Acme 100" has a negative width.
+    QCOMPARE(catalogue->warnings().size(), 2);
+    QVERIFY(catalogue->warnings()
+                .filter(QLatin1String("broken-templates.xml:2: template "
+                                      "\"Acme 100\": width=\"-2in\" is negative"))
+                .size() == 1);
+    QCOMPARE(catalogue->importedCount(), 4);
+    QCOMPARE(catalogue->pieces(QStringLiteral("Acme")),
+             QStringList({"Acme A1", "Acme CD1", "Acme E1", "Acme R1"}));
+    QVERIFY(catalogue->products(QStringLiteral("Laser/InkJet Products")).endsWith("Acme"));
+    // The shipped piece of that name keeps its own sheet.
+    QCOMPARE(catalogue->piece(QStringLiteral("5160 - Address Labels")).NumDown, 10);
 
-    const LabelTemplate &alias = result.templates.at(0);
-    QCOMPARE(alias.name(), QStringLiteral("Acme A1"));
-    QCOMPARE(alias.aliasOf, QStringLiteral("R1"));
-    QCOMPARE(alias.description, QStringLiteral("Round stickers"));
+    const CatalogueEntry &alias = *catalogue->entry(QStringLiteral("Acme A1"));
+    QCOMPARE(alias.product, QStringLiteral("Round stickers"));
+    QCOMPARE(alias.group, QStringLiteral("Acme"));
     QCOMPARE(alias.shape, LabelShape::Round);
-    QCOMPARE(alias.across, 4);
-    QCOMPARE(alias.down, 6);
-    QCOMPARE(alias.labelWidth, 40 / 25.4);
-    QCOMPARE(alias.pitchVert, 45 / 25.4);
-    QCOMPARE(alias.pageHeight, 297 / 25.4);
-    QCOMPARE(alias.line, 2);
+    QVERIFY(alias.metric);
+    QCOMPARE(alias.sizeText, QStringLiteral("40 x 40 mm"));
+    const PieceSpec &round = alias.spec;
+    QCOMPARE(round.Name, QStringLiteral("Acme A1"));
+    QCOMPARE(round.NumAcross, 4);
+    QCOMPARE(round.NumDown, 6);
+    QCOMPARE(round.LabelWidth, float(40 / 25.4));
+    QCOMPARE(round.MarginSide, float(10 / 25.4));
+    QCOMPARE(round.MarginTop, float(12 / 25.4));
+    QCOMPARE(round.PitchHorz, float(50 / 25.4));
+    QCOMPARE(round.PitchVert, float(45 / 25.4));
+    QCOMPARE(round.PageHeight, float(297 / 25.4));
 
-    const LabelTemplate &cd = result.templates.at(2);
+    const CatalogueEntry &cd = *catalogue->entry(QStringLiteral("Acme CD1"));
     QCOMPARE(cd.shape, LabelShape::Cd);
-    QCOMPARE(cd.labelWidth, 3.5); // cut off at the sides: its own width bounds it
-    QCOMPARE(cd.labelHeight, 2.5);
-    QCOMPARE(cd.pageWidth, 8.5);
-    QCOMPARE(cd.description, QStringLiteral("Business CD"));
+    QVERIFY(!cd.metric);
+    QCOMPARE(cd.spec.LabelWidth, 3.5f); // cut off at the sides: its own width bounds it
+    QCOMPARE(cd.spec.LabelHeight, 2.5f);
+    QCOMPARE(cd.spec.PageWidth, 8.5f);
+    QCOMPARE(cd.spec.PageHeight, 11.0f);
+    QCOMPARE(cd.spec.MarginSide, 0.5f);
+    QCOMPARE(cd.spec.PageDesc, QStringLiteral("Custom (8.5 x 11 in.)"));
 
-    const LabelTemplate &ellipse = result.templates.at(3);
+    const CatalogueEntry &ellipse = *catalogue->entry(QStringLiteral("Acme E1"));
     QCOMPARE(ellipse.shape, LabelShape::Ellipse);
-    QCOMPARE(ellipse.pitchHorz, 0.0); // one column needs no pitch
+    QCOMPARE(ellipse.sizeText, QStringLiteral("3 x 2 in."));
+    QCOMPARE(ellipse.spec.PitchHorz, 3.0f); // one column: a piece's own width is its step
+    QCOMPARE(ellipse.spec.PitchVert, 2.0f);
+    QCOMPARE(catalogue->search(QStringLiteral("acme oval")), QStringList{"Acme E1"});
+    QCOMPARE(catalogue->search(QString(), QStringLiteral("other")), QStringList());
 }
 
 void TestTemplateReader::badTemplates_data()
@@ -189,8 +230,13 @@ void TestTemplateReader::installedDatabase()
     QElapsedTimer timer;
     timer.start();
     const TemplateReadResult result = readTemplateFolder(folder);
+    const qint64 readIn = timer.elapsed();
+    timer.restart();
+    const Catalogue catalogue(QStringLiteral(QUIRRA_SOURCE_ROOT "/data"), {folder});
+    qInfo("the whole catalogue, %lld pieces, in %lld ms", qint64(catalogue.names().size()),
+          timer.elapsed());
     qInfo("%lld templates in %lld ms; %lld skipped with a warning, %d non-uniform sheets",
-          qint64(result.templates.size()), timer.elapsed(), qint64(result.warnings.size()),
+          qint64(result.templates.size()), readIn, qint64(result.warnings.size()),
           result.skippedNonUniform);
     QVERIFY(result.templates.size() > 1000);
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
 #include "dialogs/piece_select_form.h"
+#include "dialogs/sheetpreview.h"
 
 #include "modaldriver.h"
 
@@ -222,6 +223,19 @@ void TestPieceSelectForm::clickingPiece()
     QTest::keyClick(f.pieces, Qt::Key_Up);
     QCOMPARE(f.pieceTxt->text(), QStringLiteral("Acme Plain"));
     QCOMPARE(f.text("type_txt"), QStringLiteral("Acme Plain"));
+
+    // Typing lists the matches of every product and picks the first; the
+    // thumbnail draws its sheet. An empty search shows that piece's product.
+    auto *search = f.form.findChild<QLineEdit *>(QStringLiteral("search_txt"));
+    QTest::keyClicks(search, QStringLiteral("ENVELOPE"));
+    QCOMPARE(rows(f.pieces), (QStringList{"No. 10 - Envelope", "DL - Envelope"}));
+    QCOMPARE(f.pieceTxt->text(), QStringLiteral("No. 10 - Envelope"));
+    QCOMPARE(f.text("family_txt"), QStringLiteral("Acme Envelopes"));
+    QCOMPARE(f.form.findChild<SheetPreview *>(QStringLiteral("sheet_preview"))->entry().PageWidth,
+             9.5f);
+    search->clear();
+    QCOMPARE(f.products->currentText(), QStringLiteral("Acme Envelopes"));
+    QCOMPARE(f.pieces->currentItem()->text(), QStringLiteral("No. 10 - Envelope"));
 }
 
 void TestPieceSelectForm::okAndCancel_data()
