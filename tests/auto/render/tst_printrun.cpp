@@ -5,7 +5,6 @@
 
 #include "model/error.h"
 #include "render/drawitem.h"
-#include "render/messagehook.h"
 #include "render/printrun.h"
 
 #include <QRegularExpression>
@@ -21,7 +20,6 @@ private Q_SLOTS:
     void init();
     void cleanup()
     {
-        setMessageHook({});
         QFile::remove(SharedSpool::instance().spoolPath());
     }
 
@@ -48,7 +46,6 @@ void TestPrintRun::init()
 {
     PieceModel::resetShared();
     m_messages.clear();
-    setMessageHook([this](const QString &text) { m_messages.append(text); });
     useLabelSheet(1, 1);
     fixture::newSpool();
 }
@@ -129,7 +126,9 @@ void TestPrintRun::printerErrorShowsOneMessage()
     fixture::feed(fixture::numbered(2));
     RecordingSurface surface;
     surface.startError = 3;
-    PrintRun(PieceModel::shared(), SharedSpool::instance().reader()).RunPrintJob(surface);
+    PrintRun run(PieceModel::shared(), SharedSpool::instance().reader());
+    run.setMessageSink([this](const QString &text) { m_messages.append(text); });
+    run.RunPrintJob(surface);
     QCOMPARE(m_messages, QStringList(QStringLiteral("Ptr.error = 3")));
     QCOMPARE(surface.count(QStringLiteral("box")), 0);
     QCOMPARE(surface.calls.last(), QStringLiteral("action 6")); // the end is sent all the same
