@@ -17,9 +17,9 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/pieceentry.h"
 #include "control/quirra.h"
+#include "dialogs/hostservices.h"
 #include "model/error.h"
 #include "records/sharedspool.h"
-#include "dialogs/hostservices.h"
 #include "settings/files.h"
 #include "surface/printsurface.h"
 

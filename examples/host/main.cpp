@@ -8,8 +8,8 @@
 //
 //   host OUT.pdf [PIECE]
 #include "control/quirra.h"
-#include "model/error.h"
 #include "dialogs/hostservices.h"
+#include "model/error.h"
 
 #include <QApplication>
 #include <QPrinter>

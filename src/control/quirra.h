@@ -203,7 +203,10 @@ public:
      * @brief The flag CancelRun() sets, for a signal handler: storing true in
      * it is CancelRun(). Cleared when a run starts.
      */
-    std::atomic_bool &cancelFlag() { return m_cancel; }
+    std::atomic_bool &cancelFlag()
+    {
+        return m_cancel;
+    }
 
     /** @brief True when the last run was cancelled before its last piece. */
     bool LastRunCancelled() const;

@@ -3,11 +3,11 @@
 #include "dialogs/piece_layout_edit_form.h"
 
 #include "dialogs/hostservices.h"
-#include "model/fontconversion.h"
 #include "dialogs/layoutcanvas.h"
 #include "dialogs/layoutitemlabel.h"
 #include "dialogs/logging_p.h"
 #include "dialogs/numberkeyfilter.h"
+#include "model/fontconversion.h"
 #include "settings/defaultlayout.h"
 #include "settings/settings.h"
 #include "settings/units.h"

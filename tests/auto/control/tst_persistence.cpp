@@ -7,11 +7,11 @@
 
 #include "control/propertytable.h"
 #include "control/quirra.h"
+#include "hostrecorder.h"
 #include "model/error.h"
 #include "model/piecemodel.h"
 #include "publishedproperties.h"
 #include "records/sharedspool.h"
-#include "hostrecorder.h"
 
 #include <QApplication>
 #include <QJsonArray>
@@ -84,10 +84,7 @@ private Q_SLOTS:
         SharedSpool::reset();
     }
 
-    void cleanup()
-    {
-        verifyNoWindowLeft();
-    }
+    void cleanup() { verifyNoWindowLeft(); }
 
     void savedInTheirOrder()
     {

@@ -7,13 +7,13 @@
 
 #include "catalogue/pieceentry.h"
 #include "control/previewpane.h"
+#include "hostrecorder.h"
 #include "model/error.h"
 #include "model/piecemodel.h"
 #include "pdfprobe.h"
 #include "publishedproperties.h"
 #include "records/record.h"
 #include "records/sharedspool.h"
-#include "hostrecorder.h"
 #include "surface/printsurface.h"
 
 #include <QApplication>
@@ -94,10 +94,7 @@ private Q_SLOTS:
         m_messages.clear();
     }
 
-    void cleanup()
-    {
-        verifyNoWindowLeft();
-    }
+    void cleanup() { verifyNoWindowLeft(); }
 
     void properties_data()
     {

@@ -5,12 +5,12 @@
 // driver on a private spooler), and the file the spooler made read back.
 #include "control/quirra.h"
 
+#include "hostrecorder.h"
 #include "pdfprobe.h"
 #include "records/sharedspool.h"
-#include "hostrecorder.h"
 
-#include <optional>
 #include "surface/printsurface.h"
+#include <optional>
 
 #include <QApplication>
 #include <QDeadlineTimer>

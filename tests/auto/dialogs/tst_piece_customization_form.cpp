@@ -5,10 +5,10 @@
 #include "catalogue/catalogue.h"
 #include "hostrecorder.h"
 
-#include <optional>
 #include "dialogs/sheetdrawing.h"
 #include "dialogs/sheetpreview.h"
 #include "modaldriver.h"
+#include <optional>
 
 #include <QCheckBox>
 #include <QComboBox>

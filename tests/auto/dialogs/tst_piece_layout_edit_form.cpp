@@ -9,10 +9,10 @@
 
 #include "hostrecorder.h"
 
-#include <optional>
 #include "modaldriver.h"
 #include "settings/defaultlayout.h"
 #include "settings/units.h"
+#include <optional>
 
 #include <QAction>
 #include <QLabel>
