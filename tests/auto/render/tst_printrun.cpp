@@ -29,7 +29,6 @@ private Q_SLOTS:
     void verticalOffset_data();
     void verticalOffset();
     void borderAndJustify();
-    void invisibleItemLeavesNoTrace();
     void positionsClampAtTheEdge();
     void badGeometryIsAnErrorOfTheRun_data();
     void badGeometryIsAnErrorOfTheRun();
@@ -304,17 +303,6 @@ void TestPrintRun::borderAndJustify()
     QCOMPARE(plain.count(QStringLiteral("penWidth")), 0);
 }
 
-void TestPrintRun::invisibleItemLeavesNoTrace()
-{
-    Item item;
-    item.Visible = false;
-    item.Border = 2;
-    item.Text = QStringLiteral("hidden");
-    RecordingSurface surface;
-    DrawItem(item, PieceModel::shared().piece, 1, surface);
-    QVERIFY(surface.calls.isEmpty());
-}
-
 void TestPrintRun::positionsClampAtTheEdge()
 {
     Piece piece = PieceModel::shared().piece; // printer offsets 0.25 in
@@ -351,7 +339,6 @@ void TestPrintRun::badGeometryIsAnErrorOfTheRun()
     QFETCH(int, down);
     QFETCH(QString, message);
     useLabelSheet(across, down);
-    PieceModel::shared().item(ItemId::Return).Text = QStringLiteral("template");
     fixture::feed(fixture::numbered(2));
     RecordingSurface surface;
     try {
@@ -361,7 +348,6 @@ void TestPrintRun::badGeometryIsAnErrorOfTheRun()
         QVERIFY2(e.message().contains(message), e.what());
     }
     QCOMPARE(surface.calls.last(), QStringLiteral("action 7")); // the document is dropped
-    QCOMPARE(PieceModel::shared().item(ItemId::Return).Text, QStringLiteral("template"));
 }
 
 QTEST_GUILESS_MAIN(TestPrintRun)
