@@ -414,6 +414,10 @@ int runPreview(const QStringList &arguments)
         say(QStringLiteral("quirra preview: %1").arg(e.message()));
         return 1;
     }
+    if (control.LastRunCancelled())
+        say(QStringLiteral("quirra preview: stopped at page %1 (cancelled); the pages built so "
+                           "far are shown")
+                .arg(control.surface()->pageCount()));
     TellNotes(control, QStringLiteral("preview"));
     return QApplication::exec();
 }

@@ -194,8 +194,9 @@ public:
 
     /**
      * @brief Cancels the run under way (preview, print or preflight): it
-     * places no further piece and aborts its document. May be called from
-     * the run's progress callbacks or another thread.
+     * places no further piece and aborts its document (a preview keeps
+     * the pages built so far). May be called from the run's progress
+     * callbacks or another thread.
      */
     void CancelRun();
 

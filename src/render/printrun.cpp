@@ -100,7 +100,10 @@ void PrintRun::RunPrintJob(Surface &surface)
             }
         }
     }
-    surface.setAction(cancelRequested() ? SurfaceAction::AbortDoc : SurfaceAction::EndDoc);
+    // A cancelled print drops its job; a cancelled preview keeps the pages
+    // built so far.
+    const bool drop = cancelRequested() && !surface.preview();
+    surface.setAction(drop ? SurfaceAction::AbortDoc : SurfaceAction::EndDoc);
 }
 
 void PrintRun::PlacePieces(Surface &surface)

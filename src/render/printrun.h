@@ -47,7 +47,7 @@ public:
      * A printer that cannot start the document gets the message
      * "Ptr.error = " and its code, and no piece is drawn. A run cancelled
      * through the cancel flag stops before its next piece and aborts the
-     * document.
+     * document (a preview ends it, keeping the pages built so far).
      *
      * @throws Error when the piece cannot be laid out (0 pieces across, or
      * more pieces per page than a 16-bit count holds); the surface's document
