@@ -16,9 +16,17 @@ namespace {
 constexpr int PathBytes = 4096;
 char watched[InterruptCleanup::MaxFiles][PathBytes];
 volatile sig_atomic_t inUse[InterruptCleanup::MaxFiles];
+std::atomic<std::atomic_bool *> cancelFlag{nullptr};
+volatile sig_atomic_t cancelled = 0;
 
 extern "C" void removeWatchedFiles(int signalNumber)
 {
+    std::atomic_bool *flag = cancelFlag.load();
+    if (signalNumber == SIGINT && flag && !cancelled) {
+        cancelled = 1;
+        flag->store(true);
+        return;
+    }
     for (int i = 0; i < InterruptCleanup::MaxFiles; ++i) {
         if (inUse[i])
             ::unlink(watched[i]);
@@ -66,6 +74,16 @@ void InterruptCleanup::unwatch(const QString &path)
         if (inUse[i] && encoded == watched[i])
             inUse[i] = 0;
     }
+}
+
+void InterruptCleanup::cancelOnInterrupt(std::atomic_bool *flag)
+{
+    cancelFlag.store(flag);
+}
+
+bool InterruptCleanup::interrupted()
+{
+    return cancelled != 0;
 }
 
 } // namespace quirra

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <atomic>
+
 namespace quirra {
 
 /**
@@ -13,6 +15,10 @@ namespace quirra {
  *
  * Holds a few paths at a time; the signal handler only unlinks them and then
  * ends the process by the same signal, as if no handler had been there.
+ *
+ * While a run can be cancelled, the first SIGINT only sets the run's cancel
+ * flag: the run stops before its next piece and the command cleans up and
+ * ends itself. A second SIGINT ends the process as above.
  */
 class InterruptCleanup
 {
@@ -28,6 +34,12 @@ public:
 
     /** @brief Stops watching path (it was renamed, or removed by its owner). */
     static void unwatch(const QString &path);
+
+    /** @brief The cancel flag SIGINT sets (a control's cancelFlag()); nullptr: none. */
+    static void cancelOnInterrupt(std::atomic_bool *flag);
+
+    /** @brief True once SIGINT has set the cancel flag. */
+    static bool interrupted();
 };
 
 } // namespace quirra

@@ -18,9 +18,9 @@
 #include "catalogue/piececatalogue.h"
 #include "catalogue/pieceentry.h"
 #include "control/quirra.h"
+#include "dialogs/hostservices.h"
 #include "model/error.h"
 #include "records/sharedspool.h"
-#include "render/messagehook.h"
 #include "settings/files.h"
 #include "surface/printsurface.h"
 
@@ -32,6 +32,7 @@
 #include <QPrinterInfo>
 
 #include <cstdio>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <unistd.h>
@@ -170,15 +171,34 @@ bool chooseDestination(const RunOptions &options, std::unique_ptr<PdfOutput> &pd
     return true;
 }
 
-// The hook captures the run's locals: it must not outlive them.
-class MessageHookScope
+// The run's messages ("Ptr.error = 2") go to standard error, not a box.
+class CommandLineServices : public HostServices
 {
 public:
-    explicit MessageHookScope(MessageHook hook) { setMessageHook(std::move(hook)); }
-    ~MessageHookScope() { setMessageHook({}); }
-    MessageHookScope(const MessageHookScope &) = delete;
-    MessageHookScope &operator=(const MessageHookScope &) = delete;
+    explicit CommandLineServices(std::function<void(const QString &)> say) : m_say(std::move(say))
+    {
+    }
+    void message(const QString &text, QWidget *) override { m_say(text); }
+
+private:
+    std::function<void(const QString &)> m_say;
 };
+
+// While the command runs, Ctrl-C cancels the control's run instead of ending
+// the process at once.
+class CancelOnInterrupt
+{
+public:
+    explicit CancelOnInterrupt(Quirra &control)
+    {
+        InterruptCleanup::cancelOnInterrupt(&control.cancelFlag());
+    }
+    ~CancelOnInterrupt() { InterruptCleanup::cancelOnInterrupt(nullptr); }
+    CancelOnInterrupt(const CancelOnInterrupt &) = delete;
+    CancelOnInterrupt &operator=(const CancelOnInterrupt &) = delete;
+};
+
+constexpr int InterruptedStatus = 130; // as a shell reports a process ended by SIGINT
 
 int runPrint(const QStringList &arguments)
 {
@@ -208,6 +228,7 @@ int runPrint(const QStringList &arguments)
         InterruptCleanup::watch(pdf->temporaryPath());
 
     Quirra control;
+    const CancelOnInterrupt cancelOnInterrupt(control);
     const QString spoolPath = SharedSpool::instance().spoolPath();
     InterruptCleanup::watch(spoolPath);
     if (const auto status = options.applyTo(control, QStringLiteral("print")))
@@ -222,10 +243,19 @@ int runPrint(const QStringList &arguments)
     std::unique_ptr<ProgressBar> bar;
     if (wantProgress(options.progress) && errorStream.open(stderr, QIODevice::WriteOnly))
         bar = std::make_unique<ProgressBar>(&errorStream);
-    const bool fed = feed.feed(feedProgress(bar.get(), feed), &error);
+    const RecordFeed::Progress read = feedProgress(bar.get(), feed);
+    const bool fed = feed.feed(
+        [&](qint64 records, qint64 bytes) {
+            return !InterruptCleanup::interrupted() && (!read || read(records, bytes));
+        },
+        &error);
     if (bar)
         bar->finish(QStringLiteral("reading"), fed ? 1.0 : -1,
                     QStringLiteral("%1 records").arg(feed.records()));
+    if (InterruptCleanup::interrupted()) {
+        say(QStringLiteral("quirra print: interrupted while reading; nothing was printed"));
+        return InterruptedStatus;
+    }
     if (!fed) {
         say(QStringLiteral("quirra print: %1").arg(error));
         return 1;
@@ -242,7 +272,7 @@ int runPrint(const QStringList &arguments)
         InterruptCleanup::watch(control.surface()->printFile());
     }
     bool printerFailed = false;
-    const MessageHookScope hook([&](const QString &text) {
+    CommandLineServices services([&](const QString &text) {
         if (bar)
             bar->interrupt();
         const QString why = pdf ? QString() : control.surface()->printerFailure();
@@ -252,6 +282,7 @@ int runPrint(const QStringList &arguments)
                           : QStringLiteral("quirra print: %1; nothing was printed").arg(why));
         printerFailed = true;
     });
+    HostServices::set(&control, &services);
 
     const qint64 perPage =
         qMax<qint64>(1, qint64(control.PieceNumAcross()) * qint64(control.PieceNumDown()));
@@ -279,6 +310,14 @@ int runPrint(const QStringList &arguments)
         return 1;
     }
     control.surface()->setPageObserver({});
+    if (control.LastRunCancelled() || InterruptCleanup::interrupted()) {
+        if (bar)
+            bar->interrupt();
+        if (!pdf)
+            QFile::remove(control.surface()->printFile());
+        say(QStringLiteral("quirra print: interrupted; nothing was printed"));
+        return InterruptedStatus;
+    }
     const int pages = control.surface()->pageCount();
     if (bar)
         bar->finish(QStringLiteral("printing"), 1.0, pageDetail(pages, pages));
@@ -371,11 +410,15 @@ int runPreview(const QStringList &arguments)
         return 1;
     }
     try {
-        control.PreviewNow();
+        window.buildPreview();
     } catch (const Error &e) {
         say(QStringLiteral("quirra preview: %1").arg(e.message()));
         return 1;
     }
+    if (control.LastRunCancelled())
+        say(QStringLiteral("quirra preview: stopped at page %1 (cancelled); the pages built so "
+                           "far are shown")
+                .arg(control.surface()->pageCount()));
     TellNotes(control, QStringLiteral("preview"));
     return QApplication::exec();
 }

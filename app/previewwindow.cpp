@@ -12,12 +12,17 @@
 #include "surface/printsurface.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeySequence>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -69,8 +74,8 @@ PreviewWindow::PreviewWindow(QWidget *parent)
     m_toolBar->addSeparator();
     QAction *piece = m_toolBar->addAction(tr("Piece…"), this, &PreviewWindow::choosePiece);
     piece->setObjectName(QStringLiteral("choose_piece_act"));
-    QAction *customize = m_toolBar->addAction(tr("Customize…"), this,
-                                              &PreviewWindow::customizePiece);
+    QAction *customize =
+        m_toolBar->addAction(tr("Customize…"), this, &PreviewWindow::customizePiece);
     customize->setObjectName(QStringLiteral("customize_piece_act"));
     QAction *layout = m_toolBar->addAction(tr("Layout…"), this, &PreviewWindow::editLayout);
     layout->setObjectName(QStringLiteral("edit_layout_act"));
@@ -152,6 +157,34 @@ void PreviewWindow::showAbout()
     m_control->ShowAboutBox();
 }
 
+void PreviewWindow::buildPreview()
+{
+    // The run keeps this thread busy: events (the key, the button) are let
+    // through when it begins a page, at most ten times a second.
+    auto *cancel = new QPushButton(tr("Cancel"), this);
+    cancel->setToolTip(tr("Stop building the preview (Esc)"));
+    connect(cancel, &QPushButton::clicked, this, [this] { m_control->CancelRun(); });
+    auto *escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(escape, &QShortcut::activated, this, [this] { m_control->CancelRun(); });
+    statusBar()->addPermanentWidget(cancel);
+    QElapsedTimer sinceEvents;
+    sinceEvents.start();
+    m_control->surface()->setPageObserver([&sinceEvents](int) {
+        if (sinceEvents.elapsed() >= 100) {
+            QCoreApplication::processEvents();
+            sinceEvents.restart();
+        }
+    });
+    const auto finish = qScopeGuard([&] {
+        m_control->surface()->setPageObserver({});
+        delete escape;
+        delete cancel;
+    });
+    m_control->PreviewNow();
+    if (m_control->LastRunCancelled())
+        statusBar()->showMessage(tr("Preview cancelled: the pages built so far are shown"), 5000);
+}
+
 void PreviewWindow::runDesignStep(const std::function<void()> &step)
 {
     try {
@@ -164,7 +197,7 @@ void PreviewWindow::runDesignStep(const std::function<void()> &step)
 void PreviewWindow::refresh()
 {
     // The spool still holds the run: show it again on the new piece.
-    runDesignStep([this] { m_control->PreviewNow(); });
+    runDesignStep([this] { buildPreview(); });
     updateTitle();
 }
 

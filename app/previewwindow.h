@@ -35,6 +35,14 @@ public:
     /** @brief Names what is shown in the title: the CSV file's name. */
     void setSourceName(const QString &name);
 
+    /**
+     * @brief Builds the preview of the spooled run. While it builds, Esc or
+     * the Cancel button in the status bar stops it before its next piece;
+     * the pages built so far stay shown.
+     * @throws Error when the piece cannot be laid out.
+     */
+    void buildPreview();
+
 public Q_SLOTS:
     /** @brief Asks for a file and saves the control's properties to it as a JSON layout. */
     void saveLayout();

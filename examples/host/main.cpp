@@ -8,8 +8,8 @@
 //
 //   host OUT.pdf [PIECE]
 #include "control/quirra.h"
+#include "dialogs/hostservices.h"
 #include "model/error.h"
-#include "render/messagehook.h"
 
 #include <QApplication>
 #include <QPrinter>
@@ -49,14 +49,20 @@ int main(int argc, char **argv)
         return 2;
     }
 
-    // Without a hook the control would show the printer's message in a box.
-    bool printerFailed = false;
-    quirra::setMessageHook([&](const QString &text) {
-        std::fprintf(stderr, "host: %s\n", qPrintable(text));
-        printerFailed = true;
-    });
+    // Without services of its own the control would show the printer's
+    // message in a box.
+    struct Services : quirra::HostServices
+    {
+        bool printerFailed = false;
+        void message(const QString &text, QWidget *) override
+        {
+            std::fprintf(stderr, "host: %s\n", qPrintable(text));
+            printerFailed = true;
+        }
+    } services;
 
     Quirra control;
+    quirra::HostServices::set(&control, &services);
     try {
         // Properties by their published names: the host might as well be a
         // script that knows nothing but the names.
@@ -96,8 +102,7 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "host: %s\n", qPrintable(e.message()));
         return 1;
     }
-    quirra::setMessageHook({});
-    if (printerFailed)
+    if (services.printerFailed)
         return 1;
     std::printf("host: %d recipients printed on \"%s\" to %s\n", int(std::size(recipients)),
                 qPrintable(control.PieceName()), argv[1]);

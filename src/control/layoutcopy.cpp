@@ -2,108 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "control/layoutcopy.h"
 
-#include "control/fontconversion.h"
+#include "control/fieldnames.h"
 #include "control/logging_p.h"
 #include "control/propertytable.h"
 #include "control/quirra.h"
-
-#include <QFont>
-
-#include <type_traits>
 
 namespace quirra {
 
 namespace {
 
-template <typename Record> struct Field
-{
-    const char *name;
-    QVariant (*get)(const Record &record);
-    void (*set)(Record &record, const QVariant &value);
-};
-
-// A plain member travels as its own type; the property table's saved form
-// for lengths, counts, flags and texts is the same.
-template <auto member, typename Record> QVariant getPlain(const Record &record)
-{
-    return QVariant::fromValue(record.*member);
-}
-
-template <auto member, typename Record> void setPlain(Record &record, const QVariant &value)
-{
-    using T = std::remove_reference_t<decltype(record.*member)>;
-    record.*member = value.value<T>();
-}
-
-// Alignments are saved as 32-bit integers.
-template <auto member> QVariant getEnum(const Item &item)
-{
-    return QVariant(qint32(item.*member));
-}
-
-template <auto member> void setEnum(Item &item, const QVariant &value)
-{
-    using T = std::remove_reference_t<decltype(item.*member)>;
-    item.*member = static_cast<T>(value.toInt());
-}
-
-QVariant getFont(const Item &item)
-{
-    return QVariant::fromValue(toQFont(item.Font));
-}
-
-void setFont(Item &item, const QVariant &value)
-{
-    item.Font = toItemFont(value.value<QFont>());
-}
-
-template <auto member, typename Record> Field<Record> plain(const char *name)
-{
-    return {name, &getPlain<member, Record>, &setPlain<member, Record>};
-}
-
-#define QUIRRA_PLAIN(Record, member) plain<&Record::member, Record>(#member)
-
-// In the order an item's fields are read and written.
-const Field<Item> ItemFieldTable[] = {
-    QUIRRA_PLAIN(Item, Border),
-    {"Font", &getFont, &setFont},
-    QUIRRA_PLAIN(Item, Height),
-    {"HorzAlign", &getEnum<&Item::HorzAlign>, &setEnum<&Item::HorzAlign>},
-    QUIRRA_PLAIN(Item, Left),
-    QUIRRA_PLAIN(Item, LineSpacing),
-    QUIRRA_PLAIN(Item, Text),
-    QUIRRA_PLAIN(Item, Top),
-    {"VertAlign", &getEnum<&Item::VertAlign>, &setEnum<&Item::VertAlign>},
-    QUIRRA_PLAIN(Item, Visible),
-    QUIRRA_PLAIN(Item, Width),
-    QUIRRA_PLAIN(Item, Wrap),
-};
-
-// In the order the piece is read; writing skips the name and starts at
-// IsCustom.
-const Field<Piece> PieceFieldTable[] = {
-    QUIRRA_PLAIN(Piece, PieceName),        QUIRRA_PLAIN(Piece, IsCustom),
-    QUIRRA_PLAIN(Piece, PieceMarginLeft),  QUIRRA_PLAIN(Piece, PieceMarginTop),
-    QUIRRA_PLAIN(Piece, PieceNumAcross),   QUIRRA_PLAIN(Piece, PieceNumDown),
-    QUIRRA_PLAIN(Piece, PieceOrientation), QUIRRA_PLAIN(Piece, PageSize),
-    QUIRRA_PLAIN(Piece, PageSizeNum),      QUIRRA_PLAIN(Piece, PieceHeight),
-    QUIRRA_PLAIN(Piece, PieceWidth),       QUIRRA_PLAIN(Piece, PiecePitchHorz),
-    QUIRRA_PLAIN(Piece, PiecePitchVert),   QUIRRA_PLAIN(Piece, PrinterLeft),
-    QUIRRA_PLAIN(Piece, PrinterTop),
-};
-
-// The sheet's real size, read and written after every published name.
-const Field<Piece> PageSizeFieldTable[] = {
-    QUIRRA_PLAIN(Piece, PageWidth),
-    QUIRRA_PLAIN(Piece, PageHeight),
-};
-
-#undef QUIRRA_PLAIN
-
 const Field<Item> *findItemField(QStringView name)
 {
-    for (const Field<Item> &field : ItemFieldTable) {
+    for (const Field<Item> &field : ItemFields()) {
         if (name == QLatin1String(field.name))
             return &field;
     }
@@ -112,13 +22,9 @@ const Field<Item> *findItemField(QStringView name)
 
 const Field<Piece> *findPieceField(QStringView name)
 {
-    for (const Field<Piece> &field : PieceFieldTable) {
-        if (name == QLatin1String(field.name))
-            return &field;
-    }
-    for (const Field<Piece> &field : PageSizeFieldTable) {
-        if (name == QLatin1String(field.name))
-            return &field;
+    for (const PieceField &row : PieceFields()) {
+        if (name == QLatin1String(row.field.name))
+            return &row.field;
     }
     return nullptr;
 }
@@ -149,21 +55,16 @@ QStringList itemNames(std::initializer_list<ItemId> items)
     return names;
 }
 
-QStringList pieceNames(bool withName)
+// The piece's names but PieceName: those announced by a short form, or the
+// others (the sheet's size).
+QStringList pieceNames(bool announcedOnes)
 {
     QStringList names;
-    for (const Field<Piece> &field : PieceFieldTable)
-        names.append(QLatin1String(field.name));
-    if (!withName)
-        names.removeFirst();
-    return names;
-}
-
-QStringList pageSizeNames()
-{
-    QStringList names;
-    for (const Field<Piece> &field : PageSizeFieldTable)
-        names.append(QLatin1String(field.name));
+    for (const PieceField &row : PieceFields()) {
+        const bool isName = qstrcmp(row.field.name, "PieceName") == 0;
+        if ((row.announced[0] != '\0') == announcedOnes && !isName)
+            names.append(QLatin1String(row.field.name));
+    }
     return names;
 }
 
@@ -185,7 +86,7 @@ const QStringList &LayoutCopy::itemFields()
 {
     static const QStringList fields = [] {
         QStringList names;
-        for (const Field<Item> &field : ItemFieldTable)
+        for (const Field<Item> &field : ItemFields())
             names.append(QLatin1String(field.name));
         return names;
     }();
@@ -198,17 +99,17 @@ const QStringList &LayoutCopy::readOrder()
     // writing; either way every item is read and written whole.
     static const QStringList names = itemNames({ItemId::Address, ItemId::Message1, ItemId::Message2,
                                                 ItemId::Return, ItemId::Stamp}) +
-                                     pieceNames(true) + pageSizeNames();
+                                     QStringList{QStringLiteral("PieceName")} + pieceNames(true) +
+                                     pieceNames(false);
     return names;
 }
 
 const QStringList &LayoutCopy::writeOrder()
 {
-    static const QStringList names =
-        pieceNames(false) +
-        itemNames({ItemId::Address, ItemId::Return, ItemId::Message1, ItemId::Message2,
-                   ItemId::Stamp}) +
-        pageSizeNames();
+    static const QStringList names = pieceNames(true) +
+                                     itemNames({ItemId::Address, ItemId::Return, ItemId::Message1,
+                                                ItemId::Message2, ItemId::Stamp}) +
+                                     pieceNames(false);
     return names;
 }
 
@@ -237,7 +138,7 @@ void LayoutCopy::writeTo(Quirra &control) const
 void LayoutCopy::writeItem(Quirra &control, ItemId id, const Item &item)
 {
     const QString prefix = itemName(id);
-    for (const Field<Item> &field : ItemFieldTable)
+    for (const Field<Item> &field : ItemFields())
         writeProperty(control, prefix + QLatin1String(field.name), field.get(item));
 }
 

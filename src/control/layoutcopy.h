@@ -29,8 +29,7 @@ class QUIRRACONTROL_EXPORT LayoutCopy
 public:
     /**
      * @brief The twelve fields of an item in the order they are read and
-     * written: Border, Font, Height, HorzAlign, Left, LineSpacing, Text, Top,
-     * VertAlign, Visible, Width, Wrap.
+     * written: those of ItemFields(), by name.
      */
     static const QStringList &itemFields();
 

@@ -6,19 +6,20 @@
 #include "catalogue/pieceloader.h"
 #include "catalogue/pieceentry.h"
 #include "control/aboutbox.h"
-#include "control/fontconversion.h"
+#include "control/fieldnames.h"
 #include "control/layoutcopy.h"
 #include "control/logging_p.h"
 #include "control/previewpane.h"
 #include "control/propertybag.h"
+#include "dialogs/hostservices.h"
 #include "dialogs/piece_customization_form.h"
 #include "dialogs/piece_layout_edit_form.h"
 #include "dialogs/piece_select_form.h"
 #include "model/error.h"
+#include "model/fontconversion.h"
 #include "model/piecemodel.h"
 #include "records/sharedspool.h"
 #include "records/spoolwriter.h"
-#include "render/messagehook.h"
 #include "render/printrun.h"
 #include "render/runreport.h"
 #include "render/textlines.h"
@@ -28,8 +29,6 @@
 #include "surface/printsurface.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
-#include <QPointer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -45,33 +44,6 @@ PieceModel &model()
     return PieceModel::shared();
 }
 
-// While a run lasts, its messages ("Ptr.error = 2") go to a message box over
-// the control, unless the host takes them itself with a hook of its own.
-class RunMessages
-{
-public:
-    explicit RunMessages(QWidget *owner) : m_installed(!hasMessageHook())
-    {
-        if (!m_installed)
-            return;
-        setMessageHook([owner = QPointer<QWidget>(owner)](const QString &text) {
-            QMessageBox box(QMessageBox::NoIcon, QCoreApplication::applicationName(), text,
-                            QMessageBox::Ok, owner);
-            box.exec();
-        });
-    }
-    ~RunMessages()
-    {
-        if (m_installed)
-            setMessageHook({});
-    }
-    RunMessages(const RunMessages &) = delete;
-    RunMessages &operator=(const RunMessages &) = delete;
-
-private:
-    bool m_installed;
-};
-
 } // namespace
 
 Quirra::Quirra(QWidget *parent)
@@ -83,11 +55,10 @@ Quirra::Quirra(QWidget *parent)
     // The pane's "Pr All" button has no caller to hand an error to: the user
     // sees it in the same way as the run's own messages.
     connect(m_pane, &PreviewPane::printAllRequested, this, [this] {
-        RunMessages messages(this);
         try {
             PrintNow();
         } catch (const Error &e) {
-            showMessage(e.message());
+            HostServices::of(this).message(e.message(), this);
         }
     });
     startInstance();
@@ -142,7 +113,7 @@ void Quirra::startInstance()
     model().piece.PrinterLeft = 0.25f;
     model().piece.PrinterTop = 0.25f;
 
-    PrintRun::abortFlag() = false;
+    m_cancel = false;
     spool.reader().close();
     spool.reader().setSpoolExhausted(false);
 }
@@ -260,24 +231,37 @@ const RunReport &Quirra::LastRunReport() const
     return *m_report;
 }
 
+void Quirra::CancelRun()
+{
+    m_cancel = true;
+}
+
+bool Quirra::LastRunCancelled() const
+{
+    return m_lastRunCancelled;
+}
+
 void Quirra::runOn(Surface &surface)
 {
-    PrintRun::abortFlag() = false;
+    m_cancel = false;
     // Every run reads the spool from its first record, also after a run that
     // stopped half way.
     SpoolReader &reader = SharedSpool::instance().reader();
     reader.close();
     reader.setSpoolExhausted(false);
 
-    RunMessages messages(this);
     PrintRun run(model(), reader);
+    run.setCancelFlag(&m_cancel);
+    run.setMessageSink([this](const QString &text) { HostServices::of(this).message(text, this); });
     try {
         run.RunPrintJob(surface);
     } catch (...) {
         *m_report = run.report();
+        m_lastRunCancelled = run.cancelled();
         throw;
     }
     *m_report = run.report();
+    m_lastRunCancelled = run.cancelled();
 }
 
 QPrinter *Quirra::printer() const
@@ -534,7 +518,7 @@ void Quirra::WriteProperties(PropertyBag &bag) const
         QUIRRA_NOTIFY(name);                                                                       \
     }
 
-#define QUIRRA_ACCESSORS_PIECE(type, name, field)                                                  \
+#define QUIRRA_ACCESSORS_PIECE(type, name, field, ...)                                             \
     type Quirra::name() const                                                                      \
     {                                                                                              \
         return model().piece.field;                                                                \

@@ -12,6 +12,7 @@
 #include <QString>
 #include <QWidget>
 
+#include <atomic>
 #include <memory>
 
 class QPrinter;
@@ -124,8 +125,8 @@ public:
      * printer().
      *
      * A printer that cannot be opened is reported as "Ptr.error = " and its
-     * code through quirra::showMessage (a message box when the host has
-     * installed no hook).
+     * code through the control's quirra::HostServices (a message box unless
+     * the host sets its own).
      * @throws quirra::Error when the piece cannot be laid out.
      */
     Q_INVOKABLE void PrintNow();
@@ -192,6 +193,26 @@ public:
     const quirra::RunReport &LastRunReport() const;
 
     /**
+     * @brief Cancels the run under way (preview, print or preflight): it
+     * places no further piece and aborts its document (a preview keeps
+     * the pages built so far). May be called from the run's progress
+     * callbacks or another thread.
+     */
+    void CancelRun();
+
+    /**
+     * @brief The flag CancelRun() sets, for a signal handler: storing true in
+     * it is CancelRun(). Cleared when a run starts.
+     */
+    std::atomic_bool &cancelFlag()
+    {
+        return m_cancel;
+    }
+
+    /** @brief True when the last run was cancelled before its last piece. */
+    bool LastRunCancelled() const;
+
+    /**
      * @brief The printer the control prints on. A host may name a system
      * printer or an output PDF file on it; nothing of it is saved.
      */
@@ -256,4 +277,6 @@ private:
     QString m_ownSpoolPath;
     QString m_icon1;
     std::unique_ptr<quirra::RunReport> m_report;
+    std::atomic_bool m_cancel{false};
+    bool m_lastRunCancelled = false;
 };

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/numberkeyfilter.h"
 
-#include "dialogs/beep.h"
+#include "dialogs/hostservices.h"
 #include "dialogs/numberfield.h"
 
 #include <QAbstractSlider>
@@ -29,7 +29,7 @@ bool FilterNumberBoxKey(QKeyEvent *event, QAbstractSlider *stepper)
         if (c.unicode() < 0x20 || c.unicode() == 0x7f)
             continue; // Backspace, Tab, Enter, Escape, Delete
         if (!NumberField::acceptsCharacter(c)) {
-            Beep();
+            HostServices::of(stepper).beep();
             return true;
         }
     }

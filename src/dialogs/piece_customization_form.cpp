@@ -5,7 +5,7 @@
 #include "dialogs/numberkeyfilter.h"
 
 #include "catalogue/catalogue.h"
-#include "dialogs/beep.h"
+#include "dialogs/hostservices.h"
 #include "dialogs/logging_p.h"
 #include "dialogs/sheetpreview.h"
 #include "settings/files.h"
@@ -481,7 +481,7 @@ void piece_customization_form::onSpinner(int index, int value)
     const NumberField::Stepped stepped = fieldOf(box).stepped(box.edit->text(), value);
     box.edit->setText(stepped.text);
     if (stepped.clamped)
-        Beep();
+        HostServices::of(this).beep();
     box.spinner->setValue(0);
 }
 

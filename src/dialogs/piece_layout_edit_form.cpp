@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/piece_layout_edit_form.h"
 
-#include "dialogs/beep.h"
-#include "dialogs/fontchooser.h"
+#include "dialogs/hostservices.h"
 #include "dialogs/layoutcanvas.h"
 #include "dialogs/layoutitemlabel.h"
 #include "dialogs/logging_p.h"
 #include "dialogs/numberkeyfilter.h"
+#include "model/fontconversion.h"
 #include "settings/defaultlayout.h"
 #include "settings/settings.h"
 #include "settings/units.h"
@@ -496,7 +496,7 @@ void piece_layout_edit_form::onStepper(const Field &field, int value)
         const LayoutGeometry::Step step =
             LayoutGeometry::stepped(field.edit->text(), value, upperBound(field));
         if (step.clamped)
-            Beep();
+            HostServices::of(this).beep();
         field.edit->setText(step.text); // moves the label through the field's change
     }
     field.stepper->setValue(0);
@@ -600,25 +600,10 @@ void piece_layout_edit_form::formatFont()
     const LayoutCanvas::ItemState *s = m_canvas->item(m_canvas->current());
     if (!s)
         return;
-    ItemFont chosen = s->font;
-    QFont font(chosen.Name);
-    if (chosen.Size > 0 && std::isfinite(chosen.Size))
-        font.setPointSizeF(chosen.Size);
-    font.setBold(chosen.Bold);
-    font.setItalic(chosen.Italic);
-    font.setStrikeOut(chosen.Strikethrough);
-    font.setUnderline(chosen.Underline);
-    if (!ChooseFont(font, this))
+    QFont font = toQFont(s->font);
+    if (!HostServices::of(this).chooseFont(font, this))
         return; // cancelled: the label keeps its font
-    chosen.Bold = font.bold();
-    chosen.Italic = font.italic();
-    chosen.Name = font.family();
-    if (font.pointSizeF() > 0)
-        chosen.Size = font.pointSizeF();
-    else if (font.pixelSize() > 0)
-        chosen.Size = font.pixelSize() * 72.0 / 96.0;
-    chosen.Strikethrough = font.strikeOut();
-    chosen.Underline = font.underline();
+    const ItemFont chosen = toItemFont(font);
     // The colour is not kept: the piece prints in black.
     m_canvas->setItemFont(m_canvas->current(), chosen);
 }

@@ -7,8 +7,6 @@
 #include "model/piece.h"
 #include "quirracontrol_export.h"
 
-#include <QStringList>
-
 #include <array>
 
 namespace quirra {
@@ -38,20 +36,5 @@ struct QUIRRACONTROL_EXPORT PieceModel
     bool operator==(const PieceModel &other) const;
     bool operator!=(const PieceModel &other) const { return !(*this == other); }
 };
-
-/**
- * @brief The fourteen names by which a change of the piece is announced, in
- * order. Seven are short forms ("MarginLeft", "NumAcross", ...) rather than
- * property names: the container only needs to learn that something changed.
- */
-QUIRRACONTROL_EXPORT const QStringList &PieceChangedNames();
-
-/**
- * @brief The sixty item property names by which a change of the whole layout
- * is announced: items in the order Address, Return, Stamp, Message1, Message2,
- * and within each the fields Border, Font, Height, HorzAlign, Left,
- * LineSpacing, Text, Top, VertAlign, Visible, Width, Wrap.
- */
-QUIRRACONTROL_EXPORT const QStringList &ItemsChangedNames();
 
 } // namespace quirra

@@ -50,6 +50,7 @@ void SpoolWriter::processPendingEvents()
 
 void SpoolWriter::yieldOnce()
 {
+    m_sinceYield = 0;
     if (m_yield) {
         m_yield();
     }
@@ -156,7 +157,9 @@ void SpoolWriter::NewPiece(const Record &record)
     // Written through: a full disk fails the record that did not fit.
     record.appendSpoolLine(m_buffer);
     writeBuffer();
-    yieldOnce();
+    if (++m_sinceYield >= YieldEvery) {
+        yieldOnce();
+    }
 }
 
 void SpoolWriter::EndDoc()

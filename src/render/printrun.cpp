@@ -6,41 +6,18 @@
 #include "records/addressrules.h"
 #include "records/spoolreader.h"
 #include "render/drawitem.h"
-#include "render/messagehook.h"
+#include "render/logging_p.h"
 #include "render/pagesetup.h"
 #include "render/piecechecks.h"
 #include "surface/surface.h"
 
-#include <array>
+#include <cstdio>
 
 namespace quirra {
 
 namespace {
 
 constexpr QChar CarriageReturn(u'\r');
-
-// Puts the five item texts back when the run ends, however it ends: after a
-// run the items hold what the user set, not the last record.
-class TextTemplates
-{
-public:
-    explicit TextTemplates(PieceModel &model)
-        : m_model(model)
-    {
-        for (ItemId id : StorageOrder)
-            m_texts[int(id)] = model.item(id).Text;
-    }
-    ~TextTemplates()
-    {
-        for (ItemId id : StorageOrder)
-            m_model.item(id).Text = m_texts[int(id)];
-    }
-    const QString &text(ItemId id) const { return m_texts[int(id)]; }
-
-private:
-    PieceModel &m_model;
-    std::array<QString, ItemCount> m_texts;
-};
 
 void resetSurface(Surface &surface)
 {
@@ -78,21 +55,27 @@ QString addressText(const AddressLines &lines)
 
 } // namespace
 
-PrintRun::PrintRun(PieceModel &model, SpoolReader &reader)
-    : m_model(model)
-    , m_reader(reader)
+PrintRun::PrintRun(PieceModel &model, SpoolReader &reader) : m_model(model), m_reader(reader) {}
+
+bool PrintRun::cancelRequested()
 {
+    m_cancelled = m_cancelled || (m_cancel && m_cancel->load());
+    return m_cancelled;
 }
 
-bool &PrintRun::abortFlag()
+void PrintRun::message(const QString &text)
 {
-    static bool flag = false;
-    return flag;
+    if (m_message) {
+        m_message(text);
+        return;
+    }
+    qCWarning(lcRender).noquote() << text;
+    std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
 }
 
 void PrintRun::RunPrintJob(Surface &surface)
 {
-    abortFlag() = false;
+    m_cancelled = false;
     m_piecesDrawn = 0;
     m_report.clear();
     resetSurface(surface);
@@ -101,12 +84,12 @@ void PrintRun::RunPrintJob(Surface &surface)
     SetPaperSizeVerified(surface, piece.PageSizeNum,
                          QSize(inchesToTwips(piece.PageWidth), inchesToTwips(piece.PageHeight)));
 
-    if (!abortFlag()) {
+    if (!cancelRequested()) {
         surface.setAction(SurfaceAction::StartDoc);
         surface.setFirstPageNumber(1);
         const int error = surface.errorCode();
         if (error != 0) {
-            showMessage(QStringLiteral("Ptr.error = ") + QString::number(error));
+            message(QStringLiteral("Ptr.error = ") + QString::number(error));
         } else {
             try {
                 PlacePieces(surface);
@@ -117,7 +100,10 @@ void PrintRun::RunPrintJob(Surface &surface)
             }
         }
     }
-    surface.setAction(abortFlag() ? SurfaceAction::AbortDoc : SurfaceAction::EndDoc);
+    // A cancelled print drops its job; a cancelled preview keeps the pages
+    // built so far.
+    const bool drop = cancelRequested() && !surface.preview();
+    surface.setAction(drop ? SurfaceAction::AbortDoc : SurfaceAction::EndDoc);
 }
 
 void PrintRun::PlacePieces(Surface &surface)
@@ -135,7 +121,6 @@ void PrintRun::PlacePieces(Surface &surface)
                         .arg(piece.PieceNumDown));
     }
 
-    const TextTemplates templates(m_model);
     AddressLines lines;
     QString substitute;
     CityLineFit fit;
@@ -143,6 +128,8 @@ void PrintRun::PlacePieces(Surface &surface)
     bool pendingNewPage = false;
     while (!m_reader.spoolExhausted()) {
         for (int slot = 1; slot <= perPage; ++slot) {
+            if (cancelRequested())
+                return;
             ComposeAddressLines(m_reader, surface, WidestCityLine, lines, substitute, &fit);
             if (m_reader.spoolExhausted())
                 return;
@@ -152,16 +139,26 @@ void PrintRun::PlacePieces(Surface &surface)
                 surface.setAction(SurfaceAction::NewPage);
                 pendingNewPage = false;
             }
-            m_model.item(ItemId::Address).Text = ReplaceTokens(addressText(lines), substitute);
-            for (ItemId id : {ItemId::Return, ItemId::Message1, ItemId::Message2, ItemId::Stamp})
-                m_model.item(id).Text = ReplaceTokens(templates.text(id), substitute);
-            DrawPiece(slot, surface);
+            PieceTexts texts;
+            for (ItemId id : StorageOrder) {
+                texts[int(id)] = ReplaceTokens(
+                    id == ItemId::Address ? addressText(lines) : m_model.item(id).Text, substitute);
+            }
+            DrawPiece(slot, surface, texts);
         }
         pendingNewPage = true;
     }
 }
 
 void PrintRun::DrawPiece(int slot, Surface &surface)
+{
+    PieceTexts texts;
+    for (ItemId id : StorageOrder)
+        texts[int(id)] = m_model.item(id).Text;
+    DrawPiece(slot, surface, texts);
+}
+
+void PrintRun::DrawPiece(int slot, Surface &surface, const PieceTexts &texts)
 {
     const Piece &piece = m_model.piece;
     const int marginLeft = surface.marginLeft();
@@ -172,7 +169,8 @@ void PrintRun::DrawPiece(int slot, Surface &surface)
     surface.setClipBox(pieceBox.x(), pieceBox.y(), pieceBox.width(), pieceBox.height());
     // Later items paint over earlier ones where boxes overlap.
     for (ItemId id : StorageOrder) {
-        const Item &item = m_model.item(id);
+        Item item = m_model.item(id);
+        item.Text = texts[int(id)];
         DrawnText drawn;
         DrawItem(item, piece, slot, surface, &drawn);
         m_checks.checkItem(id, item, itemBoxWhereItLies(item, piece, slot, marginLeft), drawn,

@@ -7,6 +7,12 @@
 #include "render/piecechecks.h"
 #include "render/runreport.h"
 
+#include <QString>
+
+#include <array>
+#include <atomic>
+#include <functional>
+
 namespace quirra {
 
 class SpoolReader;
@@ -39,21 +45,34 @@ public:
      * started, every record placed, the document ended (or aborted).
      *
      * A printer that cannot start the document gets the message
-     * "Ptr.error = " and its code, and no piece is drawn.
+     * "Ptr.error = " and its code, and no piece is drawn. A run cancelled
+     * through the cancel flag stops before its next piece and aborts the
+     * document (a preview ends it, keeping the pages built so far).
      *
      * @throws Error when the piece cannot be laid out (0 pieces across, or
      * more pieces per page than a 16-bit count holds); the surface's document
-     * is aborted first and the item texts are restored.
+     * is aborted first.
      */
     void RunPrintJob(Surface &surface);
 
-    /** @brief The page loop; the items' texts are restored when it ends, even by an error. */
+    /**
+     * @brief The page loop: each record's texts (the address, the other
+     * items' texts with their tokens replaced) go to DrawPiece(); the model
+     * is only read.
+     */
     void PlacePieces(Surface &surface);
 
+    /** @brief The five items' texts of one piece, in storage order. */
+    using PieceTexts = std::array<QString, ItemCount>;
+
     /**
-     * @brief Draws the five items of the piece in a slot, Stamp last, kept
-     * inside the piece; notes what overflows or lies off the piece or page.
+     * @brief Draws the five items of the piece in a slot with these texts,
+     * Stamp last, kept inside the piece; notes what overflows or lies off
+     * the piece or page.
      */
+    void DrawPiece(int slot, Surface &surface, const PieceTexts &texts);
+
+    /** @brief Draws the piece in a slot with the items' own texts. */
     void DrawPiece(int slot, Surface &surface);
 
     /** @brief Pieces drawn by the last run. */
@@ -63,12 +82,28 @@ public:
     const RunReport &report() const { return m_report; }
 
     /**
-     * @brief The process-wide abort flag: when set during a run, the run ends
-     * with the abort action instead of end-document. Cleared at every start.
+     * @brief The flag the run reads between pieces (nullptr: none). When it
+     * is set, the run places no further piece and aborts the document. It
+     * may be set from another thread or a signal handler.
      */
-    static bool &abortFlag();
+    void setCancelFlag(const std::atomic_bool *flag) { m_cancel = flag; }
+
+    /** @brief True when the last run stopped at the cancel flag. */
+    bool cancelled() const { return m_cancelled; }
+
+    /** @brief Where the run's messages go; without one, to the log and standard error. */
+    void setMessageSink(std::function<void(const QString &text)> sink)
+    {
+        m_message = std::move(sink);
+    }
 
 private:
+    bool cancelRequested();
+    void message(const QString &text);
+
+    const std::atomic_bool *m_cancel = nullptr;
+    bool m_cancelled = false;
+    std::function<void(const QString &text)> m_message;
     PieceModel &m_model;
     SpoolReader &m_reader;
     qint64 m_piecesDrawn = 0;

@@ -5,10 +5,12 @@
 // driver on a private spooler), and the file the spooler made read back.
 #include "control/quirra.h"
 
+#include "hostrecorder.h"
 #include "pdfprobe.h"
 #include "records/sharedspool.h"
-#include "render/messagehook.h"
+
 #include "surface/printsurface.h"
+#include <optional>
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -179,7 +181,7 @@ private:
 
     QString m_queue;
     QString m_outDir;
-    QStringList m_messages;
+    std::optional<HostRecorder> m_host;
     QStringList m_made;
 };
 
@@ -196,13 +198,12 @@ void TestCupsPrint::initTestCase()
 
 void TestCupsPrint::init()
 {
-    m_messages.clear();
-    setMessageHook([this](const QString &text) { m_messages << text; });
+    m_host.emplace();
 }
 
 void TestCupsPrint::cleanup()
 {
-    setMessageHook({});
+    m_host.reset();
     for (const QString &file : std::as_const(m_made))
         QFile::remove(file);
     m_made.clear();
@@ -253,7 +254,7 @@ void TestCupsPrint::printsThroughTheSpooler()
     control.surface()->setPrinterName(m_queue);
     control.printer()->setDocName(job);
     control.PrintNow();
-    QVERIFY2(m_messages.isEmpty(), qPrintable(m_messages.join('\n')));
+    QVERIFY2(m_host->messages.isEmpty(), qPrintable(m_host->messages.join('\n')));
     QCOMPARE(control.surface()->errorCode(), 0);
 
     const QString pdf = spooledPdf(m_outDir, job, 120000);
@@ -305,10 +306,10 @@ void TestCupsPrint::unknownPrinterIsReported()
 
     control.surface()->setPrinterName(QStringLiteral("No Such Printer Here"));
     control.PrintNow();
-    QCOMPARE(m_messages.size(), 1);
-    QVERIFY2(m_messages.first().startsWith(QLatin1String("Ptr.error = ")),
-             qPrintable(m_messages.first()));
-    QVERIFY(m_messages.first().mid(12).toInt() != 0);
+    QCOMPARE(m_host->messages.size(), 1);
+    QVERIFY2(m_host->messages.first().startsWith(QLatin1String("Ptr.error = ")),
+             qPrintable(m_host->messages.first()));
+    QVERIFY(m_host->messages.first().mid(12).toInt() != 0);
     QVERIFY(control.surface()->errorCode() != 0);
 
     // Nothing else is harmed: the spool holds its records, and the same
@@ -316,12 +317,12 @@ void TestCupsPrint::unknownPrinterIsReported()
     QFile file(spool);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), spooled);
-    m_messages.clear();
+    m_host->messages.clear();
     const QString job = title("afterunknown");
     control.surface()->setPrinterName(m_queue);
     control.printer()->setDocName(job);
     control.PrintNow();
-    QVERIFY2(m_messages.isEmpty(), qPrintable(m_messages.join('\n')));
+    QVERIFY2(m_host->messages.isEmpty(), qPrintable(m_host->messages.join('\n')));
     QCOMPARE(control.surface()->errorCode(), 0);
     const QString pdf = spooledPdf(m_outDir, job, 120000);
     QVERIFY2(!pdf.isEmpty(), qPrintable(spoolerLog()));
@@ -361,7 +362,7 @@ void TestCupsPrint::refusingQueueIsReported()
     control.surface()->setPrinterName(m_queue);
     control.printer()->setDocName(job);
     control.PrintNow();
-    QCOMPARE(m_messages, QStringList{QStringLiteral("Ptr.error = 2")});
+    QCOMPARE(m_host->messages, QStringList{QStringLiteral("Ptr.error = 2")});
     QVERIFY(control.surface()->errorCode() != 0);
     QVERIFY2(control.surface()->printerFailure().contains(reason),
              qPrintable(control.surface()->printerFailure()));

@@ -3,10 +3,12 @@
 #include "dialogs/piece_customization_form.h"
 
 #include "catalogue/catalogue.h"
-#include "dialogs/beep.h"
+#include "hostrecorder.h"
+
 #include "dialogs/sheetdrawing.h"
 #include "dialogs/sheetpreview.h"
 #include "modaldriver.h"
+#include <optional>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -68,20 +70,19 @@ private Q_SLOTS:
     void modalResult();
 
 private:
-    int m_beeps = 0;
+    std::optional<HostRecorder> m_host;
 };
 
 void TestPieceCustomizationForm::init()
 {
     qputenv("QUIRRA_SYSTEM_DIR", QUIRRA_TEST_DATA "/");
     qputenv("QUIRRA_PAPER_CATALOGUE", "");
-    m_beeps = 0;
-    setBeepHook([this] { ++m_beeps; });
+    m_host.emplace();
 }
 
 void TestPieceCustomizationForm::cleanup()
 {
-    setBeepHook({});
+    m_host.reset();
     QVERIFY(!QApplication::activeModalWidget());
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
@@ -188,7 +189,7 @@ void TestPieceCustomizationForm::typing()
             QTest::keyClicks(edit, QString(c));
     }
     QCOMPARE(edit->text(), text);
-    QCOMPARE(m_beeps, beeps);
+    QCOMPARE(m_host->beeps, beeps);
 }
 
 void TestPieceCustomizationForm::spinners_data()
@@ -227,7 +228,7 @@ void TestPieceCustomizationForm::spinners()
     // Half the steps through the bar's arrows, the rest by keys in the box.
     for (int k = 0; k < 2; ++k) {
         edit->setText(start);
-        m_beeps = 0;
+        m_host->beeps = 0;
         for (int i = 0; i < qAbs(steps); ++i) {
             if (k == 0) {
                 spinner->triggerAction(steps > 0 ? QAbstractSlider::SliderSingleStepSub
@@ -238,7 +239,7 @@ void TestPieceCustomizationForm::spinners()
             QCOMPARE(spinner->value(), 0);
         }
         QCOMPARE(edit->text(), text);
-        QCOMPARE(m_beeps, beeps);
+        QCOMPARE(m_host->beeps, beeps);
     }
 }
 

@@ -7,11 +7,12 @@
 
 #include "dialogs/piece_layout_edit_form.h"
 
-#include "dialogs/beep.h"
-#include "dialogs/fontchooser.h"
+#include "hostrecorder.h"
+
 #include "modaldriver.h"
 #include "settings/defaultlayout.h"
 #include "settings/units.h"
+#include <optional>
 
 #include <QAction>
 #include <QLabel>
@@ -147,19 +148,17 @@ private Q_SLOTS:
     void modalResult();
 
 private:
-    int m_beeps = 0;
+    std::optional<HostRecorder> m_host;
 };
 
 void TestPieceLayoutEditForm::init()
 {
-    m_beeps = 0;
-    setBeepHook([this] { ++m_beeps; });
+    m_host.emplace();
 }
 
 void TestPieceLayoutEditForm::cleanup()
 {
-    setBeepHook({});
-    setFontChooserHook({});
+    m_host.reset();
     QVERIFY(!QApplication::activeModalWidget());
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
 }
@@ -293,7 +292,7 @@ void TestPieceLayoutEditForm::fields()
         QCOMPARE(stepper->value(), 0);
     }
     QCOMPARE(edit->text(), text);
-    QCOMPARE(m_beeps, beeps);
+    QCOMPARE(m_host->beeps, beeps);
     QCOMPARE(qRound(e.values(1)[size_t(field)]), value);
     QCOMPARE(e.dot(1)->pos(), pixels(e.form.itemBox(1).topLeft() - QPointF(45, 45)));
 }
@@ -488,14 +487,14 @@ void TestPieceLayoutEditForm::fontKeepsTrueSize()
     std::array<Item, ItemCount> items = envelopeItems();
     items[1].Font.Size = 12;
     QFont offered;
-    setFontChooserHook([&](QFont &font, QWidget *) {
+    m_host->fontChoice = [&](QFont &font) {
         offered = font;
         font = QFont(QStringLiteral("DejaVu Serif"));
         font.setPointSizeF(10);
         font.setItalic(true);
         font.setStrikeOut(true);
         return chosen;
-    });
+    };
     Editor e(items, scale);
     e.click(2);
     e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_font_mnu"));

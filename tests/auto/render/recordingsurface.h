@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 // A surface that writes down every call, for the tests that are about the
 // conversation between the print run and the surface. Text is measured at
 // 100 twips a character; a laid-out text is 240 twips a line.
@@ -14,6 +16,7 @@ class RecordingSurface : public quirra::Surface
 {
 public:
     QStringList calls;
+    std::function<void(const QString &call)> onCall; ///< told each call as it is made
     int acceptOrientationAfter = 0; // attempts refused before the value sticks; -1: never
     int acceptPaperAfter = 0;
     int startError = 0;
@@ -120,7 +123,12 @@ public:
     int zoom() const override { return 100; }
 
 private:
-    void log(const QString &c) { calls.append(c); }
+    void log(const QString &c)
+    {
+        calls.append(c);
+        if (onCall)
+            onCall(c);
+    }
     bool m_preview = false;
     int m_orientation = 0;
     int m_paper = 1;

@@ -8,7 +8,6 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/piececatalogue.h"
 #include "catalogue/pieceloader.h"
-#include "render/messagehook.h"
 #include "render/pdfexport.h"
 #include "render/printrun.h"
 #include "settings/files.h"
@@ -118,10 +117,8 @@ void TestPdfRun::labelsLandWhereTheSheetHasThem()
     QVERIFY(cityLine);
 
     // A file that cannot be written is the printer's error: nothing is drawn.
-    setMessageHook([](const QString &) {});
     const PdfRunResult failed = PrintSpoolToPdf(QStringLiteral("/quirra-no-such-dir/x.pdf"), model,
                                                 SharedSpool::instance().reader());
-    setMessageHook({});
     QVERIFY(failed.errorCode != 0 && failed.pieces == 0);
 }
 

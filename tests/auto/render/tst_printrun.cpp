@@ -5,7 +5,6 @@
 
 #include "model/error.h"
 #include "render/drawitem.h"
-#include "render/messagehook.h"
 #include "render/printrun.h"
 
 #include <QRegularExpression>
@@ -19,11 +18,7 @@ class TestPrintRun : public QObject
 
 private Q_SLOTS:
     void init();
-    void cleanup()
-    {
-        setMessageHook({});
-        QFile::remove(SharedSpool::instance().spoolPath());
-    }
+    void cleanup() { QFile::remove(SharedSpool::instance().spoolPath()); }
 
     void verifiedPageSetup_data();
     void verifiedPageSetup();
@@ -34,7 +29,6 @@ private Q_SLOTS:
     void verticalOffset_data();
     void verticalOffset();
     void borderAndJustify();
-    void invisibleItemLeavesNoTrace();
     void positionsClampAtTheEdge();
     void badGeometryIsAnErrorOfTheRun_data();
     void badGeometryIsAnErrorOfTheRun();
@@ -48,7 +42,6 @@ void TestPrintRun::init()
 {
     PieceModel::resetShared();
     m_messages.clear();
-    setMessageHook([this](const QString &text) { m_messages.append(text); });
     useLabelSheet(1, 1);
     fixture::newSpool();
 }
@@ -129,7 +122,9 @@ void TestPrintRun::printerErrorShowsOneMessage()
     fixture::feed(fixture::numbered(2));
     RecordingSurface surface;
     surface.startError = 3;
-    PrintRun(PieceModel::shared(), SharedSpool::instance().reader()).RunPrintJob(surface);
+    PrintRun run(PieceModel::shared(), SharedSpool::instance().reader());
+    run.setMessageSink([this](const QString &text) { m_messages.append(text); });
+    run.RunPrintJob(surface);
     QCOMPARE(m_messages, QStringList(QStringLiteral("Ptr.error = 3")));
     QCOMPARE(surface.count(QStringLiteral("box")), 0);
     QCOMPARE(surface.calls.last(), QStringLiteral("action 6")); // the end is sent all the same
@@ -142,19 +137,26 @@ void TestPrintRun::pagination_data()
     QTest::addColumn<int>("down");
     QTest::addColumn<int>("pages");
     QTest::addColumn<QStringList>("lastPageBoxes"); // "left top" of the address on the last page
+    QTest::addColumn<int>("cancelAfter"); // pieces drawn when the run is cancelled; 0: never
 
     QTest::newRow("seven-on-three-by-two-spill-one")
-        << 7 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")};
+        << 7 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")} << 0;
     QTest::newRow("eight-on-three-by-two-spill-two")
-        << 8 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360")};
+        << 8 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360")}
+        << 0;
     QTest::newRow("six-on-three-by-two-fill-one-page")
-        << 6 << 3 << 2 << 1
-        << QStringList{QStringLiteral("360 360"),   QStringLiteral("3960 360"),
-                       QStringLiteral("7560 360"),  QStringLiteral("360 2160"),
-                       QStringLiteral("3960 2160"), QStringLiteral("7560 2160")};
+        << 6 << 3 << 2 << 1 << QStringList{QStringLiteral("360 360"),   QStringLiteral("3960 360"),
+                                           QStringLiteral("7560 360"),  QStringLiteral("360 2160"),
+                                           QStringLiteral("3960 2160"), QStringLiteral("7560 2160")}
+        << 0;
+    QTest::newRow("cancelled-after-four-of-seven")
+        << 7 << 3 << 2 << 1
+        << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360"),
+                       QStringLiteral("7560 360"), QStringLiteral("360 2160")}
+        << 4;
     QTest::newRow("envelope-one-page-each")
-        << 3 << 1 << 1 << 3 << QStringList{QStringLiteral("360 360")};
-    QTest::newRow("no-records-no-pages-drawn") << 0 << 3 << 2 << 1 << QStringList();
+        << 3 << 1 << 1 << 3 << QStringList{QStringLiteral("360 360")} << 0;
+    QTest::newRow("no-records-no-pages-drawn") << 0 << 3 << 2 << 1 << QStringList() << 0;
 }
 
 void TestPrintRun::pagination()
@@ -164,13 +166,22 @@ void TestPrintRun::pagination()
     QFETCH(int, down);
     QFETCH(int, pages);
     QFETCH(QStringList, lastPageBoxes);
+    QFETCH(int, cancelAfter);
     useLabelSheet(across, down);
     fixture::feed(fixture::numbered(records));
     RecordingSurface surface;
     PrintRun run(PieceModel::shared(), SharedSpool::instance().reader());
+    std::atomic_bool cancel = false;
+    int drawn = 0;
+    surface.onCall = [&](const QString &call) {
+        if (call.startsWith(QLatin1String("box [")) && ++drawn == cancelAfter)
+            cancel = true;
+    };
+    run.setCancelFlag(&cancel);
     run.RunPrintJob(surface);
 
-    QCOMPARE(run.piecesDrawn(), qint64(records));
+    QCOMPARE(run.piecesDrawn(), qint64(cancelAfter ? cancelAfter : records));
+    QCOMPARE(run.cancelled(), cancelAfter > 0);
     // Whatever a host left on the surface is reset before the document starts,
     // and the document is ended even with nothing on it.
     const int start = int(surface.calls.indexOf(QStringLiteral("action 3")));
@@ -178,7 +189,8 @@ void TestPrintRun::pagination()
                               "marginRight 0", "marginBottom 0", "align 0", "header []",
                               "footer []", "penStyle 1", "brushStyle 0", "penWidth 10"})
         QVERIFY2(uint(surface.calls.indexOf(QLatin1String(reset))) < uint(start), reset);
-    QCOMPARE(surface.calls.last(), QStringLiteral("action 6"));
+    QCOMPARE(surface.calls.last(),
+             cancelAfter ? QStringLiteral("action 7") : QStringLiteral("action 6"));
     QCOMPARE(surface.pageCount(), pages);
     QCOMPARE(surface.count(QStringLiteral("action 4")), pages - 1); // no blank page at the end
     const int lastPage = int(surface.calls.lastIndexOf(QStringLiteral("action 4")));
@@ -291,17 +303,6 @@ void TestPrintRun::borderAndJustify()
     QCOMPARE(plain.count(QStringLiteral("penWidth")), 0);
 }
 
-void TestPrintRun::invisibleItemLeavesNoTrace()
-{
-    Item item;
-    item.Visible = false;
-    item.Border = 2;
-    item.Text = QStringLiteral("hidden");
-    RecordingSurface surface;
-    DrawItem(item, PieceModel::shared().piece, 1, surface);
-    QVERIFY(surface.calls.isEmpty());
-}
-
 void TestPrintRun::positionsClampAtTheEdge()
 {
     Piece piece = PieceModel::shared().piece; // printer offsets 0.25 in
@@ -338,7 +339,6 @@ void TestPrintRun::badGeometryIsAnErrorOfTheRun()
     QFETCH(int, down);
     QFETCH(QString, message);
     useLabelSheet(across, down);
-    PieceModel::shared().item(ItemId::Return).Text = QStringLiteral("template");
     fixture::feed(fixture::numbered(2));
     RecordingSurface surface;
     try {
@@ -348,7 +348,6 @@ void TestPrintRun::badGeometryIsAnErrorOfTheRun()
         QVERIFY2(e.message().contains(message), e.what());
     }
     QCOMPARE(surface.calls.last(), QStringLiteral("action 7")); // the document is dropped
-    QCOMPARE(PieceModel::shared().item(ItemId::Return).Text, QStringLiteral("template"));
 }
 
 QTEST_GUILESS_MAIN(TestPrintRun)

@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "control/fontconversion.h"
+#include "model/fontconversion.h"
+
+#include <cmath>
 
 namespace quirra {
 
 QFont toQFont(const ItemFont &font)
 {
     QFont result(font.Name);
-    if (font.Size > 0)
+    if (font.Size > 0 && std::isfinite(font.Size))
         result.setPointSizeF(font.Size);
     result.setBold(font.Bold);
     result.setItalic(font.Italic);
