@@ -213,6 +213,7 @@ int runPrint(const QStringList &arguments)
         return *status;
 
     RecordFeed feed(control);
+    feed.setCopiesColumn(options.copiesColumn);
     if (!feed.open(options.csvPath, &error)) {
         say(QStringLiteral("quirra print: %1").arg(error));
         return 1;
@@ -341,6 +342,7 @@ int runPreview(const QStringList &arguments)
     if (const auto status = options.applyTo(control, QStringLiteral("preview")))
         return *status;
     RecordFeed feed(control);
+    feed.setCopiesColumn(options.copiesColumn);
     if (!feed.open(options.csvPath, &error)) {
         say(QStringLiteral("quirra preview: %1").arg(error));
         return 1;

@@ -96,6 +96,17 @@ void RunOptions::addTo(QCommandLineParser &parser, bool withOutput)
                                          "printer)."),
                           QStringLiteral("name")});
     }
+    parser.addOption({QStringLiteral("start"),
+                      QStringLiteral("Start on slot N of the first sheet (slots numbered row by "
+                                     "row from 1), to use up a sheet already used."),
+                      QStringLiteral("N")});
+    parser.addOption({QStringLiteral("outlines"),
+                      QStringLiteral("Draw each piece's outline, thin and grey, to check the "
+                                     "alignment on plain paper.")});
+    parser.addOption({QStringLiteral("copies-column"),
+                      QStringLiteral("The column holding how many pieces of each record to "
+                                     "print (a whole number, 0 or more)."),
+                      QStringLiteral("name")});
     parser.addOption({QStringLiteral("progress"),
                       QStringLiteral("Draw a progress bar on standard error (the default when it "
                                      "is a terminal).")});
@@ -146,6 +157,22 @@ bool RunOptions::read(const QCommandLineParser &parser, bool withOutput, QString
             *error = QStringLiteral("give either --pdf or --printer, not both");
             return false;
         }
+    }
+    startSlot = 0;
+    if (parser.isSet(QStringLiteral("start"))) {
+        bool ok = false;
+        startSlot = parser.value(QStringLiteral("start")).trimmed().toInt(&ok);
+        if (!ok || startSlot < 1 || startSlot > 32767) {
+            *error = QStringLiteral("--start %1: give the slot as a whole number from 1")
+                         .arg(parser.value(QStringLiteral("start")));
+            return false;
+        }
+    }
+    outlines = parser.isSet(QStringLiteral("outlines"));
+    copiesColumn = parser.value(QStringLiteral("copies-column")).trimmed();
+    if (parser.isSet(QStringLiteral("copies-column")) && copiesColumn.isEmpty()) {
+        *error = QStringLiteral("--copies-column needs a column's name");
+        return false;
     }
     const bool on = parser.isSet(QStringLiteral("progress"));
     const bool off = parser.isSet(QStringLiteral("no-progress"));
@@ -240,6 +267,19 @@ bool RunOptions::applyTo(Quirra &control, QStringList *warnings, QString *error)
             return false;
         }
     }
+    if (startSlot > 0) {
+        const int slots = int(control.PieceNumAcross()) * int(control.PieceNumDown());
+        if (startSlot > slots) {
+            *error = QStringLiteral("--start %1: the sheet of \"%2\" has %3 slots; give 1 to %3")
+                         .arg(startSlot)
+                         .arg(control.PieceName())
+                         .arg(slots);
+            return false;
+        }
+        control.PieceStartSlot(short(startSlot));
+    }
+    if (outlines)
+        control.PieceOutlines(true);
     return true;
 }
 

@@ -199,6 +199,11 @@ void Quirra::Substitute(const QString &value)
     m_record.setValue(RecordField::substitute, value);
 }
 
+void Quirra::BarCode(const QString &value)
+{
+    m_record.setValue(RecordField::bar_code, value);
+}
+
 void Quirra::ClearPiece()
 {
     m_record.clear();

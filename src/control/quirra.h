@@ -90,6 +90,12 @@ public:
      * values replace the tokens "<<name>>" of the item texts.
      */
     Q_INVOKABLE void Substitute(const QString &value);
+    /**
+     * @brief Stores the bar code, without surrounding blanks: the 20-digit
+     * Intelligent Mail tracking code, optionally followed by its 5-, 9- or
+     * 11-digit routing code; printed when AddressBarcode is on.
+     */
+    Q_INVOKABLE void BarCode(const QString &value);
 
     /**
      * @brief Appends the current recipient to the spool as one line.
@@ -203,12 +209,12 @@ public:
      */
     void InitProperties();
     /**
-     * @brief Restores the 86 saved properties (the 84 published, then the
-     * sheet's PageWidth and PageHeight) from bag, in their saving
+     * @brief Restores the 91 saved properties (the 84 published, then the
+     * sheet's PageWidth and PageHeight, then the mailing options) from bag, in their saving
      * order. A missing or unreadable value takes its default.
      */
     void ReadProperties(quirra::PropertyBag &bag);
-    /** @brief Saves the 86 properties into bag, each with its default. */
+    /** @brief Saves the 91 properties into bag, each with its default. */
     void WriteProperties(quirra::PropertyBag &bag) const;
 
     /**

@@ -135,15 +135,27 @@ void PrintRun::PlacePieces(Surface &surface)
                         .arg(piece.PieceNumDown));
     }
 
+    const short startSlot = m_model.PieceStartSlot;
+    if (startSlot < 1 || startSlot > perPage) {
+        throw Error(QStringLiteral("PieceStartSlot %1 is not a slot of the piece \"%2\": its "
+                                   "sheet has %3 slots. Set PieceStartSlot to 1 to %3.")
+                        .arg(startSlot)
+                        .arg(piece.PieceName)
+                        .arg(perPage));
+    }
+
     const TextTemplates templates(m_model);
     AddressLines lines;
     QString substitute;
     CityLineFit fit;
     qint64 record = 0;
+    QString barCode;
     bool pendingNewPage = false;
+    int firstSlot = startSlot; // the first sheet may be partly used
     while (!m_reader.spoolExhausted()) {
-        for (int slot = 1; slot <= perPage; ++slot) {
-            ComposeAddressLines(m_reader, surface, WidestCityLine, lines, substitute, &fit);
+        for (int slot = firstSlot; slot <= perPage; ++slot) {
+            ComposeAddressLines(m_reader, surface, WidestCityLine, lines, substitute, &fit,
+                                &barCode);
             if (m_reader.spoolExhausted())
                 return;
             m_checks.beginRecord(++record, lines[1]);
@@ -152,11 +164,20 @@ void PrintRun::PlacePieces(Surface &surface)
                 surface.setAction(SurfaceAction::NewPage);
                 pendingNewPage = false;
             }
-            m_model.item(ItemId::Address).Text = ReplaceTokens(addressText(lines), substitute);
+            if (record == 1 && surface.preview()) {
+                for (int used = 1; used < startSlot; ++used)
+                    markUsedSlot(surface, pieceBoxOnSurface(piece, used, surface.marginLeft()));
+            }
+            QString address = ReplaceTokens(addressText(lines), substitute);
+            m_barcode.clear();
+            if (m_model.AddressBarcode && m_barcode.take(barCode, lines[9], m_checks))
+                address = AddressBarcodeLine::withLine(address);
+            m_model.item(ItemId::Address).Text = address;
             for (ItemId id : {ItemId::Return, ItemId::Message1, ItemId::Message2, ItemId::Stamp})
                 m_model.item(id).Text = ReplaceTokens(templates.text(id), substitute);
             DrawPiece(slot, surface);
         }
+        firstSlot = 1;
         pendingNewPage = true;
     }
 }
@@ -175,9 +196,13 @@ void PrintRun::DrawPiece(int slot, Surface &surface)
         const Item &item = m_model.item(id);
         DrawnText drawn;
         DrawItem(item, piece, slot, surface, &drawn);
+        if (id == ItemId::Address)
+            m_barcode.draw(surface, item, item.Text, drawn);
         m_checks.checkItem(id, item, itemBoxWhereItLies(item, piece, slot, marginLeft), drawn,
                            pieceBox, paper, onPaper);
     }
+    if (m_model.PieceOutlines)
+        outlinePiece(surface, pieceBox);
     surface.clearClipBox();
     ++m_piecesDrawn;
 }

@@ -4,6 +4,7 @@
 
 #include "model/piecemodel.h"
 #include "quirracontrol_export.h"
+#include "render/mailmarks.h"
 #include "render/piecechecks.h"
 #include "render/runreport.h"
 
@@ -42,7 +43,8 @@ public:
      * "Ptr.error = " and its code, and no piece is drawn.
      *
      * @throws Error when the piece cannot be laid out (0 pieces across, or
-     * more pieces per page than a 16-bit count holds); the surface's document
+     * more pieces per page than a 16-bit count holds) or the start slot is
+     * not on the sheet; the surface's document
      * is aborted first and the item texts are restored.
      */
     void RunPrintJob(Surface &surface);
@@ -74,6 +76,7 @@ private:
     qint64 m_piecesDrawn = 0;
     RunReport m_report;
     PieceChecks m_checks{m_report};
+    AddressBarcodeLine m_barcode;
 };
 
 } // namespace quirra
