@@ -142,19 +142,24 @@ void TestPrintRun::pagination_data()
     QTest::addColumn<int>("down");
     QTest::addColumn<int>("pages");
     QTest::addColumn<QStringList>("lastPageBoxes"); // "left top" of the address on the last page
+    QTest::addColumn<int>(
+        "firstSlot"); // the first sheet's first slot; past 1 with outlines in preview
 
     QTest::newRow("seven-on-three-by-two-spill-one")
-        << 7 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")};
+        << 7 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")} << 1;
     QTest::newRow("eight-on-three-by-two-spill-two")
-        << 8 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360")};
+        << 8 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360")}
+        << 1;
     QTest::newRow("six-on-three-by-two-fill-one-page")
-        << 6 << 3 << 2 << 1
-        << QStringList{QStringLiteral("360 360"),   QStringLiteral("3960 360"),
-                       QStringLiteral("7560 360"),  QStringLiteral("360 2160"),
-                       QStringLiteral("3960 2160"), QStringLiteral("7560 2160")};
+        << 6 << 3 << 2 << 1 << QStringList{QStringLiteral("360 360"),   QStringLiteral("3960 360"),
+                                           QStringLiteral("7560 360"),  QStringLiteral("360 2160"),
+                                           QStringLiteral("3960 2160"), QStringLiteral("7560 2160")}
+        << 1;
     QTest::newRow("envelope-one-page-each")
-        << 3 << 1 << 1 << 3 << QStringList{QStringLiteral("360 360")};
-    QTest::newRow("no-records-no-pages-drawn") << 0 << 3 << 2 << 1 << QStringList();
+        << 3 << 1 << 1 << 3 << QStringList{QStringLiteral("360 360")} << 1;
+    QTest::newRow("no-records-no-pages-drawn") << 0 << 3 << 2 << 1 << QStringList() << 1;
+    QTest::newRow("used-sheet-from-slot-5-next-sheet-from-1")
+        << 3 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")} << 5;
 }
 
 void TestPrintRun::pagination()
@@ -164,11 +169,18 @@ void TestPrintRun::pagination()
     QFETCH(int, down);
     QFETCH(int, pages);
     QFETCH(QStringList, lastPageBoxes);
+    QFETCH(int, firstSlot);
     useLabelSheet(across, down);
+    PieceModel::shared().PieceStartSlot = short(firstSlot);
+    PieceModel::shared().PieceOutlines = firstSlot > 1;
     fixture::feed(fixture::numbered(records));
     RecordingSurface surface;
+    surface.setPreview(firstSlot > 1);
     PrintRun run(PieceModel::shared(), SharedSpool::instance().reader());
     run.RunPrintJob(surface);
+    // The used slots are shaded in the preview; every slot is outlined.
+    QCOMPARE(surface.count(QStringLiteral("fill")), firstSlot - 1);
+    QCOMPARE(surface.count(QStringLiteral("outline")), firstSlot > 1 ? records + firstSlot - 1 : 0);
 
     QCOMPARE(run.piecesDrawn(), qint64(records));
     // Whatever a host left on the surface is reset before the document starts,
@@ -327,9 +339,13 @@ void TestPrintRun::badGeometryIsAnErrorOfTheRun_data()
     QTest::addColumn<int>("across");
     QTest::addColumn<int>("down");
     QTest::addColumn<QString>("message");
-    QTest::newRow("zero-across-divides-by-zero") << 0 << 3 << QStringLiteral("Division by zero");
-    QTest::newRow("pieces-per-page-overflow") << 200 << 200 << QStringLiteral("Overflow");
-    QTest::newRow("zero-down-fits-nothing") << 3 << 0 << QStringLiteral("no piece fits");
+    QTest::addColumn<int>("start");
+    QTest::newRow("zero-across-divides-by-zero")
+        << 0 << 3 << QStringLiteral("Division by zero") << 1;
+    QTest::newRow("pieces-per-page-overflow") << 200 << 200 << QStringLiteral("Overflow") << 1;
+    QTest::newRow("zero-down-fits-nothing") << 3 << 0 << QStringLiteral("no piece fits") << 1;
+    QTest::newRow("start-slot-beyond-the-sheet")
+        << 3 << 2 << QStringLiteral("its sheet has 6 slots") << 7;
 }
 
 void TestPrintRun::badGeometryIsAnErrorOfTheRun()
@@ -337,7 +353,9 @@ void TestPrintRun::badGeometryIsAnErrorOfTheRun()
     QFETCH(int, across);
     QFETCH(int, down);
     QFETCH(QString, message);
+    QFETCH(int, start);
     useLabelSheet(across, down);
+    PieceModel::shared().PieceStartSlot = short(start);
     PieceModel::shared().item(ItemId::Return).Text = QStringLiteral("template");
     fixture::feed(fixture::numbered(2));
     RecordingSurface surface;
