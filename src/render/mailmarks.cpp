@@ -15,6 +15,12 @@ constexpr QRgb Black = 0xff000000;
 constexpr QRgb OutlineGrey = 0xff999999;
 constexpr QRgb UsedShade = 0xffe4e4e4;
 constexpr int OutlinePen = 10; // twips, half a point
+// Clear of the city line's descenders, which reach below their line when
+// the lines are set closer than 100 %.
+constexpr int BarcodeClearance = 58; // twips, 0.04 in
+// The room the barcode takes in the block: two blank lines, each laid out
+// like any other so that the block's vertical alignment counts them.
+const QLatin1String BarcodeRoom("\r \r ");
 } // namespace
 
 bool AddressBarcodeLine::take(const QString &barCode, const QString &zip, PieceChecks &checks)
@@ -33,9 +39,7 @@ bool AddressBarcodeLine::take(const QString &barCode, const QString &zip, PieceC
 
 QString AddressBarcodeLine::withLine(const QString &addressText)
 {
-    // A blank, so the line is laid out like any other and the block's
-    // vertical alignment counts it.
-    return addressText + QLatin1String("\r ");
+    return addressText + BarcodeRoom;
 }
 
 void AddressBarcodeLine::draw(Surface &surface, const Item &address, const QString &text,
@@ -44,12 +48,10 @@ void AddressBarcodeLine::draw(Surface &surface, const Item &address, const QStri
     if (m_bars.isEmpty() || !address.Visible)
         return;
     // The block without its barcode line tells where that line starts.
-    const QString above = text.left(text.size() - 2);
+    const QString above = text.left(text.size() - BarcodeRoom.size());
     surface.textBox(above, drawn.box.left, drawn.box.top, drawn.box.width, drawn.box.height,
                     address.Wrap, true, false);
     const int lineTop = drawn.top + surface.textHeight();
-    const int lineHeight = drawn.height - surface.textHeight();
-    const int height = IntelligentMailBarcode::heightTwips();
     const int width = IntelligentMailBarcode::widthTwips();
 
     int left = drawn.box.left;
@@ -57,8 +59,7 @@ void AddressBarcodeLine::draw(Surface &surface, const Item &address, const QStri
         left += (drawn.box.width - width) / 2;
     else if (address.HorzAlign == haRight)
         left += drawn.box.width - width;
-    const QPoint origin(std::max(left, drawn.box.left),
-                        lineTop + std::max(0, (lineHeight - height) / 2));
+    const QPoint origin(std::max(left, drawn.box.left), lineTop + BarcodeClearance);
     for (const QRect &bar : m_bars)
         surface.fillRectangle(bar.translated(origin), Black);
 }

@@ -34,13 +34,13 @@ public:
     void clear() { m_bars.clear(); }
     bool isEmpty() const { return m_bars.isEmpty(); }
 
-    /** @brief The address text with the line the bars go on. */
+    /** @brief The address text with the room the bars take below its last line. */
     static QString withLine(const QString &addressText);
 
     /**
-     * @brief Draws the bars, black, on the address block's last line, as
-     * the block is aligned across its box.
-     * @param text the address text as drawn, its barcode line included
+     * @brief Draws the bars, black, in the room below the city line, as the
+     * block is aligned across its box.
+     * @param text the address text as drawn, its room for the bars included
      */
     void draw(Surface &surface, const Item &address, const QString &text,
               const DrawnText &drawn) const;
