@@ -212,6 +212,12 @@ void TestCli::badInputLeavesNoFile_data()
         << QStringList{"AddressTop is 250 in; a length on a sheet is from 0 to 100 in"};
     QTest::newRow("unknown-option") << QStringList{pdf, "--colour", "red", csv("people.csv")} << 2
                                     << QStringList{"quirra print: Unknown option 'colour'"};
+    QTest::newRow("copies-not-a-whole-number")
+        << QStringList{pdf, "--copies-column", "Last", csv("people.csv")} << 1
+        << QStringList{"people.csv: line 2: the copies column \"Last\" holds \"Holloway\""};
+    QTest::newRow("start-beyond-the-sheet")
+        << QStringList{pdf, "--piece", "5160 - Address Labels", "--start", "31", csv("people.csv")}
+        << 1 << QStringList{"--start 31: the sheet of \"5160 - Address Labels\" has 30 slots"};
     // A layout that cannot be laid out fails in the print run itself.
     QTest::newRow("no-piece-across")
         << QStringList{pdf, "--set", "PieceNumAcross=0", csv("people.csv")} << 1
@@ -250,13 +256,20 @@ void TestCli::printsEveryRecordOnItsPiece_data()
     QTest::addColumn<QSizeF>("pageSize");
     QTest::addColumn<QString>("lastFirstName"); // the last record's first name
     QTest::addColumn<int>("column");            // the last record's column, from 0
+    QTest::addColumn<QStringList>("options");
 
-    QTest::newRow("labels-30-up-69-records") << examples("addresses.csv") << "5160 - Address Labels"
-                                             << 3 << QSizeF(612, 792) << "Albert" << 2;
-    QTest::newRow("envelope-one-a-page")
-        << dataFile("people.csv") << "Size 10 - Envelope" << 4 << QSizeF(684, 297) << "Li" << 0;
+    QTest::newRow("labels-30-up-69-records")
+        << examples("addresses.csv") << "5160 - Address Labels" << 3 << QSizeF(612, 792) << "Albert"
+        << 2 << QStringList();
+    QTest::newRow("envelope-one-a-page") << dataFile("people.csv") << "Size 10 - Envelope" << 4
+                                         << QSizeF(684, 297) << "Li" << 0 << QStringList();
     QTest::newRow("shipping-labels-2-across")
-        << dataFile("people.csv") << "5163 - Shipping Labels" << 1 << QSizeF(612, 792) << "Li" << 1;
+        << dataFile("people.csv") << "5163 - Shipping Labels" << 1 << QSizeF(612, 792) << "Li" << 1
+        << QStringList();
+    // Three of the first record, none of the second, one of the last.
+    QTest::newRow("copies-from-a-column")
+        << dataFile("copies.csv") << "Size 10 - Envelope" << 4 << QSizeF(684, 297) << "Li" << 0
+        << QStringList{"--copies-column", "count"};
 }
 
 void TestCli::printsEveryRecordOnItsPiece()
@@ -267,9 +280,10 @@ void TestCli::printsEveryRecordOnItsPiece()
     QFETCH(QSizeF, pageSize);
     QFETCH(QString, lastFirstName);
     QFETCH(int, column);
+    QFETCH(QStringList, options);
 
     const QString pdf = out(QStringLiteral("run.pdf"));
-    const Run run = quirra({"print", "--piece", piece, "--pdf", pdf, csv});
+    const Run run = quirra(QStringList{"print", "--piece", piece, "--pdf", pdf, csv} + options);
     QVERIFY2(run.status == 0, qPrintable(run.err));
     QVERIFY2(
         run.err.contains(
