@@ -11,6 +11,7 @@
 #include "render/piecechecks.h"
 #include "surface/surface.h"
 
+#include <algorithm>
 #include <array>
 
 namespace quirra {
@@ -24,8 +25,7 @@ constexpr QChar CarriageReturn(u'\r');
 class TextTemplates
 {
 public:
-    explicit TextTemplates(PieceModel &model)
-        : m_model(model)
+    explicit TextTemplates(PieceModel &model) : m_model(model)
     {
         for (ItemId id : StorageOrder)
             m_texts[int(id)] = model.item(id).Text;
@@ -40,6 +40,46 @@ public:
 private:
     PieceModel &m_model;
     std::array<QString, ItemCount> m_texts;
+};
+
+// Stretches every position on the sheet about the page's top-left corner
+// for the printer's calibration, leaving sizes as they are; the printer's
+// offsets are taken off afterwards. Puts the positions back when the run ends.
+class ScaledPositions
+{
+public:
+    explicit ScaledPositions(PieceModel &model)
+        : m_model(model), m_piece(model.piece), m_items(model.items)
+    {
+        const float x = std::clamp<short>(model.PrinterScaleX, 90, 110) / 100.f;
+        const float y = std::clamp<short>(model.PrinterScaleY, 90, 110) / 100.f;
+        Piece &piece = model.piece;
+        piece.PieceMarginLeft *= x;
+        piece.PiecePitchHorz *= x;
+        piece.PieceMarginTop *= y;
+        piece.PiecePitchVert *= y;
+        for (Item &item : model.items) {
+            item.Left *= x;
+            item.Top *= y;
+        }
+    }
+    ~ScaledPositions()
+    {
+        Piece &piece = m_model.piece;
+        piece.PieceMarginLeft = m_piece.PieceMarginLeft;
+        piece.PiecePitchHorz = m_piece.PiecePitchHorz;
+        piece.PieceMarginTop = m_piece.PieceMarginTop;
+        piece.PiecePitchVert = m_piece.PiecePitchVert;
+        for (size_t i = 0; i < m_items.size(); ++i) {
+            m_model.items[i].Left = m_items[i].Left;
+            m_model.items[i].Top = m_items[i].Top;
+        }
+    }
+
+private:
+    PieceModel &m_model;
+    const Piece m_piece;
+    const std::array<Item, ItemCount> m_items;
 };
 
 void resetSurface(Surface &surface)
@@ -78,11 +118,7 @@ QString addressText(const AddressLines &lines)
 
 } // namespace
 
-PrintRun::PrintRun(PieceModel &model, SpoolReader &reader)
-    : m_model(model)
-    , m_reader(reader)
-{
-}
+PrintRun::PrintRun(PieceModel &model, SpoolReader &reader) : m_model(model), m_reader(reader) {}
 
 bool &PrintRun::abortFlag()
 {
@@ -145,6 +181,7 @@ void PrintRun::PlacePieces(Surface &surface)
     }
 
     const TextTemplates templates(m_model);
+    const ScaledPositions scaled(m_model);
     AddressLines lines;
     QString substitute;
     CityLineFit fit;

@@ -142,24 +142,29 @@ void TestPrintRun::pagination_data()
     QTest::addColumn<int>("down");
     QTest::addColumn<int>("pages");
     QTest::addColumn<QStringList>("lastPageBoxes"); // "left top" of the address on the last page
-    QTest::addColumn<int>(
-        "firstSlot"); // the first sheet's first slot; past 1 with outlines in preview
+    // The first sheet's first slot; past 1 with outlines in preview.
+    QTest::addColumn<int>("firstSlot");
+    QTest::addColumn<QPoint>("scale"); // PrinterScaleX and Y, percent, about the page's corner
 
     QTest::newRow("seven-on-three-by-two-spill-one")
-        << 7 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")} << 1;
+        << 7 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")} << 1 << QPoint(100, 100);
     QTest::newRow("eight-on-three-by-two-spill-two")
         << 8 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360")}
-        << 1;
+        << 1 << QPoint(100, 100);
     QTest::newRow("six-on-three-by-two-fill-one-page")
         << 6 << 3 << 2 << 1 << QStringList{QStringLiteral("360 360"),   QStringLiteral("3960 360"),
                                            QStringLiteral("7560 360"),  QStringLiteral("360 2160"),
                                            QStringLiteral("3960 2160"), QStringLiteral("7560 2160")}
-        << 1;
+        << 1 << QPoint(100, 100);
     QTest::newRow("envelope-one-page-each")
-        << 3 << 1 << 1 << 3 << QStringList{QStringLiteral("360 360")} << 1;
-    QTest::newRow("no-records-no-pages-drawn") << 0 << 3 << 2 << 1 << QStringList() << 1;
+        << 3 << 1 << 1 << 3 << QStringList{QStringLiteral("360 360")} << 1 << QPoint(100, 100);
+    QTest::newRow("no-records-no-pages-drawn")
+        << 0 << 3 << 2 << 1 << QStringList() << 1 << QPoint(100, 100);
     QTest::newRow("used-sheet-from-slot-5-next-sheet-from-1")
-        << 3 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")} << 5;
+        << 3 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")} << 5 << QPoint(100, 100);
+    QTest::newRow("scaled-110-across-90-down-before-the-offsets")
+        << 2 << 3 << 2 << 1 << QStringList{QStringLiteral("432 288"), QStringLiteral("4392 288")}
+        << 1 << QPoint(110, 90);
 }
 
 void TestPrintRun::pagination()
@@ -170,7 +175,10 @@ void TestPrintRun::pagination()
     QFETCH(int, pages);
     QFETCH(QStringList, lastPageBoxes);
     QFETCH(int, firstSlot);
+    QFETCH(QPoint, scale);
     useLabelSheet(across, down);
+    PieceModel::shared().PrinterScaleX = short(scale.x());
+    PieceModel::shared().PrinterScaleY = short(scale.y());
     PieceModel::shared().PieceStartSlot = short(firstSlot);
     PieceModel::shared().PieceOutlines = firstSlot > 1;
     fixture::feed(fixture::numbered(records));
