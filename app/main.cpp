@@ -20,6 +20,7 @@
 #include "model/error.h"
 #include "records/sharedspool.h"
 #include "render/messagehook.h"
+#include "render/printrun.h"
 #include "settings/files.h"
 #include "surface/printsurface.h"
 
@@ -268,6 +269,7 @@ int runPrint(const QStringList &arguments)
         });
     }
     try {
+        PrintRun::pageRange() = {options.firstPage, options.lastPage};
         if (parser.isSet(strict) && !PreflightPasses(control, QStringLiteral("print")))
             return NotesExitStatus;
         control.PrintNow();

@@ -18,6 +18,7 @@
 #include <QCommandLineParser>
 #include <QJsonObject>
 #include <QMetaProperty>
+#include <QRegularExpression>
 
 namespace quirra {
 
@@ -91,6 +92,9 @@ void RunOptions::addTo(QCommandLineParser &parser, bool withOutput)
         parser.addOption({QStringLiteral("pdf"),
                           QStringLiteral("Write the pages to this PDF file instead of printing."),
                           QStringLiteral("file")});
+        parser.addOption({QStringLiteral("pages"),
+                          QStringLiteral("Print only these pages: 3-5, 4 or 2- (to the end)."),
+                          QStringLiteral("range")});
         parser.addOption({QStringLiteral("printer"),
                           QStringLiteral("Print on this printer (default: the system's default "
                                          "printer)."),
@@ -165,6 +169,21 @@ bool RunOptions::read(const QCommandLineParser &parser, bool withOutput, QString
         if (!ok || startSlot < 1 || startSlot > 32767) {
             *error = QStringLiteral("--start %1: give the slot as a whole number from 1")
                          .arg(parser.value(QStringLiteral("start")));
+            return false;
+        }
+    }
+    firstPage = lastPage = 0;
+    if (withOutput && parser.isSet(QStringLiteral("pages"))) {
+        static const QRegularExpression range(
+            QStringLiteral(R"(^\s*(\d{1,6})\s*(-\s*(\d{0,6}))?\s*$)"));
+        const QString value = parser.value(QStringLiteral("pages"));
+        const QRegularExpressionMatch m = range.match(value);
+        firstPage = m.captured(1).toInt();
+        lastPage = m.captured(2).isEmpty() ? firstPage : m.captured(3).toInt();
+        if (!m.hasMatch() || firstPage < 1 || (lastPage != 0 && lastPage < firstPage)) {
+            *error = QStringLiteral("--pages %1: give a page or a range of pages from 1, as 3-5, "
+                                    "4 or 2-")
+                         .arg(value);
             return false;
         }
     }

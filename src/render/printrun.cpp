@@ -126,6 +126,12 @@ bool &PrintRun::abortFlag()
     return flag;
 }
 
+std::pair<int, int> &PrintRun::pageRange()
+{
+    static std::pair<int, int> range{0, 0};
+    return range;
+}
+
 void PrintRun::RunPrintJob(Surface &surface)
 {
     abortFlag() = false;
@@ -146,6 +152,15 @@ void PrintRun::RunPrintJob(Surface &surface)
         } else {
             try {
                 PlacePieces(surface);
+                const auto [from, to] = pageRange();
+                if (from > 0 && m_piecesDrawn == 0) {
+                    throw Error(QStringLiteral("pages %1: the pieces fill fewer pages than that; "
+                                               "nothing was printed")
+                                    .arg(to == from
+                                             ? QString::number(from)
+                                             : QStringLiteral("%1-%2").arg(from).arg(
+                                                   to > 0 ? QString::number(to) : QString())));
+                }
             } catch (...) {
                 surface.setAction(SurfaceAction::AbortDoc);
                 m_reader.close();
@@ -188,8 +203,13 @@ void PrintRun::PlacePieces(Surface &surface)
     qint64 record = 0;
     QString barCode;
     bool pendingNewPage = false;
+    bool drawnAny = false;
     int firstSlot = startSlot; // the first sheet may be partly used
-    while (!m_reader.spoolExhausted()) {
+    const auto [fromPage, toPage] = pageRange();
+    for (int page = 1; !m_reader.spoolExhausted(); ++page) {
+        if (toPage > 0 && page > toPage)
+            return;
+        const bool wanted = page >= fromPage;
         for (int slot = firstSlot; slot <= perPage; ++slot) {
             ComposeAddressLines(m_reader, surface, WidestCityLine, lines, substitute, &fit,
                                 &barCode);
@@ -197,8 +217,11 @@ void PrintRun::PlacePieces(Surface &surface)
                 return;
             m_checks.beginRecord(++record, lines[1]);
             m_checks.checkAddress(lines, fit, WidestCityLine);
+            if (!wanted)
+                continue;
             if (pendingNewPage) {
-                surface.setAction(SurfaceAction::NewPage);
+                if (drawnAny) // a range's first page is the document's first
+                    surface.setAction(SurfaceAction::NewPage);
                 pendingNewPage = false;
             }
             if (record == 1 && surface.preview()) {
@@ -213,6 +236,7 @@ void PrintRun::PlacePieces(Surface &surface)
             for (ItemId id : {ItemId::Return, ItemId::Message1, ItemId::Message2, ItemId::Stamp})
                 m_model.item(id).Text = ReplaceTokens(templates.text(id), substitute);
             DrawPiece(slot, surface);
+            drawnAny = true;
         }
         firstSlot = 1;
         pendingNewPage = true;

@@ -8,6 +8,8 @@
 #include "render/piecechecks.h"
 #include "render/runreport.h"
 
+#include <utility>
+
 namespace quirra {
 
 class SpoolReader;
@@ -69,6 +71,13 @@ public:
      * with the abort action instead of end-document. Cleared at every start.
      */
     static bool &abortFlag();
+
+    /**
+     * @brief The process-wide page range, from 1: pages outside it are laid
+     * out and checked but not drawn, and the run ends after its last page.
+     * 0 leaves that end open; {0, 0} draws every page.
+     */
+    static std::pair<int, int> &pageRange();
 
 private:
     PieceModel &m_model;

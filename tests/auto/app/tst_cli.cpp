@@ -215,6 +215,11 @@ void TestCli::badInputLeavesNoFile_data()
     QTest::newRow("copies-not-a-whole-number")
         << QStringList{pdf, "--copies-column", "Last", csv("people.csv")} << 1
         << QStringList{"people.csv: line 2: the copies column \"Last\" holds \"Holloway\""};
+    QTest::newRow("pages-beyond-the-run")
+        << QStringList{pdf, "--pages", "5-6", csv("people.csv")} << 1
+        << QStringList{"pages 5-6: the pieces fill fewer pages than that"};
+    QTest::newRow("pages-backwards") << QStringList{pdf, "--pages", "3-2", csv("people.csv")} << 2
+                                     << QStringList{"--pages 3-2: give a page or a range"};
     QTest::newRow("start-beyond-the-sheet")
         << QStringList{pdf, "--piece", "5160 - Address Labels", "--start", "31", csv("people.csv")}
         << 1 << QStringList{"--start 31: the sheet of \"5160 - Address Labels\" has 30 slots"};
