@@ -4,6 +4,7 @@
 // quirra: the command-line host. Feeds the records of a CSV file to a Quirra
 // control and prints them, writes them to a PDF file, or previews them in a
 // window; lists the catalogue.
+#include "calibratecommand.h"
 #include "cataloguecheck.h"
 #include "console.h"
 #include "interruptcleanup.h"
@@ -58,6 +59,8 @@ int usage(bool asked = false)
         "[CSV | -]\n"
         "       quirra check [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]... "
         "[CSV | -]\n"
+        "       quirra calibrate --piece NAME (--pdf OUT.pdf | --printer NAME |\n"
+        "                        --measured LEFT,TOP,RIGHT,BOTTOM) [--set PROPERTY=VALUE]...\n"
         "       quirra pieces [--product NAME]\n"
         "       quirra --version\n"
         "Run 'quirra COMMAND --help' for the options of a command."));
@@ -481,7 +484,8 @@ int main(int argc, char **argv)
         return 0;
     }
     if (command != QLatin1String("print") && command != QLatin1String("preview") &&
-        command != QLatin1String("pieces") && command != QLatin1String("check")) {
+        command != QLatin1String("pieces") && command != QLatin1String("check") &&
+        command != QLatin1String("calibrate")) {
         if (!command.isEmpty())
             say(QStringLiteral("quirra: unknown command \"%1\"").arg(command));
         return usage();
@@ -525,6 +529,8 @@ int main(int argc, char **argv)
             status = runPreview(arguments);
         else if (command == QLatin1String("check"))
             status = RunCheckCommand(arguments, parseArguments);
+        else if (command == QLatin1String("calibrate"))
+            status = RunCalibrateCommand(arguments, parseArguments);
         else
             status = runPieces(arguments);
     } catch (const Error &e) {

@@ -32,8 +32,8 @@ struct QUIRRACONTROL_EXPORT PieceModel
     /** @brief Each piece's outline, thin and grey, drawn with the piece. */
     bool PieceOutlines = false;
     /** @brief The printer's stretch across and down, in percent (90..110 used). */
-    short PrinterScaleX = 100;
-    short PrinterScaleY = 100;
+    float PrinterScaleX = 100;
+    float PrinterScaleY = 100;
 
     Item &item(ItemId id) { return items[static_cast<int>(id)]; }
     const Item &item(ItemId id) const { return items[static_cast<int>(id)]; }

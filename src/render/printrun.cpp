@@ -51,8 +51,8 @@ public:
     explicit ScaledPositions(PieceModel &model)
         : m_model(model), m_piece(model.piece), m_items(model.items)
     {
-        const float x = std::clamp<short>(model.PrinterScaleX, 90, 110) / 100.f;
-        const float y = std::clamp<short>(model.PrinterScaleY, 90, 110) / 100.f;
+        const float x = std::clamp(model.PrinterScaleX, 90.f, 110.f) / 100.f;
+        const float y = std::clamp(model.PrinterScaleY, 90.f, 110.f) / 100.f;
         Piece &piece = model.piece;
         piece.PieceMarginLeft *= x;
         piece.PiecePitchHorz *= x;

@@ -178,8 +178,8 @@ void TestPrintRun::pagination()
     QFETCH(int, firstSlot);
     QFETCH(QPoint, scale);
     useLabelSheet(across, down);
-    PieceModel::shared().PrinterScaleX = short(scale.x());
-    PieceModel::shared().PrinterScaleY = short(scale.y());
+    PieceModel::shared().PrinterScaleX = float(scale.x());
+    PieceModel::shared().PrinterScaleY = float(scale.y());
     PieceModel::shared().PieceStartSlot = short(firstSlot);
     PieceModel::shared().PieceOutlines = firstSlot > 1;
     fixture::feed(fixture::numbered(records));
