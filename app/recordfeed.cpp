@@ -117,8 +117,8 @@ bool RecordFeed::feed(const Progress &progress, QString *error)
                 m_control.EndDoc();
                 *error = QStringLiteral("%1: line %2: the copies column \"%3\" holds \"%4\"; "
                                         "give a whole number, 0 to %5")
-                             .arg(m_name, QString::number(reader.rowLine()), m_copiesColumn,
-                                  value, QString::number(MostCopies));
+                             .arg(m_name, QString::number(reader.rowLine()), m_copiesColumn, value,
+                                  QString::number(MostCopies));
                 return false;
             }
         }
