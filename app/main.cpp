@@ -109,7 +109,15 @@ std::optional<int> parseArguments(QCommandLineParser &parser, const QStringList 
         const qsizetype options = usage.indexOf(QLatin1String(" ["));
         text.replace(0, options < 0 ? lineEnd : options,
                      QStringLiteral("Usage: quirra ") + command);
-        print(text.trimmed());
+        // One line an option: the parser's wrapped descriptions joined up.
+        QStringList lines;
+        for (const QString &line : text.split(QLatin1Char('\n'))) {
+            if (!lines.isEmpty() && line.startsWith(QLatin1String("      ")))
+                lines.last() += QLatin1Char(' ') + line.trimmed();
+            else
+                lines.append(line);
+        }
+        print(lines.join(QLatin1Char('\n')).trimmed());
         return 0;
     }
     return std::nullopt;

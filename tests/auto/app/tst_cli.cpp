@@ -512,6 +512,7 @@ void TestCli::versionAndHelp_data()
 
     QTest::newRow("version") << QStringList{"--version"} << "quirra 0.";
     QTest::newRow("help") << QStringList{"--help"} << "usage: quirra print";
+    QTest::newRow("print-help") << QStringList{"print", "--help"} << "Usage: quirra print";
 }
 
 void TestCli::versionAndHelp()
@@ -523,6 +524,13 @@ void TestCli::versionAndHelp()
     QCOMPARE(run.status, 0);
     QVERIFY2(run.out.startsWith(output), qPrintable(run.out));
     QCOMPARE(run.err, QString());
+    // A command's options take one line each, every one of them listed.
+    if (output.startsWith(QLatin1String("Usage:"))) {
+        QVERIFY2(!run.out.contains(QLatin1String("\n      ")), qPrintable(run.out));
+        for (const char *option : {"--piece", "--layout", "--set", "--pdf", "--pages", "--printer",
+                                   "--start", "--outlines", "--copies-column", "--strict"})
+            QVERIFY2(run.out.contains(QLatin1String("\n  ") + QLatin1String(option)), option);
+    }
 }
 
 void TestCli::progressOnRequestOnly()
