@@ -210,6 +210,9 @@ void TestCli::badInputLeavesNoFile_data()
     QTest::newRow("length-beyond-any-sheet")
         << QStringList{pdf, "--set", "AddressTop=250", csv("people.csv")} << 1
         << QStringList{"AddressTop is 250 in; a length on a sheet is from 0 to 100 in"};
+    QTest::newRow("scale-beyond-the-range")
+        << QStringList{pdf, "--set", "PrinterScaleX=120", csv("people.csv")} << 1
+        << QStringList{"PrinterScaleX is 120 %; the printer's scale is from 90 to 110 %"};
     QTest::newRow("unknown-option") << QStringList{pdf, "--colour", "red", csv("people.csv")} << 2
                                     << QStringList{"quirra print: Unknown option 'colour'"};
     QTest::newRow("copies-not-a-whole-number")
