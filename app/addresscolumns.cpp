@@ -28,6 +28,9 @@ const QHash<QString, AddressField> &fieldNames()
         {QStringLiteral("state"), AddressField::State},
         {QStringLiteral("zip"), AddressField::Zip},
         {QStringLiteral("substitute"), AddressField::Substitute},
+        {QStringLiteral("bar_code"), AddressField::BarCode},
+        {QStringLiteral("barcode"), AddressField::BarCode},
+        {QStringLiteral("imb"), AddressField::BarCode},
     };
     return names;
 }
@@ -46,7 +49,8 @@ QString describeProblem(const QString &value)
 QString AddressColumns::acceptedNames()
 {
     return QStringLiteral("first, middle, last, address1, address2, city, state, zip (or "
-                          "nm_first, nm_middle, nm_last, addr_1, addr_2), and substitute");
+                          "nm_first, nm_middle, nm_last, addr_1, addr_2), bar_code (or barcode, "
+                          "imb), and substitute");
 }
 
 bool AddressColumns::setHeader(const QStringList &header, QString *error)
@@ -68,7 +72,7 @@ bool AddressColumns::setHeader(const QStringList &header, QString *error)
                 return false;
             }
             taken.insert(column.field, column.name);
-            if (*it != AddressField::Substitute)
+            if (*it != AddressField::Substitute && *it != AddressField::BarCode)
                 anyAddressField = true;
         } else if (column.name.isEmpty()) {
             // An unnamed column cannot be reached by a token; it is left out.

@@ -21,8 +21,9 @@ enum class AddressField : int {
     State,
     Zip,
     Substitute,
+    BarCode,
 };
-constexpr int AddressFieldCount = 9;
+constexpr int AddressFieldCount = 10;
 
 /** @brief One recipient as read from a row: the fields plus the substitution list. */
 struct AddressRow

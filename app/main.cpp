@@ -4,6 +4,7 @@
 // quirra: the command-line host. Feeds the records of a CSV file to a Quirra
 // control and prints them, writes them to a PDF file, or previews them in a
 // window; lists the catalogue.
+#include "calibratecommand.h"
 #include "cataloguecheck.h"
 #include "console.h"
 #include "interruptcleanup.h"
@@ -59,6 +60,8 @@ int usage(bool asked = false)
         "[CSV | -]\n"
         "       quirra check [--piece NAME] [--layout FILE.json] [--set PROPERTY=VALUE]... "
         "[CSV | -]\n"
+        "       quirra calibrate --piece NAME (--pdf OUT.pdf | --printer NAME |\n"
+        "                        --measured LEFT,TOP,RIGHT,BOTTOM) [--set PROPERTY=VALUE]...\n"
         "       quirra pieces [--product NAME] [--search TEXT] [--brand NAME]\n"
         "       quirra --version\n"
         "Run 'quirra COMMAND --help' for the options of a command."));
@@ -107,7 +110,15 @@ std::optional<int> parseArguments(QCommandLineParser &parser, const QStringList 
         const qsizetype options = usage.indexOf(QLatin1String(" ["));
         text.replace(0, options < 0 ? lineEnd : options,
                      QStringLiteral("Usage: quirra ") + command);
-        print(text.trimmed());
+        // One line an option: the parser's wrapped descriptions joined up.
+        QStringList lines;
+        for (const QString &line : text.split(QLatin1Char('\n'))) {
+            if (!lines.isEmpty() && line.startsWith(QLatin1String("      ")))
+                lines.last() += QLatin1Char(' ') + line.trimmed();
+            else
+                lines.append(line);
+        }
+        print(lines.join(QLatin1Char('\n')).trimmed());
         return 0;
     }
     return std::nullopt;
@@ -235,6 +246,7 @@ int runPrint(const QStringList &arguments)
         return *status;
 
     RecordFeed feed(control);
+    feed.setCopiesColumn(options.copiesColumn);
     if (!feed.open(options.csvPath, &error)) {
         say(QStringLiteral("quirra print: %1").arg(error));
         return 1;
@@ -299,6 +311,7 @@ int runPrint(const QStringList &arguments)
         });
     }
     try {
+        control.SetPrintPages(options.firstPage, options.lastPage);
         if (parser.isSet(strict) && !PreflightPasses(control, QStringLiteral("print")))
             return NotesExitStatus;
         control.PrintNow();
@@ -381,6 +394,7 @@ int runPreview(const QStringList &arguments)
     if (const auto status = options.applyTo(control, QStringLiteral("preview")))
         return *status;
     RecordFeed feed(control);
+    feed.setCopiesColumn(options.copiesColumn);
     if (!feed.open(options.csvPath, &error)) {
         say(QStringLiteral("quirra preview: %1").arg(error));
         return 1;
@@ -531,7 +545,8 @@ int main(int argc, char **argv)
         return 0;
     }
     if (command != QLatin1String("print") && command != QLatin1String("preview") &&
-        command != QLatin1String("pieces") && command != QLatin1String("check")) {
+        command != QLatin1String("pieces") && command != QLatin1String("check") &&
+        command != QLatin1String("calibrate")) {
         if (!command.isEmpty())
             say(QStringLiteral("quirra: unknown command \"%1\"").arg(command));
         return usage();
@@ -575,6 +590,8 @@ int main(int argc, char **argv)
             status = runPreview(arguments);
         else if (command == QLatin1String("check"))
             status = RunCheckCommand(arguments, parseArguments);
+        else if (command == QLatin1String("calibrate"))
+            status = RunCalibrateCommand(arguments, parseArguments);
         else
             status = runPieces(arguments);
     } catch (const Error &e) {

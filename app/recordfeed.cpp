@@ -46,6 +46,9 @@ bool RecordFeed::open(const QString &path, QString *error)
     return true;
 }
 
+// More pieces than this of one record is a mistake in the column, not a mailing.
+constexpr qlonglong MostCopies = 100000;
+
 bool RecordFeed::feed(const Progress &progress, QString *error)
 {
     CsvReader reader(&m_file);
@@ -79,7 +82,21 @@ bool RecordFeed::feed(const Progress &progress, QString *error)
         {AddressField::State, &Quirra::State},
         {AddressField::Zip, &Quirra::zip},
         {AddressField::Substitute, &Quirra::Substitute},
+        {AddressField::BarCode, &Quirra::BarCode},
     };
+
+    qsizetype copiesAt = -1;
+    if (!m_copiesColumn.isEmpty()) {
+        for (qsizetype i = 0; i < fields.size() && copiesAt < 0; ++i)
+            if (fields.at(i).trimmed().compare(m_copiesColumn, Qt::CaseInsensitive) == 0)
+                copiesAt = i;
+        if (copiesAt < 0) {
+            *error = QStringLiteral("%1: no column is named \"%2\" (--copies-column); the "
+                                    "columns are %3")
+                         .arg(m_name, m_copiesColumn, fields.join(QStringLiteral(", ")));
+            return false;
+        }
+    }
 
     m_control.StartDoc();
     AddressRow row;
@@ -91,13 +108,28 @@ bool RecordFeed::feed(const Progress &progress, QString *error)
                          .arg(m_name, QString::number(reader.rowLine()), problem);
             return false;
         }
+        qlonglong copies = 1;
+        if (copiesAt >= 0) {
+            bool ok = false;
+            const QString value = fields.value(copiesAt).trimmed();
+            copies = value.toLongLong(&ok);
+            if (!ok || copies < 0 || copies > MostCopies) {
+                m_control.EndDoc();
+                *error = QStringLiteral("%1: line %2: the copies column \"%3\" holds \"%4\"; "
+                                        "give a whole number, 0 to %5")
+                             .arg(m_name, QString::number(reader.rowLine()), m_copiesColumn, value,
+                                  QString::number(MostCopies));
+                return false;
+            }
+        }
         m_control.ClearPiece();
         for (const auto &[field, setter] : setters) {
             const QString &value = row[field];
             if (!value.isEmpty())
                 (m_control.*setter)(value);
         }
-        m_control.NewPiece();
+        for (qlonglong copy = 0; copy < copies; ++copy)
+            m_control.NewPiece();
         ++m_records;
         if (progress && !progress(m_records, reader.bytesRead())) {
             m_control.EndDoc();

@@ -14,7 +14,7 @@ namespace quirra {
 /**
  * @brief Feeds the rows of a CSV file to a control, one recipient each,
  * through the control's published methods: StartDoc, then ClearPiece, the
- * field setters and NewPiece per row, then EndDoc.
+ * field setters and NewPiece per row (once per copy), then EndDoc.
  */
 class RecordFeed
 {
@@ -50,6 +50,12 @@ public:
      * @throws Error when the control cannot write its spool.
      */
     bool feed(const Progress &progress, QString *error);
+    /**
+     * @brief Each row gives as many pieces as this column says (a whole
+     * number, 0 or more); empty: one piece a row. The feed fails, naming the
+     * line, on any other value, and when the header has no such column.
+     */
+    void setCopiesColumn(const QString &name) { m_copiesColumn = name; }
 
     /** @brief Records fed so far. */
     qint64 records() const { return m_records; }
@@ -60,6 +66,7 @@ private:
     QString m_name;
     qint64 m_size = -1;
     qint64 m_records = 0;
+    QString m_copiesColumn;
 };
 
 } // namespace quirra

@@ -19,6 +19,7 @@
 #include <QCommandLineParser>
 #include <QJsonObject>
 #include <QMetaProperty>
+#include <QRegularExpression>
 
 namespace quirra {
 
@@ -92,11 +93,25 @@ void RunOptions::addTo(QCommandLineParser &parser, bool withOutput)
         parser.addOption({QStringLiteral("pdf"),
                           QStringLiteral("Write the pages to this PDF file instead of printing."),
                           QStringLiteral("file")});
+        parser.addOption({QStringLiteral("pages"),
+                          QStringLiteral("Print only these pages: 3-5, 4 or 2- (to the end)."),
+                          QStringLiteral("range")});
         parser.addOption({QStringLiteral("printer"),
                           QStringLiteral("Print on this printer (default: the system's default "
                                          "printer)."),
                           QStringLiteral("name")});
     }
+    parser.addOption({QStringLiteral("start"),
+                      QStringLiteral("Start on slot N of the first sheet (slots numbered row by "
+                                     "row from 1), to use up a sheet already used."),
+                      QStringLiteral("N")});
+    parser.addOption({QStringLiteral("outlines"),
+                      QStringLiteral("Draw each piece's outline, thin and grey, to check the "
+                                     "alignment on plain paper.")});
+    parser.addOption({QStringLiteral("copies-column"),
+                      QStringLiteral("The column holding how many pieces of each record to "
+                                     "print (a whole number, 0 or more)."),
+                      QStringLiteral("name")});
     parser.addOption({QStringLiteral("progress"),
                       QStringLiteral("Draw a progress bar on standard error (the default when it "
                                      "is a terminal).")});
@@ -147,6 +162,37 @@ bool RunOptions::read(const QCommandLineParser &parser, bool withOutput, QString
             *error = QStringLiteral("give either --pdf or --printer, not both");
             return false;
         }
+    }
+    startSlot = 0;
+    if (parser.isSet(QStringLiteral("start"))) {
+        bool ok = false;
+        startSlot = parser.value(QStringLiteral("start")).trimmed().toInt(&ok);
+        if (!ok || startSlot < 1 || startSlot > 32767) {
+            *error = QStringLiteral("--start %1: give the slot as a whole number from 1")
+                         .arg(parser.value(QStringLiteral("start")));
+            return false;
+        }
+    }
+    firstPage = lastPage = 0;
+    if (withOutput && parser.isSet(QStringLiteral("pages"))) {
+        static const QRegularExpression range(
+            QStringLiteral(R"(^\s*(\d{1,6})\s*(-\s*(\d{0,6}))?\s*$)"));
+        const QString value = parser.value(QStringLiteral("pages"));
+        const QRegularExpressionMatch m = range.match(value);
+        firstPage = m.captured(1).toInt();
+        lastPage = m.captured(2).isEmpty() ? firstPage : m.captured(3).toInt();
+        if (!m.hasMatch() || firstPage < 1 || (lastPage != 0 && lastPage < firstPage)) {
+            *error = QStringLiteral("--pages %1: give a page or a range of pages from 1, as 3-5, "
+                                    "4 or 2-")
+                         .arg(value);
+            return false;
+        }
+    }
+    outlines = parser.isSet(QStringLiteral("outlines"));
+    copiesColumn = parser.value(QStringLiteral("copies-column")).trimmed();
+    if (parser.isSet(QStringLiteral("copies-column")) && copiesColumn.isEmpty()) {
+        *error = QStringLiteral("--copies-column needs a column's name");
+        return false;
     }
     const bool on = parser.isSet(QStringLiteral("progress"));
     const bool off = parser.isSet(QStringLiteral("no-progress"));
@@ -240,6 +286,19 @@ bool RunOptions::applyTo(Quirra &control, QStringList *warnings, QString *error)
             return false;
         }
     }
+    if (startSlot > 0) {
+        const int slots = int(control.PieceNumAcross()) * int(control.PieceNumDown());
+        if (startSlot > slots) {
+            *error = QStringLiteral("--start %1: the sheet of \"%2\" has %3 slots; give 1 to %3")
+                         .arg(startSlot)
+                         .arg(control.PieceName())
+                         .arg(slots);
+            return false;
+        }
+        control.PieceStartSlot(short(startSlot));
+    }
+    if (outlines)
+        control.PieceOutlines(true);
     return true;
 }
 

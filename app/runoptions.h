@@ -65,6 +65,11 @@ public:
     QString pdfPath;                    ///< --pdf
     QString printerName;                ///< --printer
     Progress progress = Progress::Auto;
+    int startSlot = 0;         ///< --start; 0 when not given
+    bool outlines = false;     ///< --outlines
+    QString copiesColumn;      ///< --copies-column; empty when not given
+    int firstPage = 0;         ///< --pages; 0 when not given
+    int lastPage = 0;          ///< --pages; 0 for an open end
     bool unknownPiece = false; ///< set by applyTo() when the piece is not in the catalogue
 };
 

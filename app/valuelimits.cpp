@@ -20,9 +20,19 @@ QString valueProblem(const QString &name, const QVariant &value)
         }
         return QString();
     }
-    // The control keeps its lengths (positions, sizes, margins, pitches) in
-    // inches as floats, and nothing else.
-    if (value.typeId() == QMetaType::Float || value.typeId() == QMetaType::Double) {
+    const bool number = value.typeId() == QMetaType::Float || value.typeId() == QMetaType::Double;
+    // The printer's stretch, in percent.
+    if (number && name.startsWith(QLatin1String("PrinterScale"))) {
+        const double percent = value.toDouble();
+        if (!std::isfinite(percent) || percent < 90 || percent > 110)
+            return QStringLiteral("%1 is %2 %; the printer's scale is from 90 to 110 %")
+                .arg(name)
+                .arg(percent);
+        return QString();
+    }
+    // Besides the scale, the control keeps its lengths (positions, sizes,
+    // margins, pitches) in inches as floats, and nothing else.
+    if (number) {
         const double inches = value.toDouble();
         if (!std::isfinite(inches) || inches < 0 || inches > MaxInches) {
             return QStringLiteral("%1 is %2 in; a length on a sheet is from 0 to %3 in")

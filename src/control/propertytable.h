@@ -38,8 +38,8 @@ struct QUIRRACONTROL_EXPORT PropertyInfo
     QString name;        ///< the published name
     QMetaType type;      ///< the property's C++ type
     QMetaType savedType; ///< the type its values travel as
-    int saveOrder = 0;   ///< 1..86 when saved and read back; 0: never saved
-    int initOrder = 0;   ///< 1..86 when a new control is initialised; 0: left alone
+    int saveOrder = 0;   ///< 1..91 when saved and read back; 0: never saved
+    int initOrder = 0;   ///< 1..91 when a new control is initialised; 0: left alone
     ValueFunction defaultValue = nullptr;              ///< what a saved control may omit
     ValueFunction initialValue = nullptr;              ///< what a new control gets
     QVariant (*read)(const Quirra &control) = nullptr; ///< the getter, in saved form
@@ -60,7 +60,7 @@ public:
     /** @brief The saved properties in saving order: the 84 published, then PageWidth, PageHeight. */
     static const std::vector<const PropertyInfo *> &savedInOrder();
 
-    /** @brief The properties a new control sets, in that order (86 of them). */
+    /** @brief The properties a new control sets, in that order (91 of them). */
     static const std::vector<const PropertyInfo *> &initialisedInOrder();
 
     /** @brief The property of that name (case counts), or nullptr. */

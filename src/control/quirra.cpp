@@ -170,6 +170,11 @@ void Quirra::Substitute(const QString &value)
     m_record.setValue(RecordField::substitute, value);
 }
 
+void Quirra::BarCode(const QString &value)
+{
+    m_record.setValue(RecordField::bar_code, value);
+}
+
 void Quirra::ClearPiece()
 {
     m_record.clear();
@@ -252,6 +257,7 @@ void Quirra::runOn(Surface &surface)
 
     PrintRun run(model(), reader);
     run.setCancelFlag(&m_cancel);
+    run.setPageRange(m_pages);
     run.setMessageSink([this](const QString &text) { HostServices::of(this).message(text, this); });
     try {
         run.RunPrintJob(surface);

@@ -13,6 +13,7 @@
 #include <QWidget>
 
 #include <atomic>
+#include <utility>
 #include <memory>
 
 class QPrinter;
@@ -91,6 +92,12 @@ public:
      * values replace the tokens "<<name>>" of the item texts.
      */
     Q_INVOKABLE void Substitute(const QString &value);
+    /**
+     * @brief Stores the bar code, without surrounding blanks: the 20-digit
+     * Intelligent Mail tracking code, optionally followed by its 5-, 9- or
+     * 11-digit routing code; printed when AddressBarcode is on.
+     */
+    Q_INVOKABLE void BarCode(const QString &value);
 
     /**
      * @brief Appends the current recipient to the spool as one line.
@@ -213,6 +220,12 @@ public:
     bool LastRunCancelled() const;
 
     /**
+     * @brief The pages the next runs print, from 1 (0 leaves that end
+     * open; 0, 0, as a new control has it, prints them all). Not saved.
+     */
+    void SetPrintPages(int first, int last) { m_pages = {first, last}; }
+
+    /**
      * @brief The printer the control prints on. A host may name a system
      * printer or an output PDF file on it; nothing of it is saved.
      */
@@ -224,12 +237,12 @@ public:
      */
     void InitProperties();
     /**
-     * @brief Restores the 86 saved properties (the 84 published, then the
-     * sheet's PageWidth and PageHeight) from bag, in their saving
+     * @brief Restores the 91 saved properties (the 84 published, then the
+     * sheet's PageWidth and PageHeight, then the mailing options) from bag, in their saving
      * order. A missing or unreadable value takes its default.
      */
     void ReadProperties(quirra::PropertyBag &bag);
-    /** @brief Saves the 86 properties into bag, each with its default. */
+    /** @brief Saves the 91 properties into bag, each with its default. */
     void WriteProperties(quirra::PropertyBag &bag) const;
 
     /**
@@ -278,5 +291,6 @@ private:
     QString m_icon1;
     std::unique_ptr<quirra::RunReport> m_report;
     std::atomic_bool m_cancel{false};
+    std::pair<int, int> m_pages{0, 0};
     bool m_lastRunCancelled = false;
 };

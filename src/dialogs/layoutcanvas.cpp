@@ -3,6 +3,7 @@
 #include "dialogs/layoutcanvas.h"
 
 #include "dialogs/layoutitemlabel.h"
+#include "records/intelligentmail.h"
 #include "settings/units.h"
 
 #include <QKeyEvent>
@@ -243,6 +244,18 @@ void LayoutCanvas::setItemBox(int index, const QRectF &box)
         s->box = box;
         applyBox(index);
     }
+}
+
+void LayoutCanvas::setAddressBarcode(bool on)
+{
+    ItemState *s = stateOf(1);
+    if (!s)
+        return;
+    const double pixelsPerTwip = m_geometry.scale() / m_twipsPerPixel;
+    s->label->setBarcodeBand(
+        on ? QSize(int(std::lround(IntelligentMailBarcode::widthTwips() * pixelsPerTwip)),
+                   int(std::lround(IntelligentMailBarcode::heightTwips() * pixelsPerTwip)))
+           : QSize());
 }
 
 void LayoutCanvas::setItemText(int index, const QString &text)

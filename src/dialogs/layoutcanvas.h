@@ -106,6 +106,8 @@ public:
     void setItemFont(int index, const ItemFont &font);
     /** @brief Shows or hides item index; one shown again is made big enough to be seen. */
     void setItemVisible(int index, bool visible);
+    /** @brief Shows the room the address barcode takes below the address (item 1). */
+    void setAddressBarcode(bool on);
 
     /** @brief The selected item, 1..5; 0 for none. */
     int current() const { return m_current; }

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QPen>
 
+#include <algorithm>
+
 namespace quirra {
 
 LayoutItemLabel::LayoutItemLabel(QWidget *parent) : QLabel(parent)
@@ -27,12 +29,31 @@ void LayoutItemLabel::setBordered(bool bordered)
     update();
 }
 
+void LayoutItemLabel::setBarcodeBand(const QSize &pixels)
+{
+    m_barcode = pixels;
+    update();
+}
+
 void LayoutItemLabel::paintEvent(QPaintEvent *event)
 {
     QLabel::paintEvent(event);
+    QPainter painter(this);
+    if (!m_barcode.isEmpty()) {
+        // Below the last line, clear of its descenders, as the print run puts it.
+        const QRect inside = contentsRect();
+        const int lines = int(text().count(QLatin1Char('\n'))) + 1;
+        const int top = inside.top() + lines * fontMetrics().lineSpacing() + m_barcode.height() / 4;
+        int left = inside.left();
+        if (alignment() & Qt::AlignHCenter)
+            left += (inside.width() - m_barcode.width()) / 2;
+        else if (alignment() & Qt::AlignRight)
+            left += inside.width() - m_barcode.width();
+        painter.fillRect(QRect(QPoint(std::max(left, inside.left()), top), m_barcode),
+                         QBrush(Qt::black, Qt::VerPattern));
+    }
     if (m_bordered)
         return;
-    QPainter painter(this);
     QPen pen(QColor(0, 0, 0, 70));
     pen.setStyle(Qt::DotLine);
     pen.setCosmetic(true);

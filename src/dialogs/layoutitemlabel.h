@@ -28,12 +28,18 @@ public:
     void setBordered(bool bordered);
     /** @brief True when the label draws its single-line border. */
     bool isBordered() const { return m_bordered; }
+    /**
+     * @brief The room of the address barcode, in pixels, shown below the
+     * text as a striped band; an empty size shows none.
+     */
+    void setBarcodeBand(const QSize &pixels);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
     bool m_bordered = false;
+    QSize m_barcode;
 };
 
 } // namespace quirra

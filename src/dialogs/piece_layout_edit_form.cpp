@@ -8,6 +8,7 @@
 #include "dialogs/logging_p.h"
 #include "dialogs/numberkeyfilter.h"
 #include "model/fontconversion.h"
+#include "model/piecemodel.h"
 #include "settings/defaultlayout.h"
 #include "settings/settings.h"
 #include "settings/units.h"
@@ -322,6 +323,7 @@ void piece_layout_edit_form::loadItems(float pieceWidth, float pieceHeight,
     m_canvas->parentWidget()->updateGeometry();
     for (int i = 0; i < ItemCount; ++i)
         m_canvas->loadItem(i + 1, items[size_t(i)]);
+    m_canvas->setAddressBarcode(PieceModel::shared().AddressBarcode);
     qCDebug(lcDialogs) << "layout editor on a piece of" << pieceWidth << "x" << pieceHeight
                        << "inches at the scale" << scale;
     if (m_activated) {

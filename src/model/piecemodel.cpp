@@ -6,7 +6,10 @@ namespace quirra {
 
 bool PieceModel::operator==(const PieceModel &o) const
 {
-    return piece == o.piece && items == o.items && EnvelopeOrientation == o.EnvelopeOrientation;
+    return piece == o.piece && items == o.items && EnvelopeOrientation == o.EnvelopeOrientation &&
+           AddressBarcode == o.AddressBarcode && PieceStartSlot == o.PieceStartSlot &&
+           PieceOutlines == o.PieceOutlines && PrinterScaleX == o.PrinterScaleX &&
+           PrinterScaleY == o.PrinterScaleY;
 }
 
 PieceModel &PieceModel::shared()

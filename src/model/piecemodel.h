@@ -23,6 +23,15 @@ struct QUIRRACONTROL_EXPORT PieceModel
     Piece piece;
     std::array<Item, ItemCount> items; ///< in storage order, see ItemId
     eEnvOrient EnvelopeOrientation = eoLandscape;
+    /** @brief The record's Intelligent Mail barcode below the city line. */
+    bool AddressBarcode = false;
+    /** @brief The slot of the first sheet that takes the first record, from 1. */
+    short PieceStartSlot = 1;
+    /** @brief Each piece's outline, thin and grey, drawn with the piece. */
+    bool PieceOutlines = false;
+    /** @brief The printer's stretch across and down, in percent (90..110 used). */
+    float PrinterScaleX = 100;
+    float PrinterScaleY = 100;
 
     Item &item(ItemId id) { return items[static_cast<int>(id)]; }
     const Item &item(ItemId id) const { return items[static_cast<int>(id)]; }

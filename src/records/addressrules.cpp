@@ -43,6 +43,7 @@ enum Value : int {
     State = 6,
     Zip = 7,
     CarrierRoute = 8,
+    BarCode = 9,
 };
 
 class CityCut
@@ -164,7 +165,8 @@ void describeFit(const QString &city, const QString &state, const QString &code,
 } // namespace
 
 bool ComposeAddressLines(SpoolReader &reader, TextMeasurer &measurer, double widest,
-                         AddressLines &lines, QString &substitute, CityLineFit *fit)
+                         AddressLines &lines, QString &substitute, CityLineFit *fit,
+                         QString *barCode)
 {
     for (QString &line : lines) {
         line = QLatin1String("");
@@ -183,6 +185,8 @@ bool ComposeAddressLines(SpoolReader &reader, TextMeasurer &measurer, double wid
     }
 
     lines[0] = TrimTrailingBlanks(v[CarrierRoute]);
+    if (barCode)
+        *barCode = v[BarCode];
 
     const QLatin1Char blank(' ');
     if (v[Middle].isEmpty()) {

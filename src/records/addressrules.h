@@ -54,12 +54,14 @@ struct QUIRRACONTROL_EXPORT CityLineFit
  * @param lines receives the ten lines; all empty at the end of the spool
  * @param substitute receives the record's substitution list
  * @param fit when given, receives how the city line came out
+ * @param barCode when given, receives the record's bar code field
  * @return true when the spool had no further record (the reader's end mark
  * is then set), false when lines were composed.
  */
 QUIRRACONTROL_EXPORT bool ComposeAddressLines(SpoolReader &reader, TextMeasurer &measurer,
                                               double widest, AddressLines &lines,
-                                              QString &substitute, CityLineFit *fit = nullptr);
+                                              QString &substitute, CityLineFit *fit = nullptr,
+                                              QString *barCode = nullptr);
 
 /**
  * @brief The city, state and zip line that fits in widest twips.

@@ -125,6 +125,13 @@ void PieceChecks::checkAddress(const AddressLines &lines, const CityLineFit &fit
     }
 }
 
+void PieceChecks::noteBarcode(const QString &problem)
+{
+    note(NoteKind::BarcodeInvalid, [&] {
+        return QStringLiteral("bar code %1; the piece is printed without a barcode").arg(problem);
+    });
+}
+
 bool PieceChecks::checkPiece(const QRect &pieceBox, const QRect &paper)
 {
     if (paper.isEmpty() || within(pieceBox, paper, PaperSlack))

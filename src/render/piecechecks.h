@@ -41,6 +41,9 @@ public:
     /** @brief The empty record and the city line. */
     void checkAddress(const AddressLines &lines, const CityLineFit &fit, double widest);
 
+    /** @brief A bar code that is no Intelligent Mail code; problem names the value. */
+    void noteBarcode(const QString &problem);
+
     /** @brief The piece against the paper; false when it is not wholly on it. */
     bool checkPiece(const QRect &pieceBox, const QRect &paper);
 

@@ -11,6 +11,8 @@
 #include "render/piecechecks.h"
 #include "surface/surface.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 
 namespace quirra {
@@ -18,6 +20,46 @@ namespace quirra {
 namespace {
 
 constexpr QChar CarriageReturn(u'\r');
+
+// Stretches every position on the sheet about the page's top-left corner
+// for the printer's calibration, leaving sizes as they are; the printer's
+// offsets are taken off afterwards. Puts the positions back when the run ends.
+class ScaledPositions
+{
+public:
+    explicit ScaledPositions(PieceModel &model)
+        : m_model(model), m_piece(model.piece), m_items(model.items)
+    {
+        const float x = std::clamp(model.PrinterScaleX, 90.f, 110.f) / 100.f;
+        const float y = std::clamp(model.PrinterScaleY, 90.f, 110.f) / 100.f;
+        Piece &piece = model.piece;
+        piece.PieceMarginLeft *= x;
+        piece.PiecePitchHorz *= x;
+        piece.PieceMarginTop *= y;
+        piece.PiecePitchVert *= y;
+        for (Item &item : model.items) {
+            item.Left *= x;
+            item.Top *= y;
+        }
+    }
+    ~ScaledPositions()
+    {
+        Piece &piece = m_model.piece;
+        piece.PieceMarginLeft = m_piece.PieceMarginLeft;
+        piece.PiecePitchHorz = m_piece.PiecePitchHorz;
+        piece.PieceMarginTop = m_piece.PieceMarginTop;
+        piece.PiecePitchVert = m_piece.PiecePitchVert;
+        for (size_t i = 0; i < m_items.size(); ++i) {
+            m_model.items[i].Left = m_items[i].Left;
+            m_model.items[i].Top = m_items[i].Top;
+        }
+    }
+
+private:
+    PieceModel &m_model;
+    const Piece m_piece;
+    const std::array<Item, ItemCount> m_items;
+};
 
 void resetSurface(Surface &surface)
 {
@@ -93,6 +135,15 @@ void PrintRun::RunPrintJob(Surface &surface)
         } else {
             try {
                 PlacePieces(surface);
+                const auto [from, to] = m_pageRange;
+                if (from > 0 && m_piecesDrawn == 0) {
+                    throw Error(QStringLiteral("pages %1: the pieces fill fewer pages than that; "
+                                               "nothing was printed")
+                                    .arg(to == from
+                                             ? QString::number(from)
+                                             : QStringLiteral("%1-%2").arg(from).arg(
+                                                   to > 0 ? QString::number(to) : QString())));
+                }
             } catch (...) {
                 surface.setAction(SurfaceAction::AbortDoc);
                 m_reader.close();
@@ -121,31 +172,62 @@ void PrintRun::PlacePieces(Surface &surface)
                         .arg(piece.PieceNumDown));
     }
 
+    const short startSlot = m_model.PieceStartSlot;
+    if (startSlot < 1 || startSlot > perPage) {
+        throw Error(QStringLiteral("PieceStartSlot %1 is not a slot of the piece \"%2\": its "
+                                   "sheet has %3 slots. Set PieceStartSlot to 1 to %3.")
+                        .arg(startSlot)
+                        .arg(piece.PieceName)
+                        .arg(perPage));
+    }
+
+    const ScaledPositions scaled(m_model);
     AddressLines lines;
     QString substitute;
     CityLineFit fit;
     qint64 record = 0;
+    QString barCode;
     bool pendingNewPage = false;
-    while (!m_reader.spoolExhausted()) {
-        for (int slot = 1; slot <= perPage; ++slot) {
+    bool drawnAny = false;
+    int firstSlot = startSlot; // the first sheet may be partly used
+    const auto [fromPage, toPage] = m_pageRange;
+    for (int page = 1; !m_reader.spoolExhausted(); ++page) {
+        if (toPage > 0 && page > toPage)
+            return;
+        const bool wanted = page >= fromPage;
+        for (int slot = firstSlot; slot <= perPage; ++slot) {
             if (cancelRequested())
                 return;
-            ComposeAddressLines(m_reader, surface, WidestCityLine, lines, substitute, &fit);
+            ComposeAddressLines(m_reader, surface, WidestCityLine, lines, substitute, &fit,
+                                &barCode);
             if (m_reader.spoolExhausted())
                 return;
             m_checks.beginRecord(++record, lines[1]);
             m_checks.checkAddress(lines, fit, WidestCityLine);
+            if (!wanted)
+                continue;
             if (pendingNewPage) {
-                surface.setAction(SurfaceAction::NewPage);
+                if (drawnAny) // a range's first page is the document's first
+                    surface.setAction(SurfaceAction::NewPage);
                 pendingNewPage = false;
+            }
+            if (record == 1 && surface.preview()) {
+                for (int used = 1; used < startSlot; ++used)
+                    markUsedSlot(surface, pieceBoxOnSurface(piece, used, surface.marginLeft()));
             }
             PieceTexts texts;
             for (ItemId id : StorageOrder) {
                 texts[int(id)] = ReplaceTokens(
                     id == ItemId::Address ? addressText(lines) : m_model.item(id).Text, substitute);
             }
+            m_barcode.clear();
+            if (m_model.AddressBarcode && m_barcode.take(barCode, lines[9], m_checks))
+                texts[int(ItemId::Address)] =
+                    AddressBarcodeLine::withLine(texts[int(ItemId::Address)]);
             DrawPiece(slot, surface, texts);
+            drawnAny = true;
         }
+        firstSlot = 1;
         pendingNewPage = true;
     }
 }
@@ -173,9 +255,13 @@ void PrintRun::DrawPiece(int slot, Surface &surface, const PieceTexts &texts)
         item.Text = texts[int(id)];
         DrawnText drawn;
         DrawItem(item, piece, slot, surface, &drawn);
+        if (id == ItemId::Address)
+            m_barcode.draw(surface, item, item.Text, drawn);
         m_checks.checkItem(id, item, itemBoxWhereItLies(item, piece, slot, marginLeft), drawn,
                            pieceBox, paper, onPaper);
     }
+    if (m_model.PieceOutlines)
+        outlinePiece(surface, pieceBox);
     surface.clearClipBox();
     ++m_piecesDrawn;
 }

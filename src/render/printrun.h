@@ -4,6 +4,7 @@
 
 #include "model/piecemodel.h"
 #include "quirracontrol_export.h"
+#include "render/mailmarks.h"
 #include "render/piecechecks.h"
 #include "render/runreport.h"
 
@@ -12,6 +13,7 @@
 #include <array>
 #include <atomic>
 #include <functional>
+#include <utility>
 
 namespace quirra {
 
@@ -50,8 +52,8 @@ public:
      * document (a preview ends it, keeping the pages built so far).
      *
      * @throws Error when the piece cannot be laid out (0 pieces across, or
-     * more pieces per page than a 16-bit count holds); the surface's document
-     * is aborted first.
+     * more pieces per page than a 16-bit count holds) or the start slot is
+     * not on the sheet; the surface's document is aborted first.
      */
     void RunPrintJob(Surface &surface);
 
@@ -97,18 +99,27 @@ public:
         m_message = std::move(sink);
     }
 
+    /**
+     * @brief The pages to draw, from 1: pages outside the range are laid
+     * out and checked but not drawn, and the run ends after its last page.
+     * 0 leaves that end open; {0, 0} (the default) draws every page.
+     */
+    void setPageRange(std::pair<int, int> range) { m_pageRange = range; }
+
 private:
     bool cancelRequested();
     void message(const QString &text);
 
     const std::atomic_bool *m_cancel = nullptr;
     bool m_cancelled = false;
+    std::pair<int, int> m_pageRange{0, 0};
     std::function<void(const QString &text)> m_message;
     PieceModel &m_model;
     SpoolReader &m_reader;
     qint64 m_piecesDrawn = 0;
     RunReport m_report;
     PieceChecks m_checks{m_report};
+    AddressBarcodeLine m_barcode;
 };
 
 } // namespace quirra

@@ -56,6 +56,8 @@ QString RunReport::describe(NoteKind kind)
         return QStringLiteral("no installed font can draw some characters");
     case NoteKind::EmptyRecord:
         return QStringLiteral("the record is empty");
+    case NoteKind::BarcodeInvalid:
+        return QStringLiteral("the bar code is not an Intelligent Mail code");
     }
     return QString();
 }

@@ -22,10 +22,11 @@ enum class NoteKind {
     PieceOffPage,         ///< the piece lies (partly) outside the paper
     UndrawableCharacters, ///< characters that no installed font can draw
     EmptyRecord,          ///< a record with no name and no address
+    BarcodeInvalid,       ///< the bar code is no Intelligent Mail code: printed without
 };
 
 /** @brief The number of note kinds. */
-constexpr int NoteKindCount = int(NoteKind::EmptyRecord) + 1;
+constexpr int NoteKindCount = int(NoteKind::BarcodeInvalid) + 1;
 
 /** @brief One finding about one record. */
 struct QUIRRACONTROL_EXPORT Note

@@ -656,6 +656,12 @@ void PageEngine::clearClipBox()
         d->painter.setClipping(false);
 }
 
+QPainter *PageEngine::bodyPainter(QPoint &bodyCorner) const
+{
+    bodyCorner = QPoint(d->marginLeft, d->marginTop);
+    return d->docOpen ? &d->painter : nullptr;
+}
+
 QRect PageEngine::paperRect() const
 {
     const QSizeF paper = paperTwips(d->wantedLayout());

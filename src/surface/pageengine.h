@@ -124,6 +124,8 @@ public:
     int textWidthLaidOut() const override;
     void setClipBox(int left, int top, int width, int height) override;
     void clearClipBox() override;
+    void fillRectangle(const QRect &box, QRgb color) override;
+    void outlineRectangle(const QRect &box, QRgb color, int penTwips) override;
     QRect paperRect() const override;
     int pageCount() const override;
     void setPreviewPage(int page) override;
@@ -144,6 +146,12 @@ protected:
      * pages, the page on show or the zoom.
      */
     virtual void previewChanged();
+
+    /**
+     * @brief The painter of the open document and, in bodyCorner, the
+     * body's corner in its twips; nullptr while no document is open.
+     */
+    QPainter *bodyPainter(QPoint &bodyCorner) const;
 
 private:
     class Private;

@@ -20,6 +20,10 @@ void Surface::setClipBox(int, int, int, int) {}
 
 void Surface::clearClipBox() {}
 
+void Surface::fillRectangle(const QRect &, QRgb) {}
+
+void Surface::outlineRectangle(const QRect &, QRgb, int) {}
+
 QRect Surface::paperRect() const
 {
     return QRect();

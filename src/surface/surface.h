@@ -5,6 +5,7 @@
 #include "quirracontrol_export.h"
 #include "records/textmeasurer.h"
 
+#include <QColor>
 #include <QRect>
 #include <QSize>
 #include <QString>
@@ -248,6 +249,15 @@ public:
     virtual void setClipBox(int left, int top, int width, int height);
     /** @brief Drawing is no longer kept inside a box. */
     virtual void clearClipBox();
+    /**
+     * @brief Fills a rectangle (twips from the body's corner) with a colour,
+     * no pen, no font: a barcode's bars, a used slot's shade. Kept inside
+     * the clip box; nothing is drawn while no document is open. A surface
+     * that cannot draw ignores it.
+     */
+    virtual void fillRectangle(const QRect &box, QRgb color);
+    /** @brief Outlines a rectangle, its line of penTwips inside the box. */
+    virtual void outlineRectangle(const QRect &box, QRgb color, int penTwips);
     /**
      * @brief The paper of the page being drawn (or of the next one) as
      * oriented, in twips from the body's corner: the printable area's and

@@ -40,25 +40,28 @@ void TestAddressColumns::mapsRows_data()
                                                 "address2", "city",   "state", "zip"}
                                  << QStringList{"Ann",   "Q",    "Lee", "1 Elm",
                                                 "Apt 2", "Troy", "NY",  "12180"}
-                                 << "Ann|Q|Lee|1 Elm|Apt 2|Troy|NY|12180|";
+                                 << "Ann|Q|Lee|1 Elm|Apt 2|Troy|NY|12180||";
     QTest::newRow("record-names-any-case-any-order")
         << QStringList{"ZIP", "Addr_1", "NM_LAST", "nm_first"}
-        << QStringList{"12180", "1 Elm", "Lee", "Ann"} << "Ann||Lee|1 Elm||||12180|";
+        << QStringList{"12180", "1 Elm", "Lee", "Ann"} << "Ann||Lee|1 Elm||||12180||";
     QTest::newRow("other-columns-become-entries")
         << QStringList{"last", "salutation", "Code"} << QStringList{"Lee", "Ms. Lee", "7"}
-        << "||Lee||||||salutation^Ms. Lee|Code^7";
+        << "||Lee||||||salutation^Ms. Lee|Code^7|";
     QTest::newRow("substitute-column-first-then-entries")
         << QStringList{"salutation", "last", "substitute"}
         << QStringList{"Dr. Lee", "Lee", "club^Rotary|year^1999"}
-        << "||Lee||||||club^Rotary|year^1999|salutation^Dr. Lee";
+        << "||Lee||||||club^Rotary|year^1999|salutation^Dr. Lee|";
     QTest::newRow("substitute-column-as-it-stands")
         << QStringList{"last", "substitute"} << QStringList{"Lee", "a^b|c|^d"}
-        << "||Lee||||||a^b|c|^d";
+        << "||Lee||||||a^b|c|^d|";
     QTest::newRow("unnamed-column-left-out")
         << QStringList{"last", "", "note"} << QStringList{"Lee", "ignored", "n"}
-        << "||Lee||||||note^n";
+        << "||Lee||||||note^n|";
     QTest::newRow("caret-in-an-entry-value")
-        << QStringList{"last", "math"} << QStringList{"Lee", "2^10"} << "||Lee||||||math^2^10";
+        << QStringList{"last", "math"} << QStringList{"Lee", "2^10"} << "||Lee||||||math^2^10|";
+    QTest::newRow("barcode-columns-any-case")
+        << QStringList{"last", "IMb"} << QStringList{"Lee", "01234567094987654321"}
+        << "||Lee|||||||01234567094987654321";
 }
 
 void TestAddressColumns::mapsRows()

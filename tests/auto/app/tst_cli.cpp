@@ -189,8 +189,22 @@ void TestCli::badInputLeavesNoFile_data()
     QTest::newRow("length-beyond-any-sheet")
         << QStringList{pdf, "--set", "AddressTop=250", csv("people.csv")} << 1
         << QStringList{"AddressTop is 250 in; a length on a sheet is from 0 to 100 in"};
+    QTest::newRow("scale-beyond-the-range")
+        << QStringList{pdf, "--set", "PrinterScaleX=120", csv("people.csv")} << 1
+        << QStringList{"PrinterScaleX is 120 %; the printer's scale is from 90 to 110 %"};
     QTest::newRow("unknown-option") << QStringList{pdf, "--colour", "red", csv("people.csv")} << 2
                                     << QStringList{"quirra print: Unknown option 'colour'"};
+    QTest::newRow("copies-not-a-whole-number")
+        << QStringList{pdf, "--copies-column", "Last", csv("people.csv")} << 1
+        << QStringList{"people.csv: line 2: the copies column \"Last\" holds \"Holloway\""};
+    QTest::newRow("pages-beyond-the-run")
+        << QStringList{pdf, "--pages", "5-6", csv("people.csv")} << 1
+        << QStringList{"pages 5-6: the pieces fill fewer pages than that"};
+    QTest::newRow("pages-backwards") << QStringList{pdf, "--pages", "3-2", csv("people.csv")} << 2
+                                     << QStringList{"--pages 3-2: give a page or a range"};
+    QTest::newRow("start-beyond-the-sheet")
+        << QStringList{pdf, "--piece", "5160 - Address Labels", "--start", "31", csv("people.csv")}
+        << 1 << QStringList{"--start 31: the sheet of \"5160 - Address Labels\" has 30 slots"};
     // A layout that cannot be laid out fails in the print run itself.
     QTest::newRow("no-piece-across")
         << QStringList{pdf, "--set", "PieceNumAcross=0", csv("people.csv")} << 1
@@ -229,13 +243,20 @@ void TestCli::printsEveryRecordOnItsPiece_data()
     QTest::addColumn<QSizeF>("pageSize");
     QTest::addColumn<QString>("lastFirstName"); // the last record's first name
     QTest::addColumn<int>("column");            // the last record's column, from 0
+    QTest::addColumn<QStringList>("options");
 
-    QTest::newRow("labels-30-up-69-records") << examples("addresses.csv") << "5160 - Address Labels"
-                                             << 3 << QSizeF(612, 792) << "Albert" << 2;
-    QTest::newRow("envelope-one-a-page")
-        << dataFile("people.csv") << "Size 10 - Envelope" << 4 << QSizeF(684, 297) << "Li" << 0;
+    QTest::newRow("labels-30-up-69-records")
+        << examples("addresses.csv") << "5160 - Address Labels" << 3 << QSizeF(612, 792) << "Albert"
+        << 2 << QStringList();
+    QTest::newRow("envelope-one-a-page") << dataFile("people.csv") << "Size 10 - Envelope" << 4
+                                         << QSizeF(684, 297) << "Li" << 0 << QStringList();
     QTest::newRow("shipping-labels-2-across")
-        << dataFile("people.csv") << "5163 - Shipping Labels" << 1 << QSizeF(612, 792) << "Li" << 1;
+        << dataFile("people.csv") << "5163 - Shipping Labels" << 1 << QSizeF(612, 792) << "Li" << 1
+        << QStringList();
+    // Three of the first record, none of the second, one of the last.
+    QTest::newRow("copies-from-a-column")
+        << dataFile("copies.csv") << "Size 10 - Envelope" << 4 << QSizeF(684, 297) << "Li" << 0
+        << QStringList{"--copies-column", "count"};
 }
 
 void TestCli::printsEveryRecordOnItsPiece()
@@ -246,9 +267,10 @@ void TestCli::printsEveryRecordOnItsPiece()
     QFETCH(QSizeF, pageSize);
     QFETCH(QString, lastFirstName);
     QFETCH(int, column);
+    QFETCH(QStringList, options);
 
     const QString pdf = out(QStringLiteral("run.pdf"));
-    const Run run = quirra({"print", "--piece", piece, "--pdf", pdf, csv});
+    const Run run = quirra(QStringList{"print", "--piece", piece, "--pdf", pdf, csv} + options);
     QVERIFY2(run.status == 0, qPrintable(run.err));
     QVERIFY2(
         run.err.contains(
@@ -472,6 +494,7 @@ void TestCli::versionAndHelp_data()
 
     QTest::newRow("version") << QStringList{"--version"} << "quirra 0.";
     QTest::newRow("help") << QStringList{"--help"} << "usage: quirra print";
+    QTest::newRow("print-help") << QStringList{"print", "--help"} << "Usage: quirra print";
 }
 
 void TestCli::versionAndHelp()
@@ -483,6 +506,13 @@ void TestCli::versionAndHelp()
     QCOMPARE(run.status, 0);
     QVERIFY2(run.out.startsWith(output), qPrintable(run.out));
     QCOMPARE(run.err, QString());
+    // A command's options take one line each, every one of them listed.
+    if (output.startsWith(QLatin1String("Usage:"))) {
+        QVERIFY2(!run.out.contains(QLatin1String("\n      ")), qPrintable(run.out));
+        for (const char *option : {"--piece", "--layout", "--set", "--pdf", "--pages", "--printer",
+                                   "--start", "--outlines", "--copies-column", "--strict"})
+            QVERIFY2(run.out.contains(QLatin1String("\n  ") + QLatin1String(option)), option);
+    }
 }
 
 void TestCli::progressOnRequestOnly()

@@ -25,14 +25,15 @@ namespace {
 
 const QString ShippingLabels = QStringLiteral("5163 - Shipping Labels");
 
-// The published 84, then the sheet's real size, after them so that a bag
-// saved before reads as it always did.
+// The published 84, then the sheet's real size and the mailing options,
+// after them so that a bag saved before reads as it always did.
 QStringList savedNames()
 {
     QStringList names;
     for (const PublishedProperty &property : SavedProperties)
         names.append(QLatin1String(property.name));
-    return names + QStringList{QStringLiteral("PageWidth"), QStringLiteral("PageHeight")};
+    return names + QStringList{"PageWidth",     "PageHeight",    "AddressBarcode", "PieceStartSlot",
+                               "PieceOutlines", "PrinterScaleX", "PrinterScaleY"};
 }
 
 // Remembers what the control asks for; fails the names it is told to fail.
@@ -105,7 +106,7 @@ private Q_SLOTS:
         Quirra control;
         QSignalSpy spy(&control, &Quirra::propertyChanged);
         control.InitProperties();
-        QCOMPARE(spy.size(), 86 + 74);
+        QCOMPARE(spy.size(), 91 + 74);
         for (int i = 0; i < 74; ++i) // what PieceName announces besides itself
             expected.append(spy.at(expected.size()).at(0).toString());
         expected.append(QStringLiteral("EnvelopeOrientation"));
@@ -122,11 +123,13 @@ private Q_SLOTS:
             for (const QString &field : group)
                 expected.append(item + field);
         }
-        expected += QStringList{
-            "PreviewZoom",    "PieceMarginLeft",  "PieceMarginTop", "PieceHeight", "PieceWidth",
-            "PiecePitchHorz", "PiecePitchVert",   "PrinterLeft",    "PrinterTop",  "PieceNumAcross",
-            "PieceNumDown",   "PieceOrientation", "PageSizeNum",    "PageSize",    "IsCustom",
-            "PageWidth",      "PageHeight"};
+        expected +=
+            QStringList{"PreviewZoom",   "PieceMarginLeft", "PieceMarginTop", "PieceHeight",
+                        "PieceWidth",    "PiecePitchHorz",  "PiecePitchVert", "PrinterLeft",
+                        "PrinterTop",    "PieceNumAcross",  "PieceNumDown",   "PieceOrientation",
+                        "PageSizeNum",   "PageSize",        "IsCustom",       "PageWidth",
+                        "PageHeight",    "AddressBarcode",  "PieceStartSlot", "PieceOutlines",
+                        "PrinterScaleX", "PrinterScaleY"};
         QStringList names;
         for (const QList<QVariant> &arguments : spy)
             names.append(arguments.at(0).toString());
@@ -265,7 +268,7 @@ private Q_SLOTS:
         QCOMPARE(control.PreviewZoom(), short(30));
         QCOMPARE(control.BoarderInside(), short(60));
         QCOMPARE(control.PieceNumDown(), control.defaultSet().piece.PieceNumDown);
-        QCOMPARE(bag.reads.size(), 86);
+        QCOMPARE(bag.reads.size(), 91);
     }
 
     void fontsDefaultToTheInheritedFont()

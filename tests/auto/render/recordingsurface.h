@@ -116,6 +116,14 @@ public:
         m_textHeight = text.isEmpty() ? 0 : 240 * int(text.count(QLatin1Char('\r')) + 1);
     }
     int textHeight() const override { return m_textHeight; }
+    void fillRectangle(const QRect &r, QRgb) override
+    {
+        log(QStringLiteral("fill %1 %2").arg(r.x()).arg(r.y()));
+    }
+    void outlineRectangle(const QRect &r, QRgb, int) override
+    {
+        log(QStringLiteral("outline %1 %2").arg(r.x()).arg(r.y()));
+    }
     int pageCount() const override { return m_pages; }
     void setPreviewPage(int) override {}
     int previewPage() const override { return 1; }

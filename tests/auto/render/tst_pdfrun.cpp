@@ -8,10 +8,12 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/piececatalogue.h"
 #include "catalogue/pieceloader.h"
+#include "records/intelligentmail.h"
 #include "render/pdfexport.h"
 #include "render/printrun.h"
 #include "settings/files.h"
 
+#include <QImage>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -59,6 +61,8 @@ private Q_SLOTS:
     void itemPlacement();
     void everyProductOnItsRealSheet_data();
     void everyProductOnItsRealSheet();
+    void barcodeAsThePostalServiceMeasuresIt_data();
+    void barcodeAsThePostalServiceMeasuresIt();
 
 private:
     QString pdfPath(const QString &name) const { return m_dir.filePath(name); }
@@ -259,6 +263,85 @@ void TestPdfRun::itemPlacement()
             align == haCenter ? (l.left + l.right - boxLeft - boxRight) / 2 : l.right - boxRight;
         QVERIFY2(qAbs(off) < 1.0, qPrintable(QStringLiteral("%1: %2 pt off").arg(l.text).arg(off)));
     }
+}
+
+void TestPdfRun::barcodeAsThePostalServiceMeasuresIt_data()
+{
+    QTest::addColumn<QString>("barCode");
+    QTest::addColumn<QString>("zip");
+    QTest::addColumn<int>("align");
+    QTest::newRow("zip5-after-dash") << "01234567094987654321-01234"
+                                     << "99999" << int(haLeft);
+    QTest::newRow("zip11-run-on") << "0123456709498765432101234567891"
+                                  << "" << int(haCenter);
+    QTest::newRow("zip9-from-record") << "01234567094987654321"
+                                      << "01234-5678" << int(haLeft);
+}
+
+void TestPdfRun::barcodeAsThePostalServiceMeasuresIt()
+{
+    QFETCH(QString, barCode);
+    QFETCH(QString, zip);
+    QFETCH(int, align);
+    PieceModel &model = PieceModel::shared();
+    QVERIFY(LoadPieceByName(QStringLiteral("Size 10 - Envelope"), model));
+    model.AddressBarcode = true;
+    model.item(ItemId::Address).HorzAlign = eHorzAlign(align);
+    for (ItemId id : {ItemId::Return, ItemId::Message1, ItemId::Message2, ItemId::Stamp})
+        model.item(id).Visible = false;
+    fixture::feed({QStringLiteral("Ann;;Lee;1 Elm St;;Troy;NY;%1;;%2").arg(zip, barCode)});
+    const QString pdf = pdfPath(QStringLiteral("imb.pdf"));
+    QCOMPARE(PrintSpoolToPdf(pdf, model, SharedSpool::instance().reader()).errorCode, 0);
+    const QString png = pdfPath(QStringLiteral("imb"));
+    pdfprobe::run("pdftoppm", {"-r", "600", "-gray", "-png", "-singlefile", pdf, png});
+    const QImage page =
+        QImage(png + QStringLiteral(".png")).convertToFormat(QImage::Format_Grayscale8);
+    QVERIFY(!page.isNull());
+
+    // The bars are the lowest ink on the envelope, apart from the text above them.
+    const auto dark = [&](int x, int y) { return page.constScanLine(y)[x] < 128; };
+    const auto rowInked = [&](int y) {
+        for (int x = 0; x < page.width(); ++x)
+            if (dark(x, y))
+                return true;
+        return false;
+    };
+    int bottom = page.height() - 1;
+    while (bottom > 0 && !rowInked(bottom))
+        --bottom;
+    int top = bottom;
+    while (top > 0 && rowInked(top - 1))
+        --top;
+    QString bars;
+    QList<int> lefts;
+    constexpr double Dpi = 600, Edge = 3; // pixels of rounding at a bar's end
+    for (int x = 0; x < page.width(); ++x) {
+        int y0 = -1, y1 = -1;
+        for (int y = top; y <= bottom; ++y) {
+            if (dark(x, y)) {
+                y1 = y;
+                y0 = y0 < 0 ? y : y0;
+            }
+        }
+        if (y0 < 0)
+            continue;
+        // A new bar: its ends tell its state; its tracker is 0.039 to 0.057 in.
+        const bool up = y0 - top < Edge, down = bottom - y1 < Edge;
+        if (!up && !down)
+            QVERIFY(y1 - y0 + 1 >= 0.039 * Dpi && y1 - y0 + 1 <= 0.057 * Dpi);
+        bars.append(QLatin1Char(up && down ? 'F' : up ? 'A' : down ? 'D' : 'T'));
+        int width = 0;
+        while (x + width < page.width() && dark(x + width, (y0 + y1) / 2))
+            ++width;
+        QVERIFY2(width >= 0.015 * Dpi && width <= 0.025 * Dpi, qPrintable(QString::number(width)));
+        lefts.append(x);
+        x += width - 1;
+    }
+    QCOMPARE(bars, IntelligentMailBarcode(barCode, zip).bars());
+    const double full = (bottom - top + 1) / Dpi;
+    QVERIFY2(full >= 0.125 && full <= 0.165, qPrintable(QString::number(full)));
+    const double perInch = (lefts.size() - 1) * Dpi / (lefts.last() - lefts.first());
+    QVERIFY2(perInch >= 20 && perInch <= 24, qPrintable(QString::number(perInch)));
 }
 
 QTEST_MAIN(TestPdfRun)

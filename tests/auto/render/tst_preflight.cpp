@@ -35,7 +35,7 @@ QStringList person(const QString &first, const QString &last, const QString &cit
     return {first, QString(), last, QStringLiteral("12 Elm St"), QString(), city, state, zip};
 }
 
-enum Tweak { None, LowAddressBox, FramedMessageOffLabel, AddressTop25, MarginTop127 };
+enum Tweak { None, LowAddressBox, FramedMessageOffLabel, AddressTop25, MarginTop127, Barcode };
 
 void apply(Tweak tweak, PieceModel &model)
 {
@@ -59,6 +59,9 @@ void apply(Tweak tweak, PieceModel &model)
         break;
     case MarginTop127:
         model.piece.PieceMarginTop = 12.7f;
+        break;
+    case Barcode:
+        model.AddressBarcode = true;
         break;
     }
 }
@@ -142,6 +145,11 @@ void TestPreflight::notes_data()
     QTest::newRow("empty-record") << Envelope << int(None) << QStringList(8, QString())
                                   << kinds({NoteKind::EmptyRecord}) << 2 << 1
                                   << "no name and no address";
+    // The second digit of the tracking code is 0 to 4.
+    QTest::newRow("barcode-invalid")
+        << Envelope << int(Barcode) << bob + QStringList{QString(), "05234567094987654321"}
+        << kinds({NoteKind::BarcodeInvalid}) << 2 << 1
+        << "\"05234567094987654321\": the second digit";
 }
 
 void TestPreflight::notes()
@@ -193,7 +201,8 @@ void TestPreflight::longRunKeepsFewNotes()
     QStringList records;
     for (int i = 0; i < 200; ++i)
         records.append(
-            person(QStringLiteral("P%1").arg(i), "Roe", "Troy", "NEW YORK STATE OF AMERICA").join(';'));
+            person(QStringLiteral("P%1").arg(i), "Roe", "Troy", "NEW YORK STATE OF AMERICA")
+                .join(';'));
     fixture::feed(records);
     MeasuringSurface surface;
     surface.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),

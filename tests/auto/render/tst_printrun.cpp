@@ -4,6 +4,7 @@
 #include "spoolfixture.h"
 
 #include "model/error.h"
+#include "render/calibration.h"
 #include "render/drawitem.h"
 #include "render/printrun.h"
 
@@ -25,6 +26,9 @@ private Q_SLOTS:
     void printerErrorShowsOneMessage();
     void pagination_data();
     void pagination();
+    void pageRangeDrawsItsPagesOnly();
+    void calibrationFromReading_data();
+    void calibrationFromReading();
     void tokensAndTemplates();
     void verticalOffset_data();
     void verticalOffset();
@@ -138,25 +142,35 @@ void TestPrintRun::pagination_data()
     QTest::addColumn<int>("pages");
     QTest::addColumn<QStringList>("lastPageBoxes"); // "left top" of the address on the last page
     QTest::addColumn<int>("cancelAfter"); // pieces drawn when the run is cancelled; 0: never
+    // The first sheet's first slot; past 1 with outlines in preview.
+    QTest::addColumn<int>("firstSlot");
+    QTest::addColumn<QPoint>("scale"); // PrinterScaleX and Y, percent, about the page's corner
+    const QPoint same(100, 100);
 
     QTest::newRow("seven-on-three-by-two-spill-one")
-        << 7 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")} << 0;
+        << 7 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")} << 0 << 1 << same;
     QTest::newRow("eight-on-three-by-two-spill-two")
         << 8 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360")}
-        << 0;
+        << 0 << 1 << same;
     QTest::newRow("six-on-three-by-two-fill-one-page")
         << 6 << 3 << 2 << 1 << QStringList{QStringLiteral("360 360"),   QStringLiteral("3960 360"),
                                            QStringLiteral("7560 360"),  QStringLiteral("360 2160"),
                                            QStringLiteral("3960 2160"), QStringLiteral("7560 2160")}
-        << 0;
+        << 0 << 1 << same;
     QTest::newRow("cancelled-after-four-of-seven")
         << 7 << 3 << 2 << 1
         << QStringList{QStringLiteral("360 360"), QStringLiteral("3960 360"),
                        QStringLiteral("7560 360"), QStringLiteral("360 2160")}
-        << 4;
+        << 4 << 1 << same;
     QTest::newRow("envelope-one-page-each")
-        << 3 << 1 << 1 << 3 << QStringList{QStringLiteral("360 360")} << 0;
-    QTest::newRow("no-records-no-pages-drawn") << 0 << 3 << 2 << 1 << QStringList() << 0;
+        << 3 << 1 << 1 << 3 << QStringList{QStringLiteral("360 360")} << 0 << 1 << same;
+    QTest::newRow("no-records-no-pages-drawn")
+        << 0 << 3 << 2 << 1 << QStringList() << 0 << 1 << same;
+    QTest::newRow("used-sheet-from-slot-5-next-sheet-from-1")
+        << 3 << 3 << 2 << 2 << QStringList{QStringLiteral("360 360")} << 0 << 5 << same;
+    QTest::newRow("scaled-110-across-90-down-before-the-offsets")
+        << 2 << 3 << 2 << 1 << QStringList{QStringLiteral("432 288"), QStringLiteral("4392 288")}
+        << 0 << 1 << QPoint(110, 90);
 }
 
 void TestPrintRun::pagination()
@@ -167,9 +181,16 @@ void TestPrintRun::pagination()
     QFETCH(int, pages);
     QFETCH(QStringList, lastPageBoxes);
     QFETCH(int, cancelAfter);
+    QFETCH(int, firstSlot);
+    QFETCH(QPoint, scale);
     useLabelSheet(across, down);
+    PieceModel::shared().PrinterScaleX = float(scale.x());
+    PieceModel::shared().PrinterScaleY = float(scale.y());
+    PieceModel::shared().PieceStartSlot = short(firstSlot);
+    PieceModel::shared().PieceOutlines = firstSlot > 1;
     fixture::feed(fixture::numbered(records));
     RecordingSurface surface;
+    surface.setPreview(firstSlot > 1);
     PrintRun run(PieceModel::shared(), SharedSpool::instance().reader());
     std::atomic_bool cancel = false;
     int drawn = 0;
@@ -179,6 +200,9 @@ void TestPrintRun::pagination()
     };
     run.setCancelFlag(&cancel);
     run.RunPrintJob(surface);
+    // The used slots are shaded in the preview; every slot is outlined.
+    QCOMPARE(surface.count(QStringLiteral("fill")), firstSlot - 1);
+    QCOMPARE(surface.count(QStringLiteral("outline")), firstSlot > 1 ? records + firstSlot - 1 : 0);
 
     QCOMPARE(run.piecesDrawn(), qint64(cancelAfter ? cancelAfter : records));
     QCOMPARE(run.cancelled(), cancelAfter > 0);
@@ -204,6 +228,49 @@ void TestPrintRun::pagination()
         }
     }
     QCOMPARE(boxes, lastPageBoxes);
+}
+
+void TestPrintRun::pageRangeDrawsItsPagesOnly()
+{
+    useLabelSheet(3, 2);
+    fixture::feed(fixture::numbered(14)); // pages of 6, 6 and 2
+    RecordingSurface surface;
+    PrintRun run(PieceModel::shared(), SharedSpool::instance().reader());
+    run.setPageRange({2, 2});
+    run.RunPrintJob(surface);
+    QCOMPARE(run.piecesDrawn(), qint64(6));
+    QCOMPARE(surface.pageCount(), 1);
+    QCOMPARE(surface.count(QStringLiteral("action 4")), 0);
+    QCOMPARE(surface.count(QStringLiteral("box [Name7 ")), 1);
+    QCOMPARE(surface.count(QStringLiteral("box [Name6 ")) + surface.count("box [Name13 "), 0);
+}
+
+void TestPrintRun::calibrationFromReading_data()
+{
+    QTest::addColumn<QRectF>("reading");  // left, top, right, bottom misses in inches
+    QTest::addColumn<QRectF>("expected"); // PrinterLeft, PrinterTop, scale x, scale y
+    // Crosses 0.5 in from the corner and 2.5 in further (useLabelSheet(2, 2)).
+    QTest::newRow("shifted") << QRectF(0.1, -0.05, 0.1, -0.05) << QRectF(0.35, 0.2, 100, 100);
+    QTest::newRow("stretched-one-percent")
+        << QRectF(0.005, 0.005, 0.03, 0.0175) << QRectF(0.25, 0.25, 100 / 1.01, 100 / 1.01);
+}
+
+void TestPrintRun::calibrationFromReading()
+{
+    QFETCH(QRectF, reading);
+    QFETCH(QRectF, expected);
+    useLabelSheet(2, 2);
+    Piece &piece = PieceModel::shared().piece;
+    piece.PieceWidth = 0;
+    piece.PieceHeight = 0;
+    piece.PiecePitchVert = 1.25f;
+    piece.PrinterLeft = piece.PrinterTop = 0.25f;
+    const PrinterCalibration c = CalibrationFromReading(
+        PieceModel::shared(), reading.x(), reading.y(), reading.width(), reading.height());
+    QVERIFY2(qAbs(c.left - expected.x()) < 1e-4 && qAbs(c.top - expected.y()) < 1e-4,
+             qPrintable(QStringLiteral("%1 %2").arg(c.left).arg(c.top)));
+    QVERIFY2(qAbs(c.scaleX - expected.width()) < 1e-3 && qAbs(c.scaleY - expected.height()) < 1e-3,
+             qPrintable(QStringLiteral("%1 %2").arg(c.scaleX).arg(c.scaleY)));
 }
 
 void TestPrintRun::tokensAndTemplates()
@@ -328,9 +395,13 @@ void TestPrintRun::badGeometryIsAnErrorOfTheRun_data()
     QTest::addColumn<int>("across");
     QTest::addColumn<int>("down");
     QTest::addColumn<QString>("message");
-    QTest::newRow("zero-across-divides-by-zero") << 0 << 3 << QStringLiteral("Division by zero");
-    QTest::newRow("pieces-per-page-overflow") << 200 << 200 << QStringLiteral("Overflow");
-    QTest::newRow("zero-down-fits-nothing") << 3 << 0 << QStringLiteral("no piece fits");
+    QTest::addColumn<int>("start");
+    QTest::newRow("zero-across-divides-by-zero")
+        << 0 << 3 << QStringLiteral("Division by zero") << 1;
+    QTest::newRow("pieces-per-page-overflow") << 200 << 200 << QStringLiteral("Overflow") << 1;
+    QTest::newRow("zero-down-fits-nothing") << 3 << 0 << QStringLiteral("no piece fits") << 1;
+    QTest::newRow("start-slot-beyond-the-sheet")
+        << 3 << 2 << QStringLiteral("its sheet has 6 slots") << 7;
 }
 
 void TestPrintRun::badGeometryIsAnErrorOfTheRun()
@@ -338,7 +409,9 @@ void TestPrintRun::badGeometryIsAnErrorOfTheRun()
     QFETCH(int, across);
     QFETCH(int, down);
     QFETCH(QString, message);
+    QFETCH(int, start);
     useLabelSheet(across, down);
+    PieceModel::shared().PieceStartSlot = short(start);
     fixture::feed(fixture::numbered(2));
     RecordingSurface surface;
     try {
