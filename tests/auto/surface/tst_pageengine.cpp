@@ -314,6 +314,8 @@ void TestPageEngine::textHeight_data()
         << QStringLiteral("A\r\rB") << 10.0 << 100 << false << 690;
     QTest::newRow("empty-text-has-no-height") << QString() << 10.0 << 100 << false << 0;
     QTest::newRow("wrapping-adds-a-line") << fox << 10.0 << 100 << true << 460;
+    QTest::newRow("kerned-line-trailing-blanks")
+        << QStringLiteral("AVAWAY Tö Wavy  OH  43604   ") << 10.0 << 100 << false << arialLine10;
 }
 
 void TestPageEngine::textHeight()
@@ -328,6 +330,9 @@ void TestPageEngine::textHeight()
     e.setLineSpacing(spacing);
     e.textBox(text, 0, 0, 2880, 100, wrap, true, false);
     QVERIFY2(qAbs(e.textHeight() - twips) <= 1, qPrintable(QString::number(e.textHeight())));
+    // What is measured (the city line's fit) is what the box lays out.
+    if (!wrap)
+        QCOMPARE(qRound(e.TextWidth(text)), e.textWidthLaidOut());
 }
 
 void TestPageEngine::outputTextFollowsTheCurrentPosition()
