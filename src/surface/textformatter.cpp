@@ -211,12 +211,21 @@ std::shared_ptr<const TextBlock> TextFormatter::layOut(const QString &text, doub
                                                        Qt::Alignment alignment, int spacingPercent)
 {
     BlockKey key{m_key, text, width, wrap, int(alignment), spacingPercent};
-    if (auto *cached = m_blocks.object(key))
-        return *cached;
+    // An item is laid out to measure it and at once again to draw it: the
+    // second asks for the block just made, without hashing its text again.
+    if (m_last && key == m_lastKey)
+        return m_last;
+    if (auto *cached = m_blocks.object(key)) {
+        m_lastKey = std::move(key);
+        m_last = *cached;
+        return m_last;
+    }
     const FontEntry &entry = currentFont();
     auto block = std::make_shared<const TextBlock>(text, entry.font, entry.lineHeight, width, wrap,
                                                    alignment, spacingPercent);
     m_blocks.insert(key, new std::shared_ptr<const TextBlock>(block));
+    m_lastKey = std::move(key);
+    m_last = block;
     return block;
 }
 
