@@ -109,7 +109,7 @@ void PageEngine::Private::endPage()
 {
     if (docIsPreview) {
         painter.end();
-        pages.push_back(RecordedPage{recording, pageLayout});
+        pages.emplace_back(recording, pageLayout);
         recording = QPicture();
     }
 }
@@ -172,7 +172,7 @@ void PageEngine::Private::printPreviewPage()
         return;
     }
     p.scale(out->logicalDpiX() / twipsPerInch, out->logicalDpiY() / twipsPerInch);
-    playPicture(p, page.picture);
+    playPicture(p, page.picture());
     p.end();
     target->endDocument(false);
 }

@@ -76,7 +76,7 @@ void PageEngine::paintPage(QPainter &painter, int page, double dotsPerInch) cons
         return;
     painter.save();
     painter.scale(dotsPerInch / twipsPerInch, dotsPerInch / twipsPerInch);
-    playPicture(painter, d->pages[size_t(page - 1)].picture);
+    playPicture(painter, d->pages[size_t(page - 1)].picture());
     painter.restore();
 }
 

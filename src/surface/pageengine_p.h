@@ -5,6 +5,7 @@
 #include "surface/pageengine.h"
 #include "surface/textformatter_p.h"
 
+#include <QByteArray>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPicture>
@@ -31,9 +32,27 @@ inline constexpr int maxLineSpacing = 1000;
 // queue rejected or aborted the job).
 enum ErrorCode { NoError = 0, NoOutput = 1, CannotOpen = 2, NotPrinted = 3 };
 
+// A recorded page kept packed: a page of labels records some 16 KB of
+// drawing that packs to a fraction of it, and a long preview keeps every
+// page. It is unpacked each time it is painted.
 struct RecordedPage
 {
-    QPicture picture; // in twips, the paper's corner at (0, 0)
+    RecordedPage(const QPicture &recorded, const QPageLayout &paper)
+        : packed(
+              qCompress(QByteArray::fromRawData(recorded.data(), qsizetype(recorded.size())), 1)),
+          layout(paper)
+    {
+        packed.squeeze(); // packing leaves room for the worst case
+    }
+    /** @brief The page in twips, the paper's corner at (0, 0). */
+    QPicture picture() const
+    {
+        const QByteArray data = qUncompress(packed);
+        QPicture unpacked;
+        unpacked.setData(data.constData(), uint(data.size()));
+        return unpacked;
+    }
+    QByteArray packed;
     QPageLayout layout;
 };
 
