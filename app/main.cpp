@@ -34,6 +34,9 @@
 
 #include <cstdio>
 #include <functional>
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
 #include <memory>
 #include <optional>
 #include <unistd.h>
@@ -534,6 +537,13 @@ void choosePlatform(const QString &command)
 
 int main(int argc, char **argv)
 {
+#if defined(__GLIBC__)
+    // A print run makes and frees page-sized buffers all the time: let the
+    // heap keep 64 MB of room at its top instead of handing it back to the
+    // system and taking it again page by page (a tenth of the run's CPU
+    // time went to that; untouched room costs no memory).
+    mallopt(M_TOP_PAD, 64 * 1024 * 1024);
+#endif
     const QString command = argc >= 2 ? QString::fromLocal8Bit(argv[1]) : QString();
     if (command == QLatin1String("--help") || command == QLatin1String("-h") ||
         command == QLatin1String("help")) {

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QTemporaryFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -14,6 +15,8 @@
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace quirra {
 
@@ -51,10 +54,17 @@ QString kindOf(mode_t mode)
  * table, and "%%EOF"; the table gives the offset of every object. A file cut
  * short, or missing a block in between, fails one of these.
  */
-bool pdfIsWhole(const uchar *data, qint64 size)
+bool pdfIsWhole(QFile &file)
 {
-    const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data), size);
-    const QByteArray tail = bytes.right(1024).trimmed();
+    // Read in pieces, never mapped whole: the check of a run of a million
+    // labels stays within a few megabytes, as the run itself does.
+    const qint64 size = file.size();
+    auto readAt = [&](qint64 at, qint64 length) {
+        if (at < 0 || at >= size || !file.seek(at))
+            return QByteArray();
+        return file.read(std::min(length, size - at));
+    };
+    const QByteArray tail = readAt(std::max<qint64>(0, size - 1024), 1024).trimmed();
     if (!tail.endsWith("%%EOF"))
         return false;
     const qsizetype at = tail.lastIndexOf("startxref");
@@ -62,9 +72,24 @@ bool pdfIsWhole(const uchar *data, qint64 size)
         return false;
     bool ok = false;
     const qint64 table = tail.mid(at + 9, tail.size() - 5 - at - 9).trimmed().toLongLong(&ok);
-    if (!ok || table <= 0 || table >= size || bytes.mid(table, 4) != "xref")
+    if (!ok || table <= 0 || table >= size)
         return false;
-    qsizetype line = bytes.indexOf('\n', table) + 1;
+    const QByteArray bytes = readAt(table, size - table); // the table and the trailer
+    if (!bytes.startsWith("xref"))
+        return false;
+    // Each object is looked for at its offset, in the file's order, through
+    // a window that moves on through the file.
+    constexpr qint64 WindowBytes = 1 << 20;
+    QByteArray window;
+    qint64 windowAt = -1;
+    auto startsWith = [&](qint64 offset, const QByteArray &start) {
+        if (windowAt < 0 || offset < windowAt || offset + start.size() > windowAt + window.size()) {
+            windowAt = offset;
+            window = readAt(offset, WindowBytes);
+        }
+        return window.mid(offset - windowAt, start.size()) == start;
+    };
+    qsizetype line = bytes.indexOf('\n') + 1;
     auto nextLine = [&]() {
         const qsizetype end = bytes.indexOf('\n', line);
         if (line <= 0 || end < 0)
@@ -73,6 +98,7 @@ bool pdfIsWhole(const uchar *data, qint64 size)
         line = end + 1;
         return text;
     };
+    std::vector<std::pair<qint64, qint64>> objects; // offset, object number
     // Subsections: "first count", then count lines "offset generation n|f".
     for (QByteArray head = nextLine(); !head.startsWith("trailer"); head = nextLine()) {
         const QList<QByteArray> fields = head.split(' ');
@@ -90,10 +116,15 @@ bool pdfIsWhole(const uchar *data, qint64 size)
             if (entry.endsWith('f'))
                 continue;
             const qint64 offset = entry.left(10).toLongLong(&ok);
-            const QByteArray start = QByteArray::number(object) + ' ';
-            if (!ok || offset < 0 || offset >= table || bytes.mid(offset, start.size()) != start)
+            if (!ok || offset < 0 || offset >= table)
                 return false;
+            objects.push_back({offset, object});
         }
+    }
+    std::sort(objects.begin(), objects.end());
+    for (const auto &[offset, object] : objects) {
+        if (!startsWith(offset, QByteArray::number(object) + ' '))
+            return false;
     }
     return true;
 }
@@ -197,11 +228,8 @@ bool PdfOutput::commit(QString *error)
         return fail(file.errorString());
     if (file.size() == 0)
         return fail(QStringLiteral("no page was written"));
-    const uchar *data = file.map(0, file.size());
-    const bool whole = data && pdfIsWhole(data, file.size());
-    if (!whole)
+    if (!pdfIsWhole(file))
         return fail(QStringLiteral("the file came out incomplete: ") + incompleteReason());
-    file.unmap(const_cast<uchar *>(data));
     // The data must be on the disk before the name points at it.
     if (::fsync(file.handle()) != 0)
         return fail(errnoText(errno));

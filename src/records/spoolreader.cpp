@@ -131,6 +131,20 @@ bool SpoolReader::readValue(QString &value)
 
     if (!atEnd() && m_chunk.at(m_pos) == '"') {
         ++m_pos;
+        // Most values lie whole inside the chunk: decoded straight from it.
+        if (m_pos < m_end) {
+            const char *start = m_chunk.constData() + m_pos;
+            const qsizetype left = m_end - m_pos;
+            if (const void *quote = std::memchr(start, '"', size_t(left))) {
+                const qsizetype n = static_cast<const char *>(quote) - start;
+                if (n <= MaxValueBytes) {
+                    m_pos += n + 1;
+                    value = QString::fromUtf8(start, n);
+                    skipToDelimiter();
+                    return true;
+                }
+            }
+        }
         bool closed = false;
         while (!closed && !atEnd()) {
             const char *start = m_chunk.constData() + m_pos;

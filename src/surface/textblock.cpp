@@ -45,8 +45,7 @@ TextBlock::TextBlock(const QString &text, const QFont &font, double lineHeight, 
     option.setWrapMode(wrap ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
 
     const QStringList paragraphs = splitLines(text);
-    m_paragraphs.reserve(paragraphs.size());
-    for (const QString &paragraph : paragraphs) {
+    const auto layOutParagraph = [&](const QString &paragraph) {
         auto layout = std::make_unique<QTextLayout>(paragraph, font);
         layout->setTextOption(option);
         // Keep the shaped glyphs: a block is laid out once and drawn many times.
@@ -65,6 +64,21 @@ TextBlock::TextBlock(const QString &text, const QFont &font, double lineHeight, 
         }
         layout->endLayout();
         m_paragraphs.push_back(std::move(layout));
+    };
+    // Unwrapped lines (an address) go into one layout, each ended by a line
+    // separator: one shaping pass and one allocation instead of one per line.
+    // A line that ends in blanks keeps a layout of its own, since a
+    // separator would leave its blanks out of its width and so shift it when
+    // it is centred or set right.
+    bool oneLayout = !wrap && paragraphs.size() > 1;
+    for (qsizetype i = 0; oneLayout && i + 1 < paragraphs.size(); ++i)
+        oneLayout = paragraphs.at(i).isEmpty() || !paragraphs.at(i).back().isSpace();
+    if (oneLayout) {
+        layOutParagraph(paragraphs.join(QChar::LineSeparator));
+    } else {
+        m_paragraphs.reserve(paragraphs.size());
+        for (const QString &paragraph : paragraphs)
+            layOutParagraph(paragraph);
     }
     m_height = m_lineCount * pitch;
 }

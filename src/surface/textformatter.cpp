@@ -7,6 +7,7 @@
 
 #include <QFontMetricsF>
 #include <QHashFunctions>
+#include <QTextOption>
 
 namespace quirra {
 
@@ -67,6 +68,42 @@ Qt::Alignment TextFormatter::alignmentForCode(int code)
         return Qt::AlignLeft;
     }
 }
+
+namespace {
+
+// A single line with nothing but plain blanks to trim: the one the city
+// line and most item texts are.
+bool isPlainLine(const QString &text)
+{
+    for (const QChar c : text) {
+        const char16_t u = c.unicode();
+        if (u == u'\r' || u == u'\n' || u == u'\t' || u == 0x2028 || u == 0x2029)
+            return false;
+    }
+    return true;
+}
+
+// Shapes the line once, on the stack, with the design metrics the layout
+// draws with, and adds what a laid-out line adds: the overhang of a last
+// glyph that reaches past its advance. Nothing is broken into lines or kept.
+// Anything else (several lines, tabs, an overhanging or non-Latin last
+// character) is laid out in full, so a line measured to fit does fit when it
+// is drawn.
+double measureWidth(const QString &text, const QFont &font, double lineHeight)
+{
+    if (!text.isEmpty() && isPlainLine(text) && text.back().unicode() < 0x250) {
+        const QFontMetricsF metrics(font);
+        if (metrics.rightBearing(text.back()) >= 0) {
+            QTextOption option;
+            option.setUseDesignMetrics(true);
+            option.setWrapMode(QTextOption::NoWrap);
+            return metrics.horizontalAdvance(text, option);
+        }
+    }
+    return TextBlock(text, font, lineHeight, 0, false, Qt::AlignLeft, 100).naturalWidth();
+}
+
+} // namespace
 
 TextFormatter::TextFormatter() : m_blocks(maxBlocks), m_widths(maxWidths)
 {
@@ -164,12 +201,8 @@ double TextFormatter::textWidth(const QString &text)
     WidthKey key{m_key, text};
     if (const double *known = m_widths.object(key))
         return *known;
-    // Measured by the same layout that draws, so a line measured to fit
-    // does fit when it is drawn. The block itself is not kept: it is never
-    // drawn, and would only push out blocks that are.
     const FontEntry &entry = currentFont();
-    const double width =
-        TextBlock(text, entry.font, entry.lineHeight, 0, false, Qt::AlignLeft, 100).naturalWidth();
+    const double width = measureWidth(text, entry.font, entry.lineHeight);
     m_widths.insert(std::move(key), new double(width));
     return width;
 }
@@ -178,12 +211,21 @@ std::shared_ptr<const TextBlock> TextFormatter::layOut(const QString &text, doub
                                                        Qt::Alignment alignment, int spacingPercent)
 {
     BlockKey key{m_key, text, width, wrap, int(alignment), spacingPercent};
-    if (auto *cached = m_blocks.object(key))
-        return *cached;
+    // An item is laid out to measure it and at once again to draw it: the
+    // second asks for the block just made, without hashing its text again.
+    if (m_last && key == m_lastKey)
+        return m_last;
+    if (auto *cached = m_blocks.object(key)) {
+        m_lastKey = std::move(key);
+        m_last = *cached;
+        return m_last;
+    }
     const FontEntry &entry = currentFont();
     auto block = std::make_shared<const TextBlock>(text, entry.font, entry.lineHeight, width, wrap,
                                                    alignment, spacingPercent);
     m_blocks.insert(key, new std::shared_ptr<const TextBlock>(block));
+    m_lastKey = std::move(key);
+    m_last = block;
     return block;
 }
 

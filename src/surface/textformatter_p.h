@@ -106,6 +106,8 @@ private:
     QHash<FontKey, FontEntry> m_fonts;
     QCache<BlockKey, std::shared_ptr<const TextBlock>> m_blocks;
     QCache<WidthKey, double> m_widths;
+    BlockKey m_lastKey{};
+    std::shared_ptr<const TextBlock> m_last;
 };
 
 size_t qHash(const TextFormatter::FontKey &key, size_t seed = 0);

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 QuirraControl developers
+// SPDX-License-Identifier: MIT
+//
+// preview_bench: a host previewing N address labels in the control, offscreen,
+// timed. The records go in through the control's own calls (ClearPiece, the
+// field setters, NewPiece), PreviewNow lays them out, and the first, a middle
+// and the last page are shown and painted. Prints the time to spool, the time
+// until the first page is on screen, the time to show the middle and the last
+// page, and the process's peak memory.
+//
+//   preview_bench [N]        default N: 100000
+#include "benchdata.h"
+
+#include "control/previewpane.h"
+#include "control/quirra.h"
+#include "surface/printsurface.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPixmap>
+
+#include <cstdio>
+
+#include <sys/resource.h>
+
+using namespace quirra;
+
+namespace {
+
+double peakMb()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return double(usage.ru_maxrss) / 1024.0; // KiB on Linux
+}
+
+double cpuSeconds()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
+           double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    const qint64 n = argc > 1 ? QByteArray(argv[1]).toLongLong() : 100000;
+    if (n < 1) {
+        std::fprintf(stderr, "preview_bench: N must be a count of records, 1 or more\n");
+        return 2;
+    }
+
+    Quirra control;
+    control.resize(900, 700);
+    control.show();
+    control.PieceName(bench::LabelPiece);
+    auto *pane = control.findChild<PreviewPane *>();
+    if (!pane) {
+        std::fprintf(stderr, "preview_bench: the control has no preview pane\n");
+        return 1;
+    }
+    PrintSurface *surface = pane->surface();
+
+    QElapsedTimer clock;
+    clock.start();
+    const bench::RecordMaker maker;
+    control.StartDoc();
+    for (qint64 i = 0; i < n; ++i) {
+        const bench::Person p = maker.person(i);
+        control.ClearPiece();
+        control.FirstName(p.first);
+        control.MiddleName(p.middle);
+        control.LastName(p.last);
+        control.Address1(p.address1);
+        control.Address2(p.address2);
+        control.city(p.city);
+        control.State(p.state);
+        control.zip(p.zip);
+        control.NewPiece();
+    }
+    control.EndDoc();
+    const double spooled = clock.nsecsElapsed() / 1e9;
+
+    clock.restart();
+    control.PreviewNow();
+    surface->viewport()->grab(); // the first page painted
+    const double first = clock.nsecsElapsed() / 1e9;
+    const int pages = surface->pageCount();
+
+    clock.restart();
+    surface->setPreviewPage(pages / 2 + 1);
+    surface->viewport()->grab();
+    pane->Navigate(4); // the last page, as the button shows it
+    surface->viewport()->grab();
+    const double paging = clock.nsecsElapsed() / 1e9;
+
+    std::printf("preview %lld labels, %d pages: spool %.2fs, first page %.2fs, middle and last "
+                "%.3fs, cpu %.2fs, peak %.1f MB\n",
+                static_cast<long long>(n), pages, spooled, first, paging, cpuSeconds(), peakMb());
+    const int expected = int((n + 29) / 30);
+    if (pages != expected || surface->previewPage() != pages) {
+        std::fprintf(stderr, "preview_bench: %d pages, on page %d; %d pages expected\n", pages,
+                     surface->previewPage(), expected);
+        return 1;
+    }
+    return 0;
+}
