@@ -291,10 +291,10 @@ int runPrint(const QStringList &arguments)
         if (bar)
             bar->interrupt();
         const QString why = pdf ? QString() : control.surface()->printerFailure();
-        say(why.isEmpty() ? QStringLiteral("quirra print: %1 (%2 cannot be written)")
-                                .arg(text, pdf ? pdf->target()
-                                               : QStringLiteral("the printer ") + printerName)
-                          : QStringLiteral("quirra print: %1; nothing was printed").arg(why));
+        say(why.isEmpty()
+                ? QStringLiteral("quirra print: %1 (%2 cannot be written)")
+                      .arg(text, pdf ? pdf->target() : QStringLiteral("the printer ") + printerName)
+                : QStringLiteral("quirra print: %1; nothing was printed").arg(why));
         printerFailed = true;
     });
     HostServices::set(&control, &services);
@@ -340,9 +340,9 @@ int runPrint(const QStringList &arguments)
     if (printerFailed || control.surface()->errorCode() != 0) {
         const QString why = pdf ? QString() : control.surface()->printerFailure();
         if (!printerFailed)
-            say(why.isEmpty()
-                    ? QStringLiteral("quirra print: Ptr.error = %1").arg(control.surface()->errorCode())
-                    : QStringLiteral("quirra print: %1").arg(why));
+            say(why.isEmpty() ? QStringLiteral("quirra print: Ptr.error = %1")
+                                    .arg(control.surface()->errorCode())
+                              : QStringLiteral("quirra print: %1").arg(why));
         return 1;
     }
     QString destination = QStringLiteral("printer ") + printerName;
@@ -568,17 +568,17 @@ int main(int argc, char **argv)
     // A server or a cron job has no session runtime folder; Qt says so on
     // every start, which tells the user nothing they can act on.
     static const QtMessageHandler qtHandler = qInstallMessageHandler(nullptr);
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context,
-                              const QString &message) {
-        if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
-            return;
-        if (qtHandler) {
-            qtHandler(type, context, message);
-        } else {
-            const QByteArray line = qFormatLogMessage(type, context, message).toLocal8Bit();
-            std::fprintf(stderr, "%s\n", line.constData());
-        }
-    });
+    qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext &context, const QString &message) {
+            if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+                return;
+            if (qtHandler) {
+                qtHandler(type, context, message);
+            } else {
+                const QByteArray line = qFormatLogMessage(type, context, message).toLocal8Bit();
+                std::fprintf(stderr, "%s\n", line.constData());
+            }
+        });
     InterruptCleanup::install();
     // Listing the catalogue needs no fonts at all.
     const std::unique_ptr<QCoreApplication> app(command == QLatin1String("pieces")
@@ -591,8 +591,8 @@ int main(int argc, char **argv)
     arguments[0] += QLatin1Char(' ') + command;
     int status = 2;
     try {
-        if (!arguments.contains(QStringLiteral("--help")) && !arguments.contains(QStringLiteral("-h")) &&
-            !catalogueReadable(command))
+        if (!arguments.contains(QStringLiteral("--help")) &&
+            !arguments.contains(QStringLiteral("-h")) && !catalogueReadable(command))
             status = 1;
         else if (command == QLatin1String("print"))
             status = runPrint(arguments);

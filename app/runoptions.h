@@ -7,8 +7,8 @@
 #include <QList>
 #include <QString>
 
-#include <optional>
 #include <QStringList>
+#include <optional>
 
 class QCommandLineParser;
 class Quirra;

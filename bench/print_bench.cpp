@@ -62,7 +62,8 @@ void runOne(const QString &piece, qint64 count, const QString &pdf)
     for (ItemId id : StorageOrder)
         model.item(id).Text.clear();
     if (model.piece.PieceNumAcross == 1 && model.piece.PieceNumDown == 1) {
-        model.item(ItemId::Return).Text = QStringLiteral("ACME Mail\r1 Main St\rSpringfield, IL 62701");
+        model.item(ItemId::Return).Text =
+            QStringLiteral("ACME Mail\r1 Main St\rSpringfield, IL 62701");
         model.item(ItemId::Message1).Text = QStringLiteral("Dated material: please open at once");
     }
     spoolRecords(count);

@@ -57,7 +57,8 @@ public:
     /** @brief All properties in the order they are declared. */
     static const std::vector<PropertyInfo> &all();
 
-    /** @brief The saved properties in saving order: the 84 published, then PageWidth, PageHeight. */
+    /** @brief The saved properties in saving order: the 84 published, then PageWidth, PageHeight.
+     */
     static const std::vector<const PropertyInfo *> &savedInOrder();
 
     /** @brief The properties a new control sets, in that order (91 of them). */

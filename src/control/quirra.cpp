@@ -3,8 +3,8 @@
 #include "control/quirra.h"
 
 #include "catalogue/piececatalogue.h"
-#include "catalogue/pieceloader.h"
 #include "catalogue/pieceentry.h"
+#include "catalogue/pieceloader.h"
 #include "control/aboutbox.h"
 #include "control/fieldnames.h"
 #include "control/layoutcopy.h"

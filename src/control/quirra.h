@@ -13,8 +13,8 @@
 #include <QWidget>
 
 #include <atomic>
-#include <utility>
 #include <memory>
+#include <utility>
 
 class QPrinter;
 
@@ -223,7 +223,10 @@ public:
      * @brief The pages the next runs print, from 1 (0 leaves that end
      * open; 0, 0, as a new control has it, prints them all). Not saved.
      */
-    void SetPrintPages(int first, int last) { m_pages = {first, last}; }
+    void SetPrintPages(int first, int last)
+    {
+        m_pages = {first, last};
+    }
 
     /**
      * @brief The printer the control prints on. A host may name a system

@@ -6,10 +6,7 @@
 
 namespace quirra {
 
-Error::Error(const QString &message)
-    : std::runtime_error(message.toStdString())
-{
-}
+Error::Error(const QString &message) : std::runtime_error(message.toStdString()) {}
 
 QString Error::message() const
 {

@@ -6,16 +6,15 @@ namespace quirra {
 
 bool ItemFont::operator==(const ItemFont &o) const
 {
-    return Name == o.Name && Size == o.Size && Bold == o.Bold && Italic == o.Italic
-        && Underline == o.Underline && Strikethrough == o.Strikethrough;
+    return Name == o.Name && Size == o.Size && Bold == o.Bold && Italic == o.Italic &&
+           Underline == o.Underline && Strikethrough == o.Strikethrough;
 }
 
 bool Item::operator==(const Item &o) const
 {
-    return LineSpacing == o.LineSpacing && Border == o.Border && Top == o.Top && Left == o.Left
-        && Height == o.Height && Width == o.Width && Visible == o.Visible && Wrap == o.Wrap
-        && Text == o.Text && HorzAlign == o.HorzAlign && VertAlign == o.VertAlign
-        && Font == o.Font;
+    return LineSpacing == o.LineSpacing && Border == o.Border && Top == o.Top && Left == o.Left &&
+           Height == o.Height && Width == o.Width && Visible == o.Visible && Wrap == o.Wrap &&
+           Text == o.Text && HorzAlign == o.HorzAlign && VertAlign == o.VertAlign && Font == o.Font;
 }
 
 QString itemName(ItemId id)

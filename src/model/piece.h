@@ -30,21 +30,21 @@ enum PaperCode : qint16 {
  */
 struct QUIRRACONTROL_EXPORT Piece
 {
-    qint16 PieceNumAcross = 0;   ///< pieces per row (1 for an envelope)
-    qint16 PieceNumDown = 0;     ///< rows per sheet (1 for an envelope)
-    qint16 PieceOrientation = 0; ///< 0 portrait, 1 landscape; derived
+    qint16 PieceNumAcross = 0;        ///< pieces per row (1 for an envelope)
+    qint16 PieceNumDown = 0;          ///< rows per sheet (1 for an envelope)
+    qint16 PieceOrientation = 0;      ///< 0 portrait, 1 landscape; derived
     qint16 PageSizeNum = PaperLetter; ///< paper code; derived
-    qint16 IsCustom = 0;         ///< nonzero once the user edited the geometry
-    float PrinterTop = 0.25f;    ///< inches the printer cannot reach at the top
-    float PrinterLeft = 0.25f;   ///< inches the printer cannot reach at the left
-    float PieceMarginTop = 0;    ///< inches from the sheet's top to the first row
-    float PieceMarginLeft = 0;   ///< inches from the sheet's left to the first column
-    float PiecePitchVert = 0;    ///< inches from one row's top to the next's
-    float PiecePitchHorz = 0;    ///< inches from one column's left to the next's
-    float PieceHeight = 0;       ///< inches
-    float PieceWidth = 0;        ///< inches
+    qint16 IsCustom = 0;              ///< nonzero once the user edited the geometry
+    float PrinterTop = 0.25f;         ///< inches the printer cannot reach at the top
+    float PrinterLeft = 0.25f;        ///< inches the printer cannot reach at the left
+    float PieceMarginTop = 0;         ///< inches from the sheet's top to the first row
+    float PieceMarginLeft = 0;        ///< inches from the sheet's left to the first column
+    float PiecePitchVert = 0;         ///< inches from one row's top to the next's
+    float PiecePitchHorz = 0;         ///< inches from one column's left to the next's
+    float PieceHeight = 0;            ///< inches
+    float PieceWidth = 0;             ///< inches
     QString PieceName = DefaultPieceName;
-    QString PageSize; ///< the catalogue's description of the paper
+    QString PageSize;     ///< the catalogue's description of the paper
     float PageWidth = 0;  ///< the sheet's real width as it is fed, inches; 0 unknown
     float PageHeight = 0; ///< the sheet's real height as it is fed, inches; 0 unknown
 

@@ -47,7 +47,7 @@ QUIRRACONTROL_EXPORT void DrawItem(const Item &item, const Piece &piece, int slo
                                    Surface &surface);
 
 /** @brief DrawItem(), telling where the text went (untouched for an invisible item). */
-QUIRRACONTROL_EXPORT void DrawItem(const Item &item, const Piece &piece, int slot,
-                                   Surface &surface, DrawnText *drawn);
+QUIRRACONTROL_EXPORT void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface,
+                                   DrawnText *drawn);
 
 } // namespace quirra

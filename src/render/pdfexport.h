@@ -14,9 +14,9 @@ class SpoolReader;
 /** @brief What a print run to a PDF file did. */
 struct PdfRunResult
 {
-    int errorCode = 0;       ///< 0, or the surface's error when the file could not be written
-    int pages = 0;           ///< pages written
-    qint64 pieces = 0;       ///< pieces drawn
+    int errorCode = 0; ///< 0, or the surface's error when the file could not be written
+    int pages = 0;     ///< pages written
+    qint64 pieces = 0; ///< pieces drawn
 };
 
 /**

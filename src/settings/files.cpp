@@ -26,7 +26,6 @@ namespace quirra {
 
 namespace {
 
-
 const QLatin1String CatalogueName("quirra.cfg");
 
 // How long a file that will not go away may keep its deleter waiting.

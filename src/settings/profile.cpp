@@ -21,7 +21,6 @@ namespace quirra {
 
 namespace {
 
-
 // Nothing a person writes by hand comes near this; a larger file is refused
 // rather than read into memory whole.
 constexpr qint64 MaxFileSize = 64 * 1024 * 1024;
@@ -154,8 +153,8 @@ std::shared_ptr<const ProfileFile> load(const QString &path)
     }
     if (stamp.size > MaxFileSize) {
         qCWarning(lcSettings).noquote() << "The settings file" << path << "has" << stamp.size
-                                       << "bytes, more than a settings file may have ("
-                                       << MaxFileSize << "); its values read as their defaults";
+                                        << "bytes, more than a settings file may have ("
+                                        << MaxFileSize << "); its values read as their defaults";
         return nullptr;
     }
     // A file that changes while it is read is read again at the next lookup:

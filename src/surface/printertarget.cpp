@@ -149,8 +149,8 @@ void PrinterTarget::finishPrintFile(bool aborted)
     m_printer.setOutputFileName(QString());
     m_printer.setPrinterName(queue);
     if (!aborted) {
-        m_failure = cupsjob::printFile(queue, m_printFile, m_printer.docName(), m_options,
-                                       m_jobWatchMs);
+        m_failure =
+            cupsjob::printFile(queue, m_printFile, m_printer.docName(), m_options, m_jobWatchMs);
         if (!m_failure.isEmpty())
             qCDebug(lcSurface).noquote() << m_failure;
     }

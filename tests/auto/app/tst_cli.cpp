@@ -3,8 +3,8 @@
 //
 // The quirra program run as a user runs it: CSV files in, PDF files and
 // messages out, read back with the poppler tools.
-#include "quirrarun.h"
 #include "pdfprobe.h"
+#include "quirrarun.h"
 
 #include "control/jsonpropertybag.h"
 #include "control/quirra.h"

@@ -189,8 +189,8 @@ void TestPieceLoader::shippedCatalogueHoldsTheFacts()
         p.PageSize = captions.at(n - 1);
         ReadPaperSize(n - 1, p.PageWidth, p.PageHeight);
         DerivePageSetup(p);
-        const QString entry = ReadSetting(CatalogueFilePath(), PaperSizesSection,
-                                          QStringLiteral("size(%1)").arg(n));
+        const QString entry =
+            ReadSetting(CatalogueFilePath(), PaperSizesSection, QStringLiteral("size(%1)").arg(n));
         QCOMPARE(entry.section(u',', 0, 0).toInt(), int(p.PageSizeNum));
     }
 }

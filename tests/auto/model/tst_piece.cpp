@@ -36,8 +36,9 @@ void TestPiece::derivePageSetup_data()
     const S no10{1, 1, 9.5f, 4.125f, 9.5f, 4.125f, 0, 0};
     QTest::newRow("no10-envelope-is-landscape-paper-20")
         << no10 << "4 1/8 x 9 1/2" << 0.f << 0.f << 1 << 20;
-    QTest::newRow("letter-label-sheet-is-portrait") << S{3, 10, 2.625f, 1, 2.75f, 1, 0.1875f, 0.5f}
-                                                    << "Letter (8 1/2 x 11 in)" << 8.5f << 11.f << 0 << 1;
+    QTest::newRow("letter-label-sheet-is-portrait")
+        << S{3, 10, 2.625f, 1, 2.75f, 1, 0.1875f, 0.5f} << "Letter (8 1/2 x 11 in)" << 8.5f << 11.f
+        << 0 << 1;
     QTest::newRow("legal-that-really-is-8.5x14")
         << S{1, 1, 8.5f, 14, 8.5f, 14, 0, 0} << "8 1/2 x 14" << 8.5f << 14.f << 0 << 5;
     QTest::newRow("a4-sheet-mentioning-14-is-a4") << S{3, 7, 2.5f, 1.5f, 2.6f, 1.5f, 0.2f, 0.6f}

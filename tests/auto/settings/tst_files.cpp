@@ -34,10 +34,18 @@ void TestFiles::makeTempFileName_data()
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("expected"); // the name's pattern, or what the error says
 
-    QTest::newRow("spool-prefix") << "qzv" << "" << "^qzv\\w{6}\\.tmp$";
-    QTest::newRow("long-prefix-cut-to-three") << "quirra" << "" << "^qui\\w{6}\\.tmp$";
-    QTest::newRow("slash-cannot-leave-the-folder") << "../x" << "" << "^\\.\\._\\w{6}\\.tmp$";
-    QTest::newRow("missing-folder-explained") << "qzv" << "/gone" << "No such file.*TMPDIR";
+    QTest::newRow("spool-prefix") << "qzv"
+                                  << ""
+                                  << "^qzv\\w{6}\\.tmp$";
+    QTest::newRow("long-prefix-cut-to-three") << "quirra"
+                                              << ""
+                                              << "^qui\\w{6}\\.tmp$";
+    QTest::newRow("slash-cannot-leave-the-folder") << "../x"
+                                                   << ""
+                                                   << "^\\.\\._\\w{6}\\.tmp$";
+    QTest::newRow("missing-folder-explained") << "qzv"
+                                              << "/gone"
+                                              << "No such file.*TMPDIR";
 }
 
 void TestFiles::makeTempFileName()

@@ -22,14 +22,25 @@ void TestStrings::splitAndTrim_data()
     // TextBefore, TextAfter, TextAfterLast, TrimBlanks, TrimTrailingBlanks, joined by "/".
     QTest::addColumn<QString>("results");
 
-    QTest::newRow("first-and-last-differ") << "a|b|c" << "|" << "a/b|c/c/a|b|c/a|b|c";
-    QTest::newRow("absent-separator") << "plain" << "|" << "plain//plain/plain/plain";
-    QTest::newRow("case-counts") << "aXbxc" << "x" << "aXb/c/c/aXbxc/aXbxc";
+    QTest::newRow("first-and-last-differ") << "a|b|c"
+                                           << "|"
+                                           << "a/b|c/c/a|b|c/a|b|c";
+    QTest::newRow("absent-separator") << "plain"
+                                      << "|"
+                                      << "plain//plain/plain/plain";
+    QTest::newRow("case-counts") << "aXbxc"
+                                 << "x"
+                                 << "aXb/c/c/aXbxc/aXbxc";
     // An empty separator never occurs, so a list split by it ends at once.
-    QTest::newRow("empty-separator") << "abc" << "" << "abc//abc/abc/abc";
-    QTest::newRow("blanks-trimmed-inner-kept") << "  1  Main " << "|"
+    QTest::newRow("empty-separator") << "abc"
+                                     << ""
+                                     << "abc//abc/abc/abc";
+    QTest::newRow("blanks-trimmed-inner-kept") << "  1  Main "
+                                               << "|"
                                                << "  1  Main //  1  Main /1  Main/  1  Main";
-    QTest::newRow("only-spaces-are-blanks") << "\tC1\n " << "|" << "\tC1\n //\tC1\n /\tC1\n/\tC1\n";
+    QTest::newRow("only-spaces-are-blanks") << "\tC1\n "
+                                            << "|"
+                                            << "\tC1\n //\tC1\n /\tC1\n/\tC1\n";
 }
 
 void TestStrings::splitAndTrim()
