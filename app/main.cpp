@@ -483,15 +483,15 @@ int runPieces(const QStringList &arguments)
         const CatalogueEntry &entry = *catalogue->entry(name);
         if (!only.isEmpty() && entry.group.compare(only, Qt::CaseInsensitive))
             continue;
-        const PieceSpec &spec = entry.spec;
+        const PieceSpec &sheet = entry.sheet;
         QStringList line{entry.type == PieceTypeContinuous ? DotMatrixFamilySection
                                                            : LaserFamilySection,
                          entry.group,
                          name,
-                         inches(spec.LabelWidth) + QStringLiteral(" x ") +
-                             inches(spec.LabelHeight) + QStringLiteral(" in"),
-                         QStringLiteral("%1 x %2").arg(spec.NumAcross).arg(spec.NumDown),
-                         spec.PageDesc};
+                         inches(sheet.LabelWidth) + QStringLiteral(" x ") +
+                             inches(sheet.LabelHeight) + QStringLiteral(" in"),
+                         QStringLiteral("%1 x %2").arg(sheet.NumAcross).arg(sheet.NumDown),
+                         sheet.PageDesc};
         if (entry.imported)
             line << entry.product;
         print(line.join(QLatin1Char('\t')));

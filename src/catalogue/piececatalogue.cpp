@@ -81,7 +81,7 @@ CatalogueEntry entryOf(const LabelTemplate &t)
     e.group = t.brand;
     e.shape = t.shape;
     e.metric = isMetric(t);
-    PieceSpec &s = e.spec;
+    PieceSpec &s = e.sheet;
     s.Name = t.name();
     QString paper = t.paperId;
     paper.replace(u'-', u' ');
@@ -140,7 +140,7 @@ void Catalogue::readShipped(const QString &folder)
                 const QString record = ReadSetting(m_masterFile, DetailsSection, name);
                 const QStringList fields = record.split(u',');
                 CatalogueEntry e;
-                e.spec = ReadPieceSpec(m_masterFile, name);
+                e.sheet = ReadPieceSpec(m_masterFile, name);
                 e.product = fields.value(0);
                 e.group = e.product;
                 e.sizeText = fields.value(1);
@@ -149,7 +149,7 @@ void Catalogue::readShipped(const QString &folder)
                                  QLatin1String("CONT")
                              ? PieceTypeContinuous
                              : PieceTypeCut;
-                e.metric = e.spec.PageDesc.contains(QLatin1String(" mm"));
+                e.metric = e.sheet.PageDesc.contains(QLatin1String(" mm"));
                 if (!record.isEmpty())
                     add(name, e);
             }
@@ -251,9 +251,9 @@ const CatalogueEntry *Catalogue::entry(const QString &name) const
 PieceSpec Catalogue::piece(const QString &name) const
 {
     if (const CatalogueEntry *e = entry(name)) {
-        PieceSpec spec = e->spec;
-        spec.Name = name;
-        return spec;
+        PieceSpec sheet = e->sheet;
+        sheet.Name = name;
+        return sheet;
     }
     // A record no product lists is still a piece of the master file.
     return ReadPieceSpec(m_masterFile, name);
@@ -261,20 +261,20 @@ PieceSpec Catalogue::piece(const QString &name) const
 
 PieceSpec Catalogue::pieceOrDefault(const QString &name, bool *found) const
 {
-    PieceSpec spec = piece(name);
-    const bool there = spec.NumAcross >= 1;
+    PieceSpec sheet = piece(name);
+    const bool there = sheet.NumAcross >= 1;
     if (found)
         *found = there;
     if (!there)
-        spec = piece(DefaultPieceName);
-    return spec;
+        sheet = piece(DefaultPieceName);
+    return sheet;
 }
 
 bool Catalogue::loadPiece(const QString &name, PieceModel &model) const
 {
     bool found = false;
-    const PieceSpec spec = pieceOrDefault(name, &found);
-    if (!found && spec.NumAcross >= 1) {
+    const PieceSpec sheet = pieceOrDefault(name, &found);
+    if (!found && sheet.NumAcross >= 1) {
         qCDebug(lcCatalogue).noquote()
             << "piece" << name << "is not in the catalogue; loaded" << DefaultPieceName;
     } else if (!found && m_masterFile.isEmpty()) {
@@ -289,7 +289,7 @@ bool Catalogue::loadPiece(const QString &name, PieceModel &model) const
             << "- check the file, or set QUIRRA_SYSTEM_DIR to the folder of a complete "
                "catalogue. The piece's size stays 0.";
     }
-    ApplyPieceSpec(spec, model);
+    ApplyPieceSpec(sheet, model);
     model.piece.PieceName = name;
     return found;
 }

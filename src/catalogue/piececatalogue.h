@@ -20,7 +20,7 @@ class PieceModel;
 /** @brief One piece the catalogue holds, with what the picker shows of it. */
 struct QUIRRACONTROL_EXPORT CatalogueEntry
 {
-    PieceSpec spec;   ///< the geometry, inches
+    PieceSpec sheet;  ///< the geometry, inches
     QString product;  ///< the product (family): the record's first field, a template's description
     QString group;    ///< the picker's product row: the product, or the brand of an import
     QString sizeText; ///< the piece size as the Info box shows it

@@ -400,11 +400,11 @@ void piece_select_form::showFacts(const QString &name)
     m_type->setText(TextAfterLast(name, QStringLiteral(" - ")));
     m_size->setText(entry ? entry->sizeText : QString());
     m_layout->setText(entry ? entry->layoutText : QString());
-    m_pageSize->setText(entry ? entry->spec.PageDesc : QString());
+    m_pageSize->setText(entry ? entry->sheet.PageDesc : QString());
     m_family->setText(entry ? entry->product : QString());
     m_facts->setUpdatesEnabled(true);
     m_sheet->setThumbnail(true, entry && entry->shape != LabelShape::Rectangle);
-    m_sheet->setEntry(entry ? entry->spec : PieceSpec());
+    m_sheet->setEntry(entry ? entry->sheet : PieceSpec());
 }
 
 void piece_select_form::openDetails()

@@ -143,7 +143,7 @@ void TestTemplateReader::shapesAndAliases()
     QCOMPARE(alias.shape, LabelShape::Round);
     QVERIFY(alias.metric);
     QCOMPARE(alias.sizeText, QStringLiteral("40 x 40 mm"));
-    const PieceSpec &round = alias.spec;
+    const PieceSpec &round = alias.sheet;
     QCOMPARE(round.Name, QStringLiteral("Acme A1"));
     QCOMPARE(round.NumAcross, 4);
     QCOMPARE(round.NumDown, 6);
@@ -157,18 +157,18 @@ void TestTemplateReader::shapesAndAliases()
     const CatalogueEntry &cd = *catalogue->entry(QStringLiteral("Acme CD1"));
     QCOMPARE(cd.shape, LabelShape::Cd);
     QVERIFY(!cd.metric);
-    QCOMPARE(cd.spec.LabelWidth, 3.5f); // cut off at the sides: its own width bounds it
-    QCOMPARE(cd.spec.LabelHeight, 2.5f);
-    QCOMPARE(cd.spec.PageWidth, 8.5f);
-    QCOMPARE(cd.spec.PageHeight, 11.0f);
-    QCOMPARE(cd.spec.MarginSide, 0.5f);
-    QCOMPARE(cd.spec.PageDesc, QStringLiteral("Custom (8.5 x 11 in.)"));
+    QCOMPARE(cd.sheet.LabelWidth, 3.5f); // cut off at the sides: its own width bounds it
+    QCOMPARE(cd.sheet.LabelHeight, 2.5f);
+    QCOMPARE(cd.sheet.PageWidth, 8.5f);
+    QCOMPARE(cd.sheet.PageHeight, 11.0f);
+    QCOMPARE(cd.sheet.MarginSide, 0.5f);
+    QCOMPARE(cd.sheet.PageDesc, QStringLiteral("Custom (8.5 x 11 in.)"));
 
     const CatalogueEntry &ellipse = *catalogue->entry(QStringLiteral("Acme E1"));
     QCOMPARE(ellipse.shape, LabelShape::Ellipse);
     QCOMPARE(ellipse.sizeText, QStringLiteral("3 x 2 in."));
-    QCOMPARE(ellipse.spec.PitchHorz, 3.0f); // one column: a piece's own width is its step
-    QCOMPARE(ellipse.spec.PitchVert, 2.0f);
+    QCOMPARE(ellipse.sheet.PitchHorz, 3.0f); // one column: a piece's own width is its step
+    QCOMPARE(ellipse.sheet.PitchVert, 2.0f);
     QCOMPARE(catalogue->search(QStringLiteral("acme oval")), QStringList{"Acme E1"});
     QCOMPARE(catalogue->search(QString(), QStringLiteral("other")), QStringList());
 }
