@@ -150,6 +150,9 @@ void Catalogue::readShipped(const QString &folder)
                              ? PieceTypeContinuous
                              : PieceTypeCut;
                 e.metric = e.sheet.PageDesc.contains(QLatin1String(" mm"));
+                // A metric sheet's sizes read in millimetres, as printed on its box.
+                if (e.metric)
+                    e.sizeText = pair(e.sheet.LabelWidth, e.sheet.LabelHeight, true);
                 if (!record.isEmpty())
                     add(name, e);
             }

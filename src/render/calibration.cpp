@@ -133,19 +133,25 @@ void PrintCalibrationSheet(Surface &surface, const PieceModel &model)
     if (!paper.isEmpty()) {
         ruler(surface, paper, true);
         ruler(surface, paper, false);
-        surface.setFontSize(9);
+        // The instruction stands in the upper half of the second row (the
+        // first where there is one row), below the top ruler and above the
+        // row's crosses, so that it hides no cross.
+        const int row = piece.PieceNumDown > 1 ? 1 + piece.PieceNumAcross : 1;
+        const QRect box = pieceBoxOnSurface(scaled, row, 0);
+        const int crossTop = box.top() + twips(piece.PieceHeight) / 2 - CrossArm;
+        const int top = std::max(box.top() + 60, paper.top() + 900); // below the top ruler
+        const int height = std::max(360, crossTop - 60 - top);
+        surface.setFontSize(6);
         surface.textBox(
-            QStringLiteral(
-                "Calibration of \"%1\". Hold this sheet over a sheet of the real pieces, edges "
-                "together, against the light. At the first piece (top left) and the last piece "
-                "(bottom right) read how far the cross lies from the real piece's centre, in "
-                "inches, right and down positive; then run\r"
-                "quirra calibrate --piece \"%1\" --measured LEFT,TOP,RIGHT,BOTTOM\r"
-                "and print with the PrinterLeft, PrinterTop, PrinterScaleX and PrinterScaleY it "
-                "gives. The rulers show the paper's edges as this printer puts them.")
+            QStringLiteral("Calibration of \"%1\": hold this sheet over a sheet of the real "
+                           "pieces against the light. At the first (top left) and the last "
+                           "(bottom right) piece read how far the cross lies from the real "
+                           "piece's centre, in inches, right and down positive; then run  "
+                           "quirra calibrate --piece \"%1\" --measured LEFT,TOP,RIGHT,BOTTOM  "
+                           "and print with the settings it gives.")
                 .arg(piece.PieceName),
-            paper.left() + 1080, paper.top() + 900, std::max(2880, paper.width() - 2160), 1440,
-            true, false, false);
+            paper.left() + 1300, top, std::max(2880, paper.width() - 1660), height, true, false,
+            false);
     }
     surface.setAction(SurfaceAction::EndDoc);
 }

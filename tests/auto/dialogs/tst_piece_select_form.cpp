@@ -233,6 +233,10 @@ void TestPieceSelectForm::clickingPiece()
     QCOMPARE(f.text("family_txt"), QStringLiteral("Acme Envelopes"));
     QCOMPARE(f.form.findChild<SheetPreview *>(QStringLiteral("sheet_preview"))->entry().PageWidth,
              9.5f);
+    // A metric sheet's size reads in millimetres.
+    QTest::keyClick(f.pieces, Qt::Key_Down);
+    QCOMPARE(f.text("size_txt"), QStringLiteral("220 x 110 mm"));
+    QTest::keyClick(f.pieces, Qt::Key_Up);
     search->clear();
     QCOMPARE(f.products->currentText(), QStringLiteral("Acme Envelopes"));
     QCOMPARE(f.pieces->currentItem()->text(), QStringLiteral("No. 10 - Envelope"));
