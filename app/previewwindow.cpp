@@ -244,9 +244,16 @@ void PreviewWindow::print()
     QPrinter *printer = m_control->printer();
     QPrintDialog dialog(printer, this);
     dialog.setWindowTitle(tr("Print the run"));
+    // The pages shown are the pages printed, so a range of them may be chosen.
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+    dialog.setMinMax(1, qMax(1, m_control->surface()->pageCount()));
     if (dialog.exec() != QDialog::Accepted)
         return;
-    if (runPrint(tr("Printing")))
+    const bool range = printer->printRange() == QPrinter::PageRange;
+    m_control->SetPrintPages(range ? printer->fromPage() : 0, range ? printer->toPage() : 0);
+    const bool printed = runPrint(tr("Printing"));
+    m_control->SetPrintPages(0, 0); // the preview and Export PDF keep every page
+    if (printed)
         statusBar()->showMessage(
             tr("Sent %1 pages to the printer").arg(m_control->surface()->pageCount()), 5000);
 }
