@@ -10,8 +10,7 @@
 #include "model/error.h"
 #include "model/piecemodel.h"
 #include "render/calibration.h"
-#include "surface/pageengine.h"
-#include "surface/pdftarget.h"
+#include "render/pdfexport.h"
 #include "surface/printsurface.h"
 
 #include <QCommandLineParser>
@@ -114,14 +113,9 @@ int RunCalibrateCommand(const QStringList &arguments,
     }
 
     if (!pdfPath.isEmpty()) {
-        PdfTarget target(pdfPath);
-        PageEngine engine;
-        engine.setPrintTarget(&target);
-        engine.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
-                                  inchesToTwips(model.piece.PrinterTop));
-        engine.setPreview(false);
-        PrintCalibrationSheet(engine, model);
-        if (engine.errorCode() != 0)
+        const PdfRunResult result = DrawToPdf(
+            pdfPath, model, [&](Surface &surface) { PrintCalibrationSheet(surface, model); });
+        if (result.errorCode != 0)
             return fail(QStringLiteral("%1 cannot be written").arg(pdfPath));
         say(QStringLiteral("quirra calibrate: the sheet of \"%1\" -> %2").arg(piece, pdfPath));
         return 0;

@@ -10,7 +10,8 @@
 
 namespace quirra {
 
-PdfRunResult PrintSpoolToPdf(const QString &pdfPath, PieceModel &model, SpoolReader &reader)
+PdfRunResult DrawToPdf(const QString &pdfPath, const PieceModel &model,
+                       const std::function<void(Surface &)> &draw)
 {
     PdfTarget target(pdfPath);
     PageEngine engine;
@@ -18,14 +19,19 @@ PdfRunResult PrintSpoolToPdf(const QString &pdfPath, PieceModel &model, SpoolRea
     engine.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
                               inchesToTwips(model.piece.PrinterTop));
     engine.setPreview(false);
-    reader.setSpoolExhausted(false);
-
-    PrintRun run(model, reader);
-    run.RunPrintJob(engine);
-
+    draw(engine);
     PdfRunResult result;
     result.errorCode = engine.errorCode();
     result.pages = engine.pageCount();
+    return result;
+}
+
+PdfRunResult PrintSpoolToPdf(const QString &pdfPath, PieceModel &model, SpoolReader &reader)
+{
+    reader.setSpoolExhausted(false);
+    PrintRun run(model, reader);
+    PdfRunResult result =
+        DrawToPdf(pdfPath, model, [&](Surface &surface) { run.RunPrintJob(surface); });
     result.pieces = run.piecesDrawn();
     return result;
 }

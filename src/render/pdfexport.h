@@ -6,10 +6,13 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace quirra {
 
 struct PieceModel;
 class SpoolReader;
+class Surface;
 
 /** @brief What a print run to a PDF file did. */
 struct PdfRunResult
@@ -18,6 +21,15 @@ struct PdfRunResult
     int pages = 0;     ///< pages written
     qint64 pieces = 0; ///< pieces drawn
 };
+
+/**
+ * @brief Draws to a PDF file without any window: a page engine printing to
+ * pdfPath, its printable area starting at the piece's printer offsets, is
+ * handed to draw.
+ * @return what the engine reports afterwards (pieces left 0)
+ */
+QUIRRACONTROL_EXPORT PdfRunResult DrawToPdf(const QString &pdfPath, const PieceModel &model,
+                                            const std::function<void(Surface &)> &draw);
 
 /**
  * @brief Prints the spool to a PDF file with the piece and layout of the
