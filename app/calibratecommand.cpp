@@ -9,9 +9,9 @@
 #include "control/quirra.h"
 #include "model/error.h"
 #include "model/piecemodel.h"
+#include "printing/printsurface.h"
 #include "render/calibration.h"
 #include "render/pdfexport.h"
-#include "surface/printsurface.h"
 
 #include <QCommandLineParser>
 #include <QPrinterInfo>

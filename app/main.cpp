@@ -21,9 +21,9 @@
 #include "control/quirra.h"
 #include "dialogs/hostservices.h"
 #include "model/error.h"
+#include "printing/printsurface.h"
 #include "records/sharedspool.h"
 #include "settings/files.h"
-#include "surface/printsurface.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -5,11 +5,11 @@
 #include "logging_p.h"
 #include "pdfoutput.h"
 
-#include "control/jsonpropertybag.h"
 #include "control/propertysheet.h"
 #include "control/quirra.h"
 #include "model/error.h"
-#include "surface/printsurface.h"
+#include "printing/printsurface.h"
+#include "properties/jsonpropertybag.h"
 
 #include <QAction>
 #include <QCoreApplication>

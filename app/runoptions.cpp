@@ -10,10 +10,10 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/piececatalogue.h"
 #include "catalogue/pieceentry.h"
-#include "control/jsonpropertybag.h"
 #include "control/quirra.h"
 #include "model/error.h"
 #include "model/piece.h"
+#include "properties/jsonpropertybag.h"
 #include "settings/files.h"
 
 #include <QCommandLineParser>

@@ -11,9 +11,9 @@
 //   preview_bench [N]        default N: 100000
 #include "benchdata.h"
 
-#include "control/previewpane.h"
 #include "control/quirra.h"
-#include "surface/printsurface.h"
+#include "pane/previewpane.h"
+#include "printing/printsurface.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

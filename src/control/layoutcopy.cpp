@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "control/layoutcopy.h"
 
-#include "control/fieldnames.h"
 #include "control/logging_p.h"
 #include "control/propertytable.h"
 #include "control/quirra.h"
+#include "properties/fieldnames.h"
 
 namespace quirra {
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "control/propertytable.h"
 
-#include "control/defaultset.h"
 #include "control/quirra.h"
 #include "model/piece.h"
+#include "properties/defaultset.h"
 
 #include <algorithm>
 
@@ -65,7 +65,7 @@ std::vector<const PropertyInfo *> ordered(int PropertyInfo::*position)
 
 } // namespace
 
-// The default and initial columns of control/properties.def read these.
+// The default and initial columns of properties/properties.def read these.
 #define SET_ITEM(itemId, field) set.item(ItemId::itemId).field
 #define SET_PIECE(field) set.piece.field
 #define SET_ICON set.Icon1
@@ -91,7 +91,7 @@ std::vector<const PropertyInfo *> ordered(int PropertyInfo::*position)
 const std::vector<PropertyInfo> &PropertyTable::all()
 {
     static const std::vector<PropertyInfo> table = {
-#include "control/properties.def"
+#include "properties/properties.def"
     };
     return table;
 }

@@ -49,7 +49,7 @@ struct QUIRRACONTROL_EXPORT PropertyInfo
 
 /**
  * @brief Every property of the control, from the one list in
- * control/properties.def.
+ * properties/properties.def.
  */
 class QUIRRACONTROL_EXPORT PropertyTable
 {

@@ -6,11 +6,8 @@
 #include "catalogue/pieceentry.h"
 #include "catalogue/pieceloader.h"
 #include "control/aboutbox.h"
-#include "control/fieldnames.h"
 #include "control/layoutcopy.h"
 #include "control/logging_p.h"
-#include "control/previewpane.h"
-#include "control/propertybag.h"
 #include "dialogs/hostservices.h"
 #include "dialogs/piece_customization_form.h"
 #include "dialogs/piece_layout_edit_form.h"
@@ -18,6 +15,10 @@
 #include "model/error.h"
 #include "model/fontconversion.h"
 #include "model/piecemodel.h"
+#include "pane/previewpane.h"
+#include "printing/printsurface.h"
+#include "properties/fieldnames.h"
+#include "properties/propertybag.h"
 #include "records/sharedspool.h"
 #include "records/spoolwriter.h"
 #include "render/printrun.h"
@@ -26,7 +27,6 @@
 #include "settings/defaultlayout.h"
 #include "settings/files.h"
 #include "surface/measuringsurface.h"
-#include "surface/printsurface.h"
 
 #include <QCoreApplication>
 #include <QVBoxLayout>
@@ -465,7 +465,7 @@ void Quirra::WriteProperties(PropertyBag &bag) const
 
 // --- The properties -----------------------------------------------------------
 //
-// One getter and one setter per row of control/properties.def; the kind of
+// One getter and one setter per row of properties/properties.def; the kind of
 // row (its "where" column) picks the pair.
 
 #define QUIRRA_PROPERTY(type, name, save, init, defaultValue, initialValue, where, ...)            \
@@ -579,4 +579,4 @@ void Quirra::WriteProperties(PropertyBag &bag) const
         QUIRRA_NOTIFY(name);                                                                       \
     }
 
-#include "control/properties.def"
+#include "properties/properties.def"

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "control/defaultset.h"
 #include "control/propertytable.h"
 #include "model/enums.h"
+#include "properties/defaultset.h"
 #include "quirracontrol_export.h"
 #include "records/record.h"
 
@@ -44,7 +44,7 @@ struct PieceSpec;
  * deletes it.
  *
  * Every property has a getter and a setter of the same name, generated from
- * control/properties.def; the setter stores the value and then emits
+ * properties/properties.def; the setter stores the value and then emits
  * propertyChanged() with the property's name. Lengths of the piece and the
  * items are inches (float), the pane's layout values twips, line spacing and
  * zoom percent. Failures of the methods (a spool that cannot be written, a
@@ -55,7 +55,7 @@ class QUIRRACONTROL_EXPORT Quirra : public QWidget
     Q_OBJECT
 #define QUIRRA_PROPERTY(type, name, ...) Q_PROPERTY(type name READ name WRITE name)
 #define QUIRRA_HIDDEN_PROPERTY(...)
-#include "control/properties.def"
+#include "properties/properties.def"
 #undef QUIRRA_HIDDEN_PROPERTY
 #undef QUIRRA_PROPERTY
 
@@ -266,11 +266,11 @@ public:
         return m_defaults;
     }
 
-    // The getter and setter of every property; see control/properties.def.
+    // The getter and setter of every property; see properties/properties.def.
 #define QUIRRA_PROPERTY(type, name, ...)                                                           \
     type name() const;                                                                             \
     void name(quirra::PropertyArg<type> value);
-#include "control/properties.def"
+#include "properties/properties.def"
 #undef QUIRRA_PROPERTY
 
 Q_SIGNALS:

@@ -6,8 +6,8 @@
 #include "pdfprobe.h"
 #include "quirrarun.h"
 
-#include "control/jsonpropertybag.h"
 #include "control/quirra.h"
+#include "properties/jsonpropertybag.h"
 
 #include <QDir>
 #include <QProcess>

@@ -6,7 +6,7 @@
 #include "recordfeed.h"
 
 #include "control/quirra.h"
-#include "surface/printsurface.h"
+#include "printing/printsurface.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "control/jsonpropertybag.h"
+#include "properties/jsonpropertybag.h"
 
 #include "controlsteps.h"
 #include "nowindowleft.h"

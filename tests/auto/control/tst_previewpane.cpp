@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "control/previewpane.h"
+#include "pane/previewpane.h"
 
 #include "nowindowleft.h"
 #include "pdfprobe.h"
 #include "spoolfixture.h"
 
 #include "catalogue/pieceloader.h"
+#include "printing/printsurface.h"
 #include "render/printrun.h"
-#include "surface/printsurface.h"
 
 #include <QApplication>
 #include <QFile>

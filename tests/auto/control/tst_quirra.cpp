@@ -6,15 +6,15 @@
 #include "nowindowleft.h"
 
 #include "catalogue/pieceentry.h"
-#include "control/previewpane.h"
 #include "hostrecorder.h"
 #include "model/error.h"
 #include "model/piecemodel.h"
+#include "pane/previewpane.h"
 #include "pdfprobe.h"
+#include "printing/printsurface.h"
 #include "publishedproperties.h"
 #include "records/record.h"
 #include "records/sharedspool.h"
-#include "surface/printsurface.h"
 
 #include <QApplication>
 #include <QDir>

@@ -9,7 +9,7 @@
 #include "pdfprobe.h"
 #include "records/sharedspool.h"
 
-#include "surface/printsurface.h"
+#include "printing/printsurface.h"
 #include <optional>
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "surface/printsurface.h"
+#include "printing/printsurface.h"
 
 #include "nowindowleft.h"
 #include "pdfprobe.h"

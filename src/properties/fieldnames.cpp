@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "control/fieldnames.h"
+#include "properties/fieldnames.h"
 
 #include "model/fontconversion.h"
 
@@ -67,7 +67,7 @@ struct ItemRow
 #define QUIRRA_ITEM_ROW_SURFACE(...)
 #define QUIRRA_ITEM_ROW_INSTANCE(...)
 const ItemRow ItemRows[] = {
-#include "control/properties.def"
+#include "properties/properties.def"
 };
 #undef QUIRRA_PROPERTY
 
@@ -84,7 +84,7 @@ const ItemRow ItemRows[] = {
 #define QUIRRA_PIECE_ROW_SURFACE(...)
 #define QUIRRA_PIECE_ROW_INSTANCE(...)
 const PieceField PieceRows[] = {
-#include "control/properties.def"
+#include "properties/properties.def"
 };
 #undef QUIRRA_PROPERTY
 #undef QUIRRA_FIELD

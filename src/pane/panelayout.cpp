@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "control/panelayout.h"
+#include "pane/panelayout.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "surface/cupsjob.h"
+#include "printing/cupsjob.h"
 
 #include <QDeadlineTimer>
 #include <QFile>

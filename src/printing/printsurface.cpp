@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "surface/printsurface.h"
+#include "printing/printsurface.h"
 
-#include "surface/printertarget.h"
+#include "printing/printertarget.h"
 
 #include <QPainter>
 #include <QPrinter>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "control/propertybag.h"
+#include "properties/propertybag.h"
 #include "quirracontrol_export.h"
 
 #include <QJsonObject>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "control/panelayout.h"
+#include "pane/panelayout.h"
 #include "quirracontrol_export.h"
 
 #include <QWidget>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "printing/cupsjob.h"
 #include "quirracontrol_export.h"
-#include "surface/cupsjob.h"
 #include "surface/printtarget.h"
 
 #include <QString>

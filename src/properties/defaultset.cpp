@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "control/defaultset.h"
+#include "properties/defaultset.h"
 
 #include "catalogue/pieceloader.h"
 #include "model/piecemodel.h"

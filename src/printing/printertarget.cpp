@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "surface/printertarget.h"
+#include "printing/printertarget.h"
 
 #include "model/error.h"
+#include "printing/cupsjob.h"
+#include "printing/logging_p.h"
 #include "settings/files.h"
-#include "surface/cupsjob.h"
-#include "surface/logging_p.h"
 
 #include <QFile>
 #include <QPrintEngine>
@@ -28,7 +28,7 @@ QPageLayout PrinterTarget::acceptedLayout(const QPageLayout &wanted)
     m_printer.setFullPage(true);
     m_printer.setPageOrientation(wanted.orientation());
     if (!m_printer.setPageSize(wanted.pageSize()))
-        qCInfo(lcSurface) << "the printer has no paper" << wanted.pageSize().name();
+        qCInfo(lcPrinting) << "the printer has no paper" << wanted.pageSize().name();
     return m_printer.pageLayout();
 }
 
@@ -46,11 +46,11 @@ QPagedPaintDevice *PrinterTarget::beginDocument(const QPageLayout &firstPage)
 {
     m_failure.clear();
     if (!m_missingPrinter.isEmpty() && m_printer.outputFormat() == QPrinter::NativeFormat) {
-        qCWarning(lcSurface) << "there is no printer named" << m_missingPrinter;
+        qCWarning(lcPrinting) << "there is no printer named" << m_missingPrinter;
         return nullptr;
     }
     if (!m_printer.isValid()) {
-        qCWarning(lcSurface) << "printer" << m_printer.printerName() << "is not available";
+        qCWarning(lcPrinting) << "printer" << m_printer.printerName() << "is not available";
         return nullptr;
     }
     m_printer.setFullPage(true);
@@ -95,14 +95,14 @@ bool PrinterTarget::startPrintFile()
     if (!m_failure.isEmpty()) {
         // The run reports it (failure(), error code 2); the log has it for
         // whoever follows the library.
-        qCDebug(lcSurface).noquote() << m_failure;
+        qCDebug(lcPrinting).noquote() << m_failure;
         if (!m_printFile.isEmpty())
             QFile::remove(m_printFile);
         m_printFile.clear();
         return false;
     }
     if (printFile().isEmpty()) {
-        qCWarning(lcSurface).noquote() << m_failure;
+        qCWarning(lcPrinting).noquote() << m_failure;
         return false;
     }
     // The options Qt would have sent: the paper, and what a print dialog set.
@@ -152,7 +152,7 @@ void PrinterTarget::finishPrintFile(bool aborted)
         m_failure =
             cupsjob::printFile(queue, m_printFile, m_printer.docName(), m_options, m_jobWatchMs);
         if (!m_failure.isEmpty())
-            qCDebug(lcSurface).noquote() << m_failure;
+            qCDebug(lcPrinting).noquote() << m_failure;
     }
     QFile::remove(m_printFile);
     m_printFile.clear();

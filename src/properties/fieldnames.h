@@ -36,12 +36,12 @@ struct PieceField
 /**
  * @brief The twelve fields of an item, by name: Border, Font, Height,
  * HorzAlign, Left, LineSpacing, Text, Top, VertAlign, Visible, Width, Wrap.
- * Taken from the item rows of control/properties.def.
+ * Taken from the item rows of properties/properties.def.
  */
 QUIRRACONTROL_EXPORT const std::vector<Field<Item>> &ItemFields();
 
 /**
- * @brief The fields of the piece from control/properties.def: PieceName,
+ * @brief The fields of the piece from properties/properties.def: PieceName,
  * the fourteen announced ones by their announced name, then the fields that
  * are not announced (the sheet's size) in the table's order.
  */

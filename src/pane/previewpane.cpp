@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "control/previewpane.h"
+#include "pane/previewpane.h"
 
-#include "control/logging_p.h"
-#include "surface/printsurface.h"
+#include "pane/logging_p.h"
+#include "printing/printsurface.h"
 
 #include <QEvent>
 #include <QFontMetrics>
@@ -341,8 +341,8 @@ void PreviewPane::printPage()
 {
     m_surface->setAction(SurfaceAction::PrintPage);
     if (m_surface->errorCode() != 0)
-        qCWarning(lcControl) << "the page on show could not be printed, error"
-                             << m_surface->errorCode();
+        qCWarning(lcPane) << "the page on show could not be printed, error"
+                          << m_surface->errorCode();
     giveFocus(false);
 }
 
