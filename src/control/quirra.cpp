@@ -21,6 +21,7 @@
 #include "properties/propertybag.h"
 #include "records/sharedspool.h"
 #include "records/spoolwriter.h"
+#include "render/previewrun.h"
 #include "render/printrun.h"
 #include "render/runreport.h"
 #include "render/textlines.h"
@@ -29,6 +30,7 @@
 #include "surface/measuringsurface.h"
 
 #include <QCoreApplication>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -199,7 +201,41 @@ void Quirra::EndDoc()
 
 void Quirra::PreviewNow()
 {
-    runPrintJob(true);
+    if (m_writer->isSpoolOpen())
+        EndDoc();
+    PrintSurface *printSurface = surface();
+    printSurface->setPreview(true);
+    printSurface->setPrintableOrigin(inchesToTwips(model().piece.PrinterLeft),
+                                     inchesToTwips(model().piece.PrinterTop));
+    m_cancel = false;
+    SpoolReader &reader = SharedSpool::instance().reader();
+    reader.close();
+    reader.setSpoolExhausted(false);
+
+    // The first page is on screen as soon as it is drawn; the page count is
+    // set when the rest of the run is laid out, while the host's page
+    // observer lets events through (a cancel) as it does while a run draws.
+    PreviewRun run(model(), SharedSpool::instance().spoolPath());
+    run.setCancelFlag(&m_cancel);
+    run.setPageRange(m_pages);
+    run.setMessageSink([this](const QString &text) { HostServices::of(this).message(text, this); });
+    const std::function<void(int)> observer = printSurface->pageObserver();
+    bool shown = false;
+    run.setProgress([&](int pages) {
+        if (!shown) {
+            shown = true;
+            m_pane->Navigate(0);
+            if (printSurface->isVisible())
+                printSurface->viewport()->repaint();
+        }
+        if (observer)
+            observer(pages);
+    });
+    const auto finish = qScopeGuard([&] {
+        *m_report = run.report();
+        m_lastRunCancelled = run.cancelled();
+    });
+    run.run(*printSurface);
     m_pane->Navigate(0);
 }
 

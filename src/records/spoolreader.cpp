@@ -224,6 +224,25 @@ bool SpoolReader::OpenSpoolForReading()
     return false;
 }
 
+qint64 SpoolReader::recordOffset() const
+{
+    return m_readerOpen ? m_file.pos() - (m_end - m_pos) : -1;
+}
+
+bool SpoolReader::seekRecord(qint64 offset)
+{
+    if (!m_readerOpen && OpenSpoolForReading())
+        return false;
+    if (offset < 0 || offset > m_file.size() || !m_file.seek(offset)) {
+        close();
+        return false;
+    }
+    m_pos = 0;
+    m_end = 0;
+    m_fileDone = false;
+    return true;
+}
+
 bool SpoolReader::ReadNextRecord(Values &values, QString &substitute)
 {
     if (!m_readerOpen && OpenSpoolForReading()) {

@@ -70,6 +70,22 @@ public:
      */
     bool ReadNextRecord(Values &values, QString &substitute);
 
+    /**
+     * @brief Where the next record starts, in bytes from the file's start;
+     * -1 while the reader is not open.
+     */
+    qint64 recordOffset() const;
+
+    /**
+     * @brief Opens the spool (checking its header) and goes to a record
+     * start that recordOffset() gave, so that one page of a long run is read
+     * without the records before it.
+     *
+     * @return false when the spool cannot be opened or the offset is not in
+     * it; the reader is then closed.
+     */
+    bool seekRecord(qint64 offset);
+
     /** @brief Closes the file; the next read opens it again from the start. */
     void close();
 

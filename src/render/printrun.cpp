@@ -11,6 +11,8 @@
 #include "render/piecechecks.h"
 #include "surface/surface.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -20,46 +22,6 @@ namespace quirra {
 namespace {
 
 constexpr QChar CarriageReturn(u'\r');
-
-// Stretches every position on the sheet about the page's top-left corner
-// for the printer's calibration, leaving sizes as they are; the printer's
-// offsets are taken off afterwards. Puts the positions back when the run ends.
-class ScaledPositions
-{
-public:
-    explicit ScaledPositions(PieceModel &model)
-        : m_model(model), m_piece(model.piece), m_items(model.items)
-    {
-        const float x = std::clamp(model.PrinterScaleX, 90.f, 110.f) / 100.f;
-        const float y = std::clamp(model.PrinterScaleY, 90.f, 110.f) / 100.f;
-        Piece &piece = model.piece;
-        piece.PieceMarginLeft *= x;
-        piece.PiecePitchHorz *= x;
-        piece.PieceMarginTop *= y;
-        piece.PiecePitchVert *= y;
-        for (Item &item : model.items) {
-            item.Left *= x;
-            item.Top *= y;
-        }
-    }
-    ~ScaledPositions()
-    {
-        Piece &piece = m_model.piece;
-        piece.PieceMarginLeft = m_piece.PieceMarginLeft;
-        piece.PiecePitchHorz = m_piece.PiecePitchHorz;
-        piece.PieceMarginTop = m_piece.PieceMarginTop;
-        piece.PiecePitchVert = m_piece.PiecePitchVert;
-        for (size_t i = 0; i < m_items.size(); ++i) {
-            m_model.items[i].Left = m_items[i].Left;
-            m_model.items[i].Top = m_items[i].Top;
-        }
-    }
-
-private:
-    PieceModel &m_model;
-    const Piece m_piece;
-    const std::array<Item, ItemCount> m_items;
-};
 
 void resetSurface(Surface &surface)
 {
@@ -97,7 +59,9 @@ QString addressText(const AddressLines &lines)
 
 } // namespace
 
-PrintRun::PrintRun(PieceModel &model, SpoolReader &reader) : m_model(model), m_reader(reader) {}
+PrintRun::PrintRun(const PieceModel &model, SpoolReader &reader) : m_model(model), m_reader(reader)
+{
+}
 
 bool PrintRun::cancelRequested()
 {
@@ -181,7 +145,24 @@ void PrintRun::PlacePieces(Surface &surface)
                         .arg(perPage));
     }
 
-    const ScaledPositions scaled(m_model);
+    // The printer's calibration stretches every position on the sheet about
+    // the page's top-left corner, leaving sizes as they are (the printer's
+    // offsets come off afterwards). The run draws from a scaled copy; the
+    // model is only read.
+    const float scaleX = std::clamp(m_model.PrinterScaleX, 90.f, 110.f) / 100.f;
+    const float scaleY = std::clamp(m_model.PrinterScaleY, 90.f, 110.f) / 100.f;
+    m_scaled = ScaledLayout{m_model.piece, m_model.items};
+    const auto unscale = qScopeGuard([this] { m_scaled.reset(); });
+    Piece &placed = m_scaled->piece;
+    placed.PieceMarginLeft *= scaleX;
+    placed.PiecePitchHorz *= scaleX;
+    placed.PieceMarginTop *= scaleY;
+    placed.PiecePitchVert *= scaleY;
+    for (Item &item : m_scaled->items) {
+        item.Left *= scaleX;
+        item.Top *= scaleY;
+    }
+
     AddressLines lines;
     QString substitute;
     CityLineFit fit;
@@ -189,19 +170,33 @@ void PrintRun::PlacePieces(Surface &surface)
     QString barCode;
     bool pendingNewPage = false;
     bool drawnAny = false;
+    int page = 1;
     int firstSlot = startSlot; // the first sheet may be partly used
+    if (const auto [startPage, offset] = m_start; startPage > 1 && offset >= 0) {
+        if (!m_reader.seekRecord(offset)) {
+            m_reader.setSpoolExhausted(true);
+            return;
+        }
+        page = startPage;
+        record = (perPage - startSlot + 1) + qint64(page - 2) * perPage;
+        firstSlot = 1;
+    }
     const auto [fromPage, toPage] = m_pageRange;
-    for (int page = 1; !m_reader.spoolExhausted(); ++page) {
+    for (; !m_reader.spoolExhausted(); ++page) {
         if (toPage > 0 && page > toPage)
             return;
         const bool wanted = page >= fromPage;
         for (int slot = firstSlot; slot <= perPage; ++slot) {
             if (cancelRequested())
                 return;
+            const bool pageStarts = slot == firstSlot && m_pageStart;
+            const qint64 offset = pageStarts ? m_reader.recordOffset() : -1;
             ComposeAddressLines(m_reader, surface, WidestCityLine, lines, substitute, &fit,
                                 &barCode);
             if (m_reader.spoolExhausted())
                 return;
+            if (pageStarts)
+                m_pageStart(page, offset);
             m_checks.beginRecord(++record, lines[1]);
             m_checks.checkAddress(lines, fit, WidestCityLine);
             if (!wanted)
@@ -213,7 +208,7 @@ void PrintRun::PlacePieces(Surface &surface)
             }
             if (record == 1 && surface.preview()) {
                 for (int used = 1; used < startSlot; ++used)
-                    markUsedSlot(surface, pieceBoxOnSurface(piece, used, surface.marginLeft()));
+                    markUsedSlot(surface, pieceBoxOnSurface(placed, used, surface.marginLeft()));
             }
             PieceTexts texts;
             for (ItemId id : StorageOrder) {
@@ -242,7 +237,7 @@ void PrintRun::DrawPiece(int slot, Surface &surface)
 
 void PrintRun::DrawPiece(int slot, Surface &surface, const PieceTexts &texts)
 {
-    const Piece &piece = m_model.piece;
+    const Piece &piece = this->piece();
     const int marginLeft = surface.marginLeft();
     const QRect pieceBox = pieceBoxOnSurface(piece, slot, marginLeft);
     const QRect paper = surface.paperRect();
@@ -251,7 +246,7 @@ void PrintRun::DrawPiece(int slot, Surface &surface, const PieceTexts &texts)
     surface.setClipBox(pieceBox.x(), pieceBox.y(), pieceBox.width(), pieceBox.height());
     // Later items paint over earlier ones where boxes overlap.
     for (ItemId id : StorageOrder) {
-        Item item = m_model.item(id);
+        Item item = this->item(id);
         item.Text = texts[int(id)];
         DrawnText drawn;
         DrawItem(item, piece, slot, surface, &drawn);

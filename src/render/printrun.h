@@ -13,6 +13,7 @@
 #include <array>
 #include <atomic>
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace quirra {
@@ -40,7 +41,7 @@ public:
     /** @brief The widest city, state and code line, in twips. */
     static constexpr double WidestCityLine = 3500;
 
-    PrintRun(PieceModel &model, SpoolReader &reader);
+    PrintRun(const PieceModel &model, SpoolReader &reader);
 
     /**
      * @brief The whole run: the surface reset, the page set up, the document
@@ -106,7 +107,39 @@ public:
      */
     void setPageRange(std::pair<int, int> range) { m_pageRange = range; }
 
+    /**
+     * @brief Called as each page of the run gets its first record, with the
+     * page's number (from 1, also before the page range) and the record's
+     * offset in the spool (-1 for the spool's first record): a preview keeps
+     * these to draw any page again later on its own.
+     */
+    void setPageStartObserver(std::function<void(int page, qint64 spoolOffset)> observer)
+    {
+        m_pageStart = std::move(observer);
+    }
+
+    /**
+     * @brief Starts the next run at a page whose first record lies at
+     * spoolOffset (as the page start observer gave it) rather than at the
+     * spool's first record; with a page range of that page alone, the run
+     * draws just it. Page 1 (or an offset of -1) starts at the beginning.
+     */
+    void setStartPage(int page, qint64 spoolOffset) { m_start = {page, spoolOffset}; }
+
 private:
+    /** @brief The piece and its items with the printer's scale applied to their positions. */
+    struct ScaledLayout
+    {
+        Piece piece;
+        std::array<Item, ItemCount> items;
+    };
+
+    const Piece &piece() const { return m_scaled ? m_scaled->piece : m_model.piece; }
+    const Item &item(ItemId id) const
+    {
+        return m_scaled ? m_scaled->items[size_t(id)] : m_model.item(id);
+    }
+
     bool cancelRequested();
     void message(const QString &text);
 
@@ -114,7 +147,10 @@ private:
     bool m_cancelled = false;
     std::pair<int, int> m_pageRange{0, 0};
     std::function<void(const QString &text)> m_message;
-    PieceModel &m_model;
+    std::function<void(int page, qint64 spoolOffset)> m_pageStart;
+    std::pair<int, qint64> m_start{1, -1};
+    const PieceModel &m_model;
+    std::optional<ScaledLayout> m_scaled; ///< set while the page loop runs
     SpoolReader &m_reader;
     qint64 m_piecesDrawn = 0;
     RunReport m_report;

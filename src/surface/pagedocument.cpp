@@ -48,6 +48,7 @@ void PageEngine::Private::startDoc(PageEngine *q)
     pageLayout = wantedLayout();
     if (docIsPreview) {
         pages.clear();
+        dropSource();
         previewPage = 1;
         docOpen = true;
         beginPage();
@@ -150,7 +151,8 @@ void PageEngine::Private::printPreviewPage()
         qCWarning(lcSurface) << "a preview page cannot be printed while a document is open";
         return;
     }
-    if (previewPage < 1 || previewPage > int(pages.size()))
+    const RecordedPage *shown = previewPageAt(previewPage);
+    if (!shown)
         return;
     error = NoError;
     if (!target) {
@@ -158,7 +160,7 @@ void PageEngine::Private::printPreviewPage()
         error = NoOutput;
         return;
     }
-    const RecordedPage &page = pages[size_t(previewPage - 1)];
+    const RecordedPage page = *shown; // drawing it again may not push it out of the cache
     QPagedPaintDevice *out = target->beginDocument(page.layout);
     if (!out) {
         error = CannotOpen;
@@ -175,6 +177,47 @@ void PageEngine::Private::printPreviewPage()
     playPicture(p, page.picture());
     p.end();
     target->endDocument(false);
+}
+
+int PageEngine::Private::previewPageCount() const
+{
+    return std::max(int(pages.size()) + (docOpen && docIsPreview ? 1 : 0), sourcePages);
+}
+
+void PageEngine::Private::dropSource()
+{
+    source = nullptr;
+    sourcePages = 0;
+    drawn.clear();
+}
+
+const RecordedPage *PageEngine::Private::previewPageAt(int page)
+{
+    if (page >= 1 && page <= int(pages.size()))
+        return &pages[size_t(page - 1)];
+    if (page < 1 || page > sourcePages || !source)
+        return nullptr;
+    const auto kept = std::find_if(drawn.begin(), drawn.end(),
+                                   [page](const auto &entry) { return entry.first == page; });
+    if (kept != drawn.end()) {
+        std::rotate(drawn.begin(), kept, kept + 1);
+        return &drawn.front().second;
+    }
+    if (!scratch)
+        scratch = std::make_unique<PageEngine>();
+    scratch->setPreview(true);
+    scratch->setPrintableOrigin(sourceOrigin.x(), sourceOrigin.y());
+    source(page, *scratch);
+    std::vector<RecordedPage> &made = scratch->d->pages;
+    if (made.empty() || scratch->d->docOpen) {
+        qCWarning(lcSurface) << "preview page" << page << "could not be drawn";
+        return nullptr;
+    }
+    drawn.emplace_front(page, std::move(made.front()));
+    made.clear();
+    if (drawn.size() > drawnPagesKept)
+        drawn.pop_back();
+    return &drawn.front().second;
 }
 
 void PageEngine::Private::drawMarginLine(const QString &line, bool top)

@@ -65,18 +65,20 @@ int PageEngine::printableTop() const
 
 QSizeF PageEngine::pageSizeTwips(int page) const
 {
-    if (page < 1 || page > int(d->pages.size()))
-        return QSizeF();
-    return paperTwips(d->pages[size_t(page - 1)].layout);
+    if (page >= 1 && page <= int(d->pages.size()))
+        return paperTwips(d->pages[size_t(page - 1)].layout);
+    const RecordedPage *drawn = d->previewPageAt(page);
+    return drawn ? paperTwips(drawn->layout) : QSizeF();
 }
 
 void PageEngine::paintPage(QPainter &painter, int page, double dotsPerInch) const
 {
-    if (page < 1 || page > int(d->pages.size()) || !(dotsPerInch > 0))
+    const RecordedPage *shown = dotsPerInch > 0 ? d->previewPageAt(page) : nullptr;
+    if (!shown)
         return;
     painter.save();
     painter.scale(dotsPerInch / twipsPerInch, dotsPerInch / twipsPerInch);
-    playPicture(painter, d->pages[size_t(page - 1)].picture());
+    playPicture(painter, shown->picture());
     painter.restore();
 }
 
@@ -385,13 +387,13 @@ QRect PageEngine::paperRect() const
 int PageEngine::pageCount() const
 {
     if (d->preview)
-        return int(d->pages.size()) + (d->docOpen && d->docIsPreview ? 1 : 0);
+        return d->previewPageCount();
     return d->docIsPreview ? 0 : d->pagesInDoc;
 }
 
 void PageEngine::setPreviewPage(int page)
 {
-    const int last = std::max(1, int(d->pages.size()));
+    const int last = std::max(1, std::max(int(d->pages.size()), d->sourcePages));
     const int shown = std::clamp(page, 1, last);
     if (shown != d->previewPage) {
         d->previewPage = shown;
@@ -423,6 +425,25 @@ void PageEngine::previewChanged() {}
 void PageEngine::setPageObserver(std::function<void(int pagesBegun)> observer)
 {
     d->pageObserver = std::move(observer);
+}
+
+std::function<void(int pagesBegun)> PageEngine::pageObserver() const
+{
+    return d->pageObserver;
+}
+
+void PageEngine::setPageSource(int count, PageSource source)
+{
+    const bool first = !d->source;
+    if (!source || count < 1) {
+        d->dropSource();
+    } else {
+        d->source = std::move(source);
+        d->sourcePages = count;
+        d->sourceOrigin = QPoint(d->originLeft, d->originTop);
+    }
+    if (first)
+        previewChanged();
 }
 
 } // namespace quirra

@@ -21,7 +21,8 @@ class PrintTarget;
  *
  * In preview a document's pages are recorded, each as a picture in twips
  * with the paper it was begun on, and any of them can be painted later at
- * any resolution. In print each page is painted straight onto the print
+ * any resolution; a long preview records its first page and has the rest
+ * drawn when shown (setPageSource()). In print each page is painted straight onto the print
  * target's device and nothing of it is kept, so a run of any length prints
  * in the same memory.
  *
@@ -73,6 +74,21 @@ public:
      * exist or is still being recorded.
      */
     void paintPage(QPainter &painter, int page, double dotsPerInch) const;
+
+    /**
+     * @brief Draws one preview page on demand: it runs a document of that
+     * page alone (StartDoc to EndDoc) on the surface it is given, whose first
+     * page becomes the page.
+     */
+    using PageSource = std::function<void(int page, Surface &surface)>;
+
+    /**
+     * @brief Lets the preview have count pages while only those recorded so
+     * far are kept: any other page is drawn by source when it is painted or
+     * printed, and the last few drawn are kept for paging back and forth.
+     * The next preview document drops the source.
+     */
+    void setPageSource(int count, PageSource source);
 
     /**
      * @brief Width, in twips, of the widest line of text in the current
@@ -139,6 +155,8 @@ public:
      * while a long run keeps the thread busy. Empty: nobody is told.
      */
     void setPageObserver(std::function<void(int pagesBegun)> observer);
+    /** @brief The observer setPageObserver() gave; empty when none. */
+    std::function<void(int pagesBegun)> pageObserver() const;
 
 protected:
     /**

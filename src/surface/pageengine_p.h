@@ -10,7 +10,9 @@
 #include <QPainter>
 #include <QPicture>
 
+#include <deque>
 #include <functional>
+#include <memory>
 #include <vector>
 
 class QPagedPaintDevice;
@@ -27,6 +29,8 @@ inline constexpr double maxFontPoints = 1000.0;
 inline constexpr int minZoom = 10;
 inline constexpr int maxZoom = 1000;
 inline constexpr int maxLineSpacing = 1000;
+// Pages a page source drew, kept for paging back and forth.
+inline constexpr size_t drawnPagesKept = 4;
 
 // NotPrinted: the pages were painted but the output refused them (a printer
 // queue rejected or aborted the job).
@@ -76,6 +80,9 @@ public:
     void drawMarginLine(const QString &text, bool top);
     void drawFrame(const QRectF &box);
     QSizeF printableSize() const;
+    int previewPageCount() const;
+    const pageengine::RecordedPage *previewPageAt(int page);
+    void dropSource();
 
     std::function<void(int)> pageObserver;
 
@@ -120,6 +127,12 @@ public:
 
     // the preview
     std::vector<pageengine::RecordedPage> pages;
+    // pages past those recorded, drawn on demand
+    PageSource source;
+    int sourcePages = 0;
+    QPoint sourceOrigin; // the printable origin when the source was given
+    std::deque<std::pair<int, pageengine::RecordedPage>> drawn; // most recent first
+    std::unique_ptr<PageEngine> scratch;                        // where the source draws
     int previewPage = 1;
     int zoom = 100;
 };
