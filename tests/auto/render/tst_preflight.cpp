@@ -7,6 +7,7 @@
 
 #include "catalogue/pieceloader.h"
 #include "render/pdfexport.h"
+#include "render/previewrun.h"
 #include "render/printrun.h"
 #include "render/runreport.h"
 #include "surface/measuringsurface.h"
@@ -91,6 +92,8 @@ private Q_SLOTS:
     void notes_data();
     void notes();
     void longRunKeepsFewNotes();
+    void previewDrawsEachPageAsTheWholeRun_data();
+    void previewDrawsEachPageAsTheWholeRun();
     void overflowStaysOnItsPiece_data();
     void overflowStaysOnItsPiece();
 };
@@ -215,6 +218,73 @@ void TestPreflight::longRunKeepsFewNotes()
     QCOMPARE(int(report.notes().size()), RunReport::ExamplesPerKind);
     QCOMPARE(report.notes().back().record, qint64(RunReport::ExamplesPerKind));
     QCOMPARE(surface.pageCount(), 7);
+}
+
+void TestPreflight::previewDrawsEachPageAsTheWholeRun_data()
+{
+    QTest::addColumn<QString>("piece");
+    QTest::addColumn<int>("rows");    // 0: as the piece has them
+    QTest::addColumn<int>("records"); // the last one overflows its piece
+    QTest::addColumn<int>("firstSlot");
+    QTest::addColumn<QPoint>("range");
+    QTest::addColumn<int>("pages");
+    QTest::newRow("labels-from-slot-25") << Labels << 0 << 40 << 25 << QPoint() << 3;
+    QTest::newRow("envelopes-one-a-page") << Envelope << 0 << 3 << 1 << QPoint() << 3;
+    QTest::newRow("continuous-one-row-a-page") << Labels << 1 << 7 << 1 << QPoint() << 3;
+    QTest::newRow("pages-2-to-3-of-3") << Labels << 0 << 70 << 1 << QPoint(2, 3) << 2;
+}
+
+void TestPreflight::previewDrawsEachPageAsTheWholeRun()
+{
+    QFETCH(QString, piece);
+    QFETCH(int, rows);
+    QFETCH(int, records);
+    QFETCH(int, firstSlot);
+    QFETCH(QPoint, range);
+    QFETCH(int, pages);
+    PieceModel &model = PieceModel::shared();
+    QVERIFY(LoadPieceByName(piece, model));
+    if (rows > 0)
+        model.piece.PieceNumDown = qint16(rows);
+    model.PieceStartSlot = short(firstSlot);
+    model.PieceOutlines = true;
+    model.PrinterScaleX = 105;
+    model.PrinterScaleY = 95;
+    fixture::newSpool();
+    QStringList feed;
+    for (int i = 1; i < records; ++i)
+        feed.append(person(QStringLiteral("Eve%1").arg(i), "Ray").join(';'));
+    feed.append(person("Cy", QStringLiteral("Longname ").repeated(70)).join(';'));
+    fixture::feed(feed);
+
+    PageEngine whole, shown;
+    for (PageEngine *engine : {&whole, &shown})
+        engine->setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
+                                   inchesToTwips(model.piece.PrinterTop));
+    PrintRun run(model, SharedSpool::instance().reader());
+    run.setPageRange({range.x(), range.y()});
+    run.RunPrintJob(whole);
+    PreviewRun preview(model, SharedSpool::instance().spoolPath());
+    preview.setPageRange({range.x(), range.y()});
+    preview.run(shown);
+
+    QCOMPARE(whole.pageCount(), pages);
+    QCOMPARE(shown.pageCount(), pages);
+    QVERIFY(!run.report().isEmpty());
+    QCOMPARE(preview.report().recordsNoted(), run.report().recordsNoted());
+    QCOMPARE(preview.report().notes().size(), run.report().notes().size());
+    // Paged back and forth, the last page twice: each as the whole run drew it.
+    for (int page : {pages, 1, 2, pages}) {
+        std::array<QImage, 2> images;
+        for (int i = 0; i < 2; ++i) {
+            const PageEngine &engine = i == 0 ? whole : shown;
+            images[i] = QImage((engine.pageSizeTwips(page) / 40).toSize(), QImage::Format_RGB32);
+            images[i].fill(Qt::white);
+            QPainter painter(&images[i]);
+            engine.paintPage(painter, page, 36);
+        }
+        QVERIFY2(!images[1].isNull() && images[0] == images[1], qPrintable(QString::number(page)));
+    }
 }
 
 void TestPreflight::overflowStaysOnItsPiece_data()

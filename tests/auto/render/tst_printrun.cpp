@@ -194,7 +194,9 @@ void TestPrintRun::pagination()
     PrintRun run(PieceModel::shared(), SharedSpool::instance().reader());
     std::atomic_bool cancel = false;
     int drawn = 0;
+    bool modelWritten = false; // the scale is applied to a copy, never to the shared model
     surface.onCall = [&](const QString &call) {
+        modelWritten = modelWritten || PieceModel::shared().piece.PieceMarginLeft != 0.5f;
         if (call.startsWith(QLatin1String("box [")) && ++drawn == cancelAfter)
             cancel = true;
     };
@@ -228,6 +230,7 @@ void TestPrintRun::pagination()
         }
     }
     QCOMPARE(boxes, lastPageBoxes);
+    QVERIFY(!modelWritten);
 }
 
 void TestPrintRun::pageRangeDrawsItsPagesOnly()
