@@ -7,7 +7,8 @@
 // as a host does, and the first, a middle and the last page are shown and
 // painted. Prints the time to spool, the time until the first page is on
 // screen, until PreviewNow returns, to show the middle and the last page,
-// and the process's peak memory.
+// and the process's peak memory, and whether they meet their targets (exit
+// status 1 when not).
 //
 //   preview_bench [N]        default N: 100000
 #include "benchdata.h"
@@ -136,7 +137,15 @@ int main(int argc, char **argv)
                 "%.2fs, middle and last %.3fs, cpu %.2fs, peak %.1f MB\n",
                 static_cast<long long>(n), pages, spooled, first, laidOut, paging, cpuSeconds(),
                 peakMb());
+    // What a user may expect: the first page within a second, paging at
+    // once, and memory that hardly grows with the run.
+    const double peakLimit = n <= 100000 ? 100 : 150;
+    const bool met = first >= 0 && first < 1.0 && paging < 0.5 && peakMb() < peakLimit;
+    std::printf("targets (first page under 1 s, paging under 0.5 s, peak under %.0f MB): %s\n",
+                peakLimit, met ? "met" : "MISSED");
     const int expected = int((n + 29) / 30);
+    if (!met)
+        return 1;
     if (pages != expected || surface->previewPage() != pages) {
         std::fprintf(stderr, "preview_bench: %d pages, on page %d; %d pages expected\n", pages,
                      surface->previewPage(), expected);

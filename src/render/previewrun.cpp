@@ -7,6 +7,7 @@
 #include "render/logging_p.h"
 #include "render/printrun.h"
 #include "surface/measuringsurface.h"
+#include "surface/surface.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -43,9 +44,17 @@ public:
             return;
         m_spool.refresh();
         if (m_spool.size() != m_size || m_spool.lastModified() != m_modified) {
-            qCWarning(lcRender).noquote()
-                << "The spool" << m_spool.filePath()
-                << "changed after the preview was made: preview again to see its pages.";
+            // Records added or a new document begun: the pages laid out are
+            // gone. The page says so rather than show other records.
+            const QString text = QStringLiteral(
+                "The records of this preview changed after it was made. Preview again to see "
+                "its pages.");
+            qCWarning(lcRender).noquote() << m_spool.filePath() << text;
+            surface.setAction(SurfaceAction::StartDoc);
+            surface.setFontName(QStringLiteral("Arial"));
+            surface.setFontSize(14);
+            surface.textBox(text, 720, 720, 7200, 2880, true, false, false);
+            surface.setAction(SurfaceAction::EndDoc);
             return;
         }
         const int runPage = m_firstPage + page - 1;

@@ -25,8 +25,9 @@ class PageEngine;
  *
  * The pages look exactly as a run that draws every page: each is drawn by
  * the same print run, started at the page's first record. The preview reads
- * the spool with readers of its own; the spool must stay as it is while the
- * pages are shown (a new spool needs a new preview).
+ * the spool with readers of its own. Should the spool change while the
+ * pages are shown (records added, a new document begun), a page drawn after
+ * that says so instead of showing other records: a new preview shows them.
  */
 class QUIRRACONTROL_EXPORT PreviewRun
 {

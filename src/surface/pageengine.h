@@ -21,10 +21,10 @@ class PrintTarget;
  *
  * In preview a document's pages are recorded, each as a picture in twips
  * with the paper it was begun on, and any of them can be painted later at
- * any resolution; a long preview records its first page and has the rest
- * drawn when shown (setPageSource()). In print each page is painted straight onto the print
- * target's device and nothing of it is kept, so a run of any length prints
- * in the same memory.
+ * any resolution; a long preview records its first page and has the others
+ * drawn when shown (setPageSource()). In print each page is painted
+ * straight onto the print target's device and nothing of it is kept, so a
+ * run of any length prints in the same memory.
  *
  * Text is laid out in twips without looking at a device (see setFontSize()):
  * the preview, a PDF file and a printer break every line alike. The

@@ -37,8 +37,8 @@ inline constexpr size_t drawnPagesKept = 4;
 enum ErrorCode { NoError = 0, NoOutput = 1, CannotOpen = 2, NotPrinted = 3 };
 
 // A recorded page kept packed: a page of labels records some 16 KB of
-// drawing that packs to a fraction of it, and a long preview keeps every
-// page. It is unpacked each time it is painted.
+// drawing that packs to a fraction of it, and a preview without a page
+// source keeps every page. It is unpacked each time it is painted.
 struct RecordedPage
 {
     RecordedPage(const QPicture &recorded, const QPageLayout &paper)

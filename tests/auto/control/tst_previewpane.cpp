@@ -73,7 +73,7 @@ private Q_SLOTS:
 void TestPreviewPane::paging_data()
 {
     QTest::addColumn<int>("records");
-    QTest::addColumn<QStringList>("clicks");
+    QTest::addColumn<QStringList>("clicks"); // "feed": records added first
     QTest::addColumn<QString>("label");
     QTest::addColumn<QStringList>("enabled");
     QTest::addColumn<QString>("focus"); // empty: neither mc_prev nor mc_next
@@ -123,7 +123,7 @@ void TestPreviewPane::printPageOnShow_data()
 {
     QTest::addColumn<short>("startSlot");
     QTest::addColumn<PageRange>("pages");
-    QTest::addColumn<QStringList>("clicks");
+    QTest::addColumn<QStringList>("clicks"); // "feed": records added first
     QTest::addColumn<QStringList>("names"); // on the page printed
     // Only the first page is kept as drawn: the others come from their
     // records in the spool when shown.
@@ -134,6 +134,8 @@ void TestPreviewPane::printPageOnShow_data()
     QTest::newRow("pages-2-3-last")
         << short(1) << PageRange(2, 3) << QStringList{"mc_last", "mc_prev", "mc_next"}
         << QStringList{"Name7"};
+    QTest::newRow("records-added-page-says-preview-again")
+        << short(1) << PageRange(0, 0) << QStringList{"feed", "mc_last"} << QStringList{"Preview"};
 }
 
 void TestPreviewPane::printPageOnShow()
@@ -150,15 +152,19 @@ void TestPreviewPane::printPageOnShow()
     pane.show();
     preview(pane, 7, startSlot, pages);
     pane.surface()->printer()->setOutputFileName(pdf);
-    for (const QString &name : clicks)
-        click(pane, name);
+    for (const QString &name : clicks) {
+        if (name == "feed")
+            fixture::feed(fixture::numbered(3));
+        else
+            click(pane, name);
+    }
     QWidget *const focused = pane.focusWidget();
     click(pane, "mc_p_pg");
 
     QCOMPARE(pdfprobe::pageSizes(pdf).size(), 1);
     QStringList printed;
     for (const pdfprobe::Word &w : pdfprobe::words(pdf))
-        if (w.text.startsWith("Name"))
+        if (w.text.startsWith("Name") || w.text == "Preview")
             printed.append(w.text);
     QCOMPARE(printed, names);
     QCOMPARE(pane.focusWidget(), focused);
