@@ -96,6 +96,7 @@ void PreviewRun::run(PageEngine &engine)
     const int fromPage = m_pageRange.first;
     const int firstPage = std::max(1, fromPage);
 
+    bool firstFailed = false;
     // The first page, drawn on the engine and kept there. Without a range an
     // empty spool still shows its one empty page.
     {
@@ -108,10 +109,14 @@ void PreviewRun::run(PageEngine &engine)
         first.setPageRange({fromPage, firstPage});
         try {
             first.RunPrintJob(engine);
-        } catch (...) {
+        } catch (const Error &) {
             m_report = first.report();
             m_cancelled = first.cancelled();
-            throw;
+            // A range the records do not reach: the run of the whole range
+            // below says so in its own words.
+            if (fromPage < 1)
+                throw;
+            firstFailed = true;
         }
         if (first.cancelled()) {
             m_report = first.report();
@@ -119,7 +124,7 @@ void PreviewRun::run(PageEngine &engine)
             return;
         }
     }
-    if (m_progress)
+    if (m_progress && !firstFailed)
         m_progress(engine.pageCount());
 
     // The whole run laid out without drawing: every record checked, every
@@ -139,7 +144,7 @@ void PreviewRun::run(PageEngine &engine)
         if (page < firstPage)
             return;
         index->add(spoolOffset);
-        if (index->pages() > 1) {
+        if (index->pages() > 1 && !firstFailed) {
             engine.setPageSource(index->pages(), source);
             if (m_progress)
                 m_progress(index->pages());
