@@ -133,7 +133,7 @@ int main(int argc, char **argv)
     surface->viewport()->grab();
     const double paging = clock.nsecsElapsed() / 1e9;
 
-    std::printf("preview %lld labels, %d pages: spool %.2fs, first page %.2fs, all laid out "
+    std::printf("preview %lld labels, %d pages: spool %.2fs, first page %.3fs, all laid out "
                 "%.2fs, middle and last %.3fs, cpu %.2fs, peak %.1f MB\n",
                 static_cast<long long>(n), pages, spooled, first, laidOut, paging, cpuSeconds(),
                 peakMb());
