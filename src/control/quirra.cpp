@@ -201,6 +201,14 @@ void Quirra::EndDoc()
 
 void Quirra::PreviewNow()
 {
+    // A host's events are let through while the pages are laid out: a second
+    // preview then would mix two runs' pages.
+    if (m_previewing) {
+        throw Error(QStringLiteral("A preview is still being laid out: let it finish or cancel "
+                                   "it (CancelRun) before previewing again."));
+    }
+    m_previewing = true;
+    const auto laidOut = qScopeGuard([this] { m_previewing = false; });
     if (m_writer->isSpoolOpen())
         EndDoc();
     PrintSurface *printSurface = surface();

@@ -124,7 +124,9 @@ public:
     /**
      * @brief Closes the spool if open, lays every spooled recipient out in
      * the preview pane and shows page 1.
-     * @throws quirra::Error when the piece cannot be laid out.
+     * @throws quirra::Error when the piece cannot be laid out, or when called
+     * while a preview is still laying its pages out (from the surface's page
+     * observer).
      */
     Q_INVOKABLE void PreviewNow();
     /**
@@ -296,4 +298,5 @@ private:
     std::atomic_bool m_cancel{false};
     std::pair<int, int> m_pages{0, 0};
     bool m_lastRunCancelled = false;
+    bool m_previewing = false; ///< PreviewNow is laying pages out (events may call in)
 };

@@ -376,8 +376,19 @@ private Q_SLOTS:
             QVERIFY(it->box.top() > control.AddressTop() * 72 - 1.0);
             QVERIFY(it->box.top() < (control.AddressTop() + control.AddressHeight()) * 72);
         }
-        // A preview after the print reads the spool again from its first record.
+        // A preview after the print reads the spool again from its first
+        // record; one asked for while it lays its pages out is refused.
+        bool refused = false;
+        control.surface()->setPageObserver([&](int) {
+            try {
+                control.PreviewNow();
+            } catch (const quirra::Error &) {
+                refused = true;
+            }
+        });
         control.PreviewNow();
+        control.surface()->setPageObserver({});
+        QVERIFY(refused);
         QCOMPARE(control.surface()->pageCount(), 3);
         QCOMPARE(control.findChild<QLabel *>(QStringLiteral("mc_pg_lbl"))->text(),
                  QStringLiteral("Page 1 of 3"));
