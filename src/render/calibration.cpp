@@ -19,6 +19,9 @@ constexpr QRgb Grey = 0xff808080;
 constexpr int Hair = 6;       // twips: a tick's or a cross's line
 constexpr int CrossArm = 180; // twips, 1/8 in
 constexpr double TwipsPerMm = 1440.0 / 25.4;
+// twips: the square where the two rulers meet carries no numbers, so that
+// the first centimetre of one ruler does not stand on the other's ticks
+constexpr int Corner = 1000;
 
 int twips(double inches)
 {
@@ -35,6 +38,11 @@ void number(Surface &surface, const QString &text, int left, int top)
 void ruler(Surface &surface, const QRect &paper, bool across)
 {
     const int length = across ? paper.width() : paper.height();
+    // A number stands only where it fits on the paper whole: along the top
+    // it runs to the right of its tick, down the side it straddles it.
+    const auto numbered = [&](int at) {
+        return at > Corner && at + (across ? 400 : 200) <= length;
+    };
     const auto tick = [&](int at, int offset, int size) {
         const QRect r = across ? QRect(paper.left() + at, paper.top() + offset, Hair, size)
                                : QRect(paper.left() + offset, paper.top() + at, size, Hair);
@@ -43,7 +51,7 @@ void ruler(Surface &surface, const QRect &paper, bool across)
     for (int n = 0; n * 90 <= length; ++n) { // 90 twips: 1/16 in
         const int size = n % 16 == 0 ? 240 : n % 8 == 0 ? 170 : n % 4 == 0 ? 120 : n % 2 ? 60 : 90;
         tick(n * 90, 0, size);
-        if (n % 16 == 0 && n > 0)
+        if (n % 16 == 0 && numbered(n * 90))
             number(surface, QString::number(n / 16),
                    across ? paper.left() + n * 90 + 30 : paper.left() + 250,
                    across ? paper.top() + 250 : paper.top() + n * 90 - 80);
@@ -52,7 +60,7 @@ void ruler(Surface &surface, const QRect &paper, bool across)
         const int at = int(std::lround(mm * TwipsPerMm));
         const int size = mm % 10 == 0 ? 170 : mm % 5 == 0 ? 110 : 60;
         tick(at, 720 - size, size); // the millimetres hang from half an inch in
-        if (mm % 10 == 0 && mm > 0)
+        if (mm % 10 == 0 && numbered(at))
             number(surface, QString::number(mm / 10) + QStringLiteral(" cm"),
                    across ? paper.left() + at + 30 : paper.left() + 760,
                    across ? paper.top() + 480 : paper.top() + at - 80);
