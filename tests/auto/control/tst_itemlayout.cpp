@@ -30,7 +30,7 @@ QStringList applyOrder()
                        "PieceHeight",  "PieceWidth",       "PiecePitchHorz", "PiecePitchVert",
                        "PrinterLeft",  "PrinterTop"} +
            itemNames({"Address", "Return", "Message1", "Message2", "Stamp"}) +
-           QStringList{"PageWidth", "PageHeight"};
+           QStringList{"PageWidth", "PageHeight", "PrinterScaleX", "PrinterScaleY"};
 }
 
 QString text(const ItemLayout &page, const char *label)
@@ -58,6 +58,8 @@ private Q_SLOTS:
     void doubleClickEditsAndMarksChanged();
     void tooLargeAPieceIsRefused();
     void sheetAppliesAndClearsTheMark();
+    void calibrationFields_data();
+    void calibrationFields();
 };
 
 void TestItemLayout::applyWritesInOrder_data()
@@ -287,6 +289,58 @@ void TestItemLayout::sheetAppliesAndClearsTheMark()
     QVERIFY(!driver.watchdogFired());
     QCOMPARE(applied.size(), 1);
     QCOMPARE(control.PieceName(), QStringLiteral("Size 10 - Envelope"));
+}
+
+void TestItemLayout::calibrationFields_data()
+{
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("property");
+    QTest::addColumn<float>("applied");
+    QTest::addColumn<QString>("note"); // empty: the value is taken
+    QTest::newRow("left-offset") << "txtPrinterLeft"
+                                 << "0.125"
+                                 << "PrinterLeft" << 0.125f << "";
+    QTest::newRow("vertical-scale") << "txtPrinterScaleY"
+                                    << "101.5"
+                                    << "PrinterScaleY" << 101.5f << "";
+    QTest::newRow("scale-above-the-range")
+        << "txtPrinterScaleX"
+        << "120"
+        << "PrinterScaleX" << 100.f << "Horizontal scale goes from 90 to 110 %";
+    QTest::newRow("offset-not-a-number") << "txtPrinterTop"
+                                         << "1/4"
+                                         << "PrinterTop" << 0.25f << "goes from 0 to 1 in";
+}
+
+void TestItemLayout::calibrationFields()
+{
+    QFETCH(QString, box);
+    QFETCH(QString, typed);
+    QFETCH(QString, property);
+    QFETCH(float, applied);
+    QFETCH(QString, note);
+    Quirra control;
+    ItemLayout page;
+    page.setSelectedControls({&control});
+    page.show();
+    auto *edit = page.findChild<QLineEdit *>(box);
+    QVERIFY(edit);
+    edit->selectAll();
+    QTest::keyClicks(edit, typed);
+    QTest::keyClick(edit, Qt::Key_Return);
+
+    QVERIFY2(text(page, "lblCalibrationNote").contains(note),
+             qPrintable(text(page, "lblCalibrationNote")));
+    QCOMPARE(text(page, "lblCalibrationNote").isEmpty(), note.isEmpty());
+    QCOMPARE(edit->text().toFloat(), applied); // a refused value is replaced by the old one
+    QCOMPARE(page.isChanged(), note.isEmpty());
+    if (note.isEmpty()) // nothing reaches the control before Apply
+        QVERIFY(control.property(qPrintable(property)).toFloat() != applied);
+    QSignalSpy spy(&control, &Quirra::propertyChanged);
+    page.applyChanges();
+    QCOMPARE(control.property(qPrintable(property)).toFloat(), applied);
+    QVERIFY(emitted(spy).contains(property));
 }
 
 QTEST_MAIN(TestItemLayout)
