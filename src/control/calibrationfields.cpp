@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "control/calibrationfields.h"
 
+#include "render/calibration.h"
+
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,17 +25,18 @@ struct Field
     float highest;
 };
 
-// An offset beyond an inch is no printer's margin but a misread sheet; the
-// stretch is what a print run accepts.
+// The ranges a calibration gives.
 constexpr Field Fields[4] = {
     {"PrinterLeft", "txtPrinterLeft", QT_TRANSLATE_NOOP("quirra::CalibrationFields", "Left offset"),
-     "in", 0.f, 1.f},
+     "in", 0.f, PrinterOffsetMax},
     {"PrinterTop", "txtPrinterTop", QT_TRANSLATE_NOOP("quirra::CalibrationFields", "Top offset"),
-     "in", 0.f, 1.f},
+     "in", 0.f, PrinterOffsetMax},
     {"PrinterScaleX", "txtPrinterScaleX",
-     QT_TRANSLATE_NOOP("quirra::CalibrationFields", "Horizontal scale"), "%", 90.f, 110.f},
+     QT_TRANSLATE_NOOP("quirra::CalibrationFields", "Horizontal scale"), "%", PrinterScaleMin,
+     PrinterScaleMax},
     {"PrinterScaleY", "txtPrinterScaleY",
-     QT_TRANSLATE_NOOP("quirra::CalibrationFields", "Vertical scale"), "%", 90.f, 110.f},
+     QT_TRANSLATE_NOOP("quirra::CalibrationFields", "Vertical scale"), "%", PrinterScaleMin,
+     PrinterScaleMax},
 };
 
 float valueOf(const PieceModel &model, int index)

@@ -70,8 +70,8 @@ void ruler(Surface &surface, const QRect &paper, bool across)
 Piece scaledPiece(const PieceModel &model)
 {
     Piece piece = model.piece;
-    const float x = std::clamp(model.PrinterScaleX, 90.f, 110.f) / 100.f;
-    const float y = std::clamp(model.PrinterScaleY, 90.f, 110.f) / 100.f;
+    const float x = std::clamp(model.PrinterScaleX, PrinterScaleMin, PrinterScaleMax) / 100.f;
+    const float y = std::clamp(model.PrinterScaleY, PrinterScaleMin, PrinterScaleMax) / 100.f;
     piece.PieceMarginLeft *= x;
     piece.PiecePitchHorz *= x;
     piece.PieceMarginTop *= y;
@@ -84,7 +84,7 @@ Piece scaledPiece(const PieceModel &model)
 void solve(double x1, double x2, double e1, double e2, float &scale, float &offset,
            const char *axis)
 {
-    const double s = std::clamp(scale, 90.f, 110.f) / 100.0;
+    const double s = std::clamp(scale, PrinterScaleMin, PrinterScaleMax) / 100.0;
     double k = 1;
     if (x2 - x1 > 1e-6)
         k = 1 + (e2 - e1) / (x2 - x1);
@@ -93,14 +93,25 @@ void solve(double x1, double x2, double e1, double e2, float &scale, float &offs
                                    "the same one: give the same reading twice")
                         .arg(QLatin1String(axis)));
     const double newScale = 100.0 * s / k;
-    if (newScale < 90 || newScale > 110)
+    if (newScale < PrinterScaleMin || newScale > PrinterScaleMax)
         throw Error(QStringLiteral("the reading asks for a stretch %1 of %2 %; the scale goes from "
                                    "90 to 110 %: check the reading (inches, right and down "
                                    "positive)")
                         .arg(QLatin1String(axis))
                         .arg(newScale, 0, 'f', 1));
     const double a = k / s;
-    offset = float(offset + (x1 + e1 - k * x1) / a);
+    const double newOffset = offset + (x1 + e1 - k * x1) / a;
+    // The offsets are the strip the printer cannot reach: never less than
+    // nothing, never more than a margin.
+    if (newOffset < 0 || newOffset > PrinterOffsetMax)
+        throw Error(
+            QStringLiteral("the reading puts %1 at %2 in; it goes from 0 to %3 in: check "
+                           "the reading (inches, right and down positive) and the "
+                           "present %1")
+                .arg(QLatin1String(qstrcmp(axis, "across") == 0 ? "PrinterLeft" : "PrinterTop"))
+                .arg(newOffset, 0, 'f', 3)
+                .arg(double(PrinterOffsetMax)));
+    offset = float(newOffset);
     scale = float(newScale);
 }
 
