@@ -69,7 +69,7 @@ CalibrationFields::CalibrationFields(QWidget *parent) : QGroupBox(tr("Printer ca
         auto *box = new QLineEdit(this);
         box->setObjectName(QLatin1String(field.box));
         box->setMaximumWidth(box->fontMetrics().horizontalAdvance(u'0') * 9);
-        box->setToolTip(tr("%1, from %2 to %3 %4; printed as %5")
+        box->setToolTip(tr("%1, from %2 to %3 %4 (the property %5)")
                             .arg(tr(field.caption), shown(field.lowest), shown(field.highest),
                                  QLatin1String(field.unit), QLatin1String(field.property)));
         auto *caption =
