@@ -38,6 +38,10 @@ private Q_SLOTS:
                                  << "Piece Selection"
                                  << "Pr All"
                                  << "Cancel";
+        QTest::newRow("german") << QLocale(QLocale::German, QLocale::Germany) << true
+                                << "Vorlagenauswahl"
+                                << "Dr. alle"
+                                << "Abbrechen";
     }
     void textsFollowTheLocale()
     {
