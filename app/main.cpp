@@ -148,6 +148,7 @@ RecordFeed::Progress feedProgress(ProgressBar *bar, const RecordFeed &feed)
     const qint64 size = feed.sourceSize();
     return [bar, size](qint64 records, qint64 bytes) {
         const double fraction = size > 0 ? double(bytes) / double(size) : -1;
+        //: The progress bar's stage while the CSV file is read
         bar->update(Cli::tr("reading"), fraction, Cli::tr("%1 records").arg(records));
         return true;
     };
@@ -308,6 +309,7 @@ int runPrint(const QStringList &arguments)
         // The run keeps this thread busy; the surface says when it begins a page.
         control.surface()->setPageObserver([&](int page) {
             const double fraction = pagesExpected > 0 ? double(page) / double(pagesExpected) : 1.0;
+            //: The progress bar's stage while the pages are printed
             bar->update(Cli::tr("printing"), qMin(fraction, 1.0), pageDetail(page, pagesExpected));
         });
     }

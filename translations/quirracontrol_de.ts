@@ -187,7 +187,8 @@ Run &apos;quirra %1 --help&apos; for its options.</source>
     </message>
     <message>
         <source>reading</source>
-        <translation>lesen</translation>
+        <extracomment>The progress bar&apos;s stage while the CSV file is read</extracomment>
+        <translation>Lesen</translation>
     </message>
     <message>
         <source>%1 records</source>
@@ -235,7 +236,8 @@ Run &apos;quirra %1 --help&apos; for its options.</source>
     </message>
     <message>
         <source>printing</source>
-        <translation>drucken</translation>
+        <extracomment>The progress bar&apos;s stage while the pages are printed</extracomment>
+        <translation>Drucken</translation>
     </message>
     <message>
         <source>quirra print: interrupted; nothing was printed</source>
@@ -1142,6 +1144,7 @@ Der Umschlag- und Etikettenkatalog wurde zusammengetragen aus einer offenen Vorl
     </message>
     <message>
         <source>Default</source>
+        <extracomment>Menu command: puts every item back where the piece&apos;s default layout has it</extracomment>
         <translation>Standard</translation>
     </message>
     <message>

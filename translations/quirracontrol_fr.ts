@@ -207,6 +207,7 @@ Run &apos;quirra %1 --help&apos; for its options.</source>
     </message>
     <message>
         <source>reading</source>
+        <extracomment>The progress bar&apos;s stage while the CSV file is read</extracomment>
         <translation>lecture</translation>
     </message>
     <message>
@@ -255,6 +256,7 @@ Run &apos;quirra %1 --help&apos; for its options.</source>
     </message>
     <message>
         <source>printing</source>
+        <extracomment>The progress bar&apos;s stage while the pages are printed</extracomment>
         <translation>impression</translation>
     </message>
     <message>
@@ -1142,6 +1144,7 @@ Le catalogue d&apos;enveloppes et d&apos;étiquettes a été constitué à parti
     </message>
     <message>
         <source>Default</source>
+        <extracomment>Menu command: puts every item back where the piece&apos;s default layout has it</extracomment>
         <translation>Par défaut</translation>
     </message>
     <message>
