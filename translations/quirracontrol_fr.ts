@@ -1035,6 +1035,38 @@ Le catalogue d&apos;enveloppes et d&apos;étiquettes a été constitué à parti
         <source>centimeters</source>
         <translation>centimètres</translation>
     </message>
+    <message>
+        <source>Letter (8 ½ x 11 in)</source>
+        <translation>Lettre US (8 ½ x 11 po)</translation>
+    </message>
+    <message>
+        <source>Letter landscape (11 x 8 ½ in)</source>
+        <translation>Lettre US paysage (11 x 8 ½ po)</translation>
+    </message>
+    <message>
+        <source>A4 (21 x 29.7 cm)</source>
+        <translation>A4 (21 x 29,7 cm)</translation>
+    </message>
+    <message>
+        <source>A4 landscape (29.7 x 21 cm)</source>
+        <translation>A4 paysage (29,7 x 21 cm)</translation>
+    </message>
+    <message>
+        <source>A5 (14.8 x 21 cm)</source>
+        <translation>A5 (14,8 x 21 cm)</translation>
+    </message>
+    <message>
+        <source>A5 landscape (21 x 14.8 cm)</source>
+        <translation>A5 paysage (21 x 14,8 cm)</translation>
+    </message>
+    <message>
+        <source>B5 (18.2 x 25.7 cm)</source>
+        <translation>B5 (18,2 x 25,7 cm)</translation>
+    </message>
+    <message>
+        <source>Mini (4 ¼ x 5 in)</source>
+        <translation>Mini (4 ¼ x 5 po)</translation>
+    </message>
 </context>
 <context>
     <name>quirra::piece_layout_edit_form</name>
