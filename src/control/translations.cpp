@@ -14,19 +14,16 @@ namespace quirra {
 
 namespace {
 
+// The library's translator is a child of the application under this name,
+// loaded or empty: it marks the language chosen.
 const QLatin1String LibraryTranslator("quirra_translator");
-const QLatin1String QtTranslator("quirra_qt_translator");
 
-// A translator owned by the application, found again by its name.
-bool install(const QLocale &locale, const QString &file, const QString &folder, const QString &name)
+bool load(QTranslator *translator, const QLocale &locale, const QString &file,
+          const QString &folder)
 {
-    auto *translator = new QTranslator(QCoreApplication::instance());
-    if (!translator->load(locale, file, QStringLiteral("_"), folder) ||
-        !QCoreApplication::installTranslator(translator)) {
-        delete translator;
+    if (folder.isEmpty() || !translator->load(locale, file, QStringLiteral("_"), folder) ||
+        !QCoreApplication::installTranslator(translator))
         return false;
-    }
-    translator->setObjectName(name);
     qCDebug(lcControl) << "translation" << translator->filePath() << "installed";
     return true;
 }
@@ -38,19 +35,21 @@ bool InstallTranslations(const QLocale &locale)
     QCoreApplication *app = QCoreApplication::instance();
     if (!app)
         return false;
-    if (app->findChild<QTranslator *>(LibraryTranslator, Qt::FindDirectChildrenOnly))
-        return true;
-    const QString folder = TranslationsDirectory();
-    if (folder.isEmpty() ||
-        !install(locale, QStringLiteral("quirracontrol"), folder, LibraryTranslator))
+    if (const auto *chosen =
+            app->findChild<QTranslator *>(LibraryTranslator, Qt::FindDirectChildrenOnly))
+        return !chosen->isEmpty();
+    auto *library = new QTranslator(app);
+    library->setObjectName(LibraryTranslator);
+    if (!load(library, locale, QStringLiteral("quirracontrol"), TranslationsDirectory()))
         return false;
     // The standard buttons (Ok, Cancel in the message boxes and the print
-    // dialog) come from Qt's own translation; a host may have loaded it already.
+    // dialog) come from Qt's own translation, unless the host loaded it.
     const char *buttons = "QPlatformTheme";
-    if (!app->findChild<QTranslator *>(QtTranslator, Qt::FindDirectChildrenOnly) &&
-        QCoreApplication::translate(buttons, "Cancel") == QLatin1String("Cancel")) {
-        install(locale, QStringLiteral("qtbase"),
-                QLibraryInfo::path(QLibraryInfo::TranslationsPath), QtTranslator);
+    if (QCoreApplication::translate(buttons, "Cancel") == QLatin1String("Cancel")) {
+        auto *qt = new QTranslator(app);
+        if (!load(qt, locale, QStringLiteral("qtbase"),
+                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            delete qt;
     }
     return true;
 }
