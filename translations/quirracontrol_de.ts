@@ -220,11 +220,11 @@ Run &apos;quirra %1 --help&apos; for its options.</source>
     </message>
     <message>
         <source>quirra print: %1 (%2 cannot be written)</source>
-        <translation>quirra print: %1 (%2 kann nicht beschrieben werden)</translation>
+        <translation>quirra print: %1 (%2: Schreiben nicht möglich)</translation>
     </message>
     <message>
         <source>the printer </source>
-        <translation>der Drucker </translation>
+        <translation>Drucker </translation>
     </message>
     <message>
         <source>quirra print: %1; nothing was printed</source>
@@ -409,11 +409,11 @@ Run &apos;quirra %1 --help&apos; for its options.</source>
     </message>
     <message>
         <source>1 record needs a look:</source>
-        <translation>1 Datensatz braucht einen Blick:</translation>
+        <translation>1 Datensatz sollte nachgesehen werden:</translation>
     </message>
     <message>
         <source>%1 records need a look:</source>
-        <translation>%1 Datensätze brauchen einen Blick:</translation>
+        <translation>%1 Datensätze sollten nachgesehen werden:</translation>
     </message>
     <message>
         <source> (and 1 more record)</source>
@@ -425,7 +425,7 @@ Run &apos;quirra %1 --help&apos; for its options.</source>
     </message>
     <message>
         <source>Check every record first; when any needs a look (a city line cut or left out, text cut off, a piece off the page ...), say so and exit with status 3 without printing or writing anything.</source>
-        <translation>Zuerst jeden Datensatz prüfen; braucht einer einen Blick (Ortszeile gekürzt oder ausgelassen, Text abgeschnitten, ein Stück außerhalb der Seite ...), dies melden und mit Status 3 enden, ohne etwas zu drucken oder zu schreiben.</translation>
+        <translation>Zuerst jeden Datensatz prüfen; sollte einer nachgesehen werden (Ortszeile gekürzt oder ausgelassen, Text abgeschnitten, ein Stück außerhalb der Seite ...), dies melden und mit Status 3 enden, ohne etwas zu drucken oder zu schreiben.</translation>
     </message>
     <message>
         <source>quirra %1: nothing was printed (--strict); correct the records or the layout, or leave out --strict to print as it is</source>
@@ -433,7 +433,7 @@ Run &apos;quirra %1 --help&apos; for its options.</source>
     </message>
     <message>
         <source>Checks the addresses of a CSV file on the chosen piece as print would print them, and tells which records need a look; prints nothing. Exit status 0: all clean, 3: some records need a look.</source>
-        <translation>Prüft die Adressen einer CSV-Datei auf der gewählten Vorlage so, wie print sie drucken würde, und nennt die Datensätze, die einen Blick brauchen; druckt nichts. Exit-Status 0: alles in Ordnung, 3: einige Datensätze brauchen einen Blick.</translation>
+        <translation>Prüft die Adressen einer CSV-Datei auf der gewählten Vorlage so, wie print sie drucken würde, und nennt die Datensätze, die nachgesehen werden sollten; druckt nichts. Exit-Status 0: alles in Ordnung, 3: einige Datensätze sollten nachgesehen werden.</translation>
     </message>
     <message>
         <source>quirra check: %1 on &quot;%2&quot;: nothing to note</source>
@@ -813,7 +813,7 @@ Der Umschlag- und Etikettenkatalog wurde zusammengetragen aus einer offenen Vorl
     <name>quirra::PreviewWindow</name>
     <message>
         <source>Run</source>
-        <translation>Lauf</translation>
+        <translation>Druckserie</translation>
     </message>
     <message>
         <source>Save layout…</source>
@@ -885,11 +885,11 @@ Der Umschlag- und Etikettenkatalog wurde zusammengetragen aus einer offenen Vorl
     </message>
     <message>
         <source>%1 failed: %2</source>
-        <translation>%1 fehlgeschlagen: %2</translation>
+        <translation>%1 ist fehlgeschlagen: %2</translation>
     </message>
     <message>
         <source>Print the run</source>
-        <translation>Den Lauf drucken</translation>
+        <translation>Druckserie drucken</translation>
     </message>
     <message>
         <source>Printing</source>

@@ -813,7 +813,7 @@ Le catalogue d&apos;enveloppes et d&apos;étiquettes a été constitué à parti
     <name>quirra::PreviewWindow</name>
     <message>
         <source>Run</source>
-        <translation>Exécution</translation>
+        <translation>Série</translation>
     </message>
     <message>
         <source>Save layout…</source>
