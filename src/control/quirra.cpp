@@ -8,6 +8,7 @@
 #include "control/aboutbox.h"
 #include "control/layoutcopy.h"
 #include "control/logging_p.h"
+#include "control/translations.h"
 #include "dialogs/hostservices.h"
 #include "dialogs/piece_customization_form.h"
 #include "dialogs/piece_layout_edit_form.h"
@@ -39,6 +40,14 @@ using namespace quirra;
 
 namespace {
 
+// The pane is made before the constructor's body runs: the translation is in
+// place before the first text is.
+QWidget *translated(QWidget *parent)
+{
+    InstallTranslations();
+    return parent;
+}
+
 PieceModel &model()
 {
     return PieceModel::shared();
@@ -47,7 +56,8 @@ PieceModel &model()
 } // namespace
 
 Quirra::Quirra(QWidget *parent)
-    : QWidget(parent), m_pane(new PreviewPane(this)), m_report(std::make_unique<RunReport>())
+    : QWidget(translated(parent)), m_pane(new PreviewPane(this)),
+      m_report(std::make_unique<RunReport>())
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

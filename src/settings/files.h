@@ -44,6 +44,14 @@ QUIRRACONTROL_EXPORT QString SystemDirectory();
  */
 QUIRRACONTROL_EXPORT QString PaperCatalogueFile();
 
+/**
+ * @brief The folder of the library's compiled translations
+ * (quirracontrol_de.qm ...): share/quirracontrol/translations beside the
+ * library, as installed and as the build tree mirrors it; else the installed
+ * prefix compiled in; else empty (the texts stay English).
+ */
+QUIRRACONTROL_EXPORT QString TranslationsDirectory();
+
 /** @brief The path with "/" appended unless it already ends in one. */
 QUIRRACONTROL_EXPORT QString WithTrailingSlash(const QString &path);
 
