@@ -35,9 +35,9 @@ QString QuirraDesignerPlugin::whatsThis() const
 
 QString QuirraDesignerPlugin::includeFile() const
 {
-    // The installed package's include folder is on the host's path; the
-    // control's header sits in it under control/.
-    return QStringLiteral("control/quirra.h");
+    // The installed package's include folder is on the host's path, the
+    // control's headers in its QuirraControl/.
+    return QStringLiteral("QuirraControl/Quirra");
 }
 
 QIcon QuirraDesignerPlugin::icon() const

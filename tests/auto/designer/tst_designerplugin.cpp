@@ -116,7 +116,7 @@ void TestDesignerPlugin::widgetBoxOffersTheControl()
     QCOMPARE(m_plugin->group(), QStringLiteral("QuirraControl"));
     QVERIFY(!m_plugin->icon().pixmap(32).isNull());
     QVERIFY(m_plugin->domXml().contains(QLatin1String("class=\"Quirra\"")));
-    QVERIFY2(QFile::exists(QStringLiteral(QUIRRA_SOURCE_ROOT "/src/") + m_plugin->includeFile()),
+    QVERIFY2(QFile::exists(QStringLiteral(QUIRRA_PUBLIC_INCLUDE "/") + m_plugin->includeFile()),
              qPrintable(m_plugin->includeFile()));
     QWidget parent;
     QVERIFY(qobject_cast<Quirra *>(m_plugin->createWidget(&parent)));
