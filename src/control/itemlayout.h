@@ -4,8 +4,6 @@
 
 #include "control/layoutcopy.h"
 #include "model/item.h"
-#include "quirracontrol_export.h"
-
 #include <QList>
 #include <QPointer>
 #include <QString>
@@ -42,7 +40,7 @@ namespace quirra {
  * A click on a caption label picks that item; a double click opens the
  * layout editor and marks the page changed.
  */
-class QUIRRACONTROL_EXPORT ItemLayout : public QWidget
+class ItemLayout : public QWidget
 {
     Q_OBJECT
 

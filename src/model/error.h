@@ -33,6 +33,6 @@ public:
  * @param what names the quantity in the error message ("pieces per page")
  * @throws Error "Overflow" when the value does not fit in -32768..32767.
  */
-QUIRRACONTROL_EXPORT qint16 toInt16Checked(qint64 value, const char *what);
+qint16 toInt16Checked(qint64 value, const char *what);
 
 } // namespace quirra

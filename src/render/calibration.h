@@ -3,8 +3,6 @@
 #pragma once
 
 #include "model/piecemodel.h"
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -18,7 +16,7 @@ class Surface;
  * and left edges (1/16 in and 1 mm ticks, numbered) and a short
  * instruction. The surface's document is started and ended here.
  */
-QUIRRACONTROL_EXPORT void PrintCalibrationSheet(Surface &surface, const PieceModel &model);
+void PrintCalibrationSheet(Surface &surface, const PieceModel &model);
 
 /** @brief The printer settings that make the printed crosses meet the real pieces. */
 struct PrinterCalibration
@@ -37,8 +35,7 @@ struct PrinterCalibration
  * @throws Error when the reading cannot be right (the sheet has one piece
  * across and one reads a stretch, or the stretch leaves 90..110 %).
  */
-QUIRRACONTROL_EXPORT PrinterCalibration CalibrationFromReading(const PieceModel &model, double left,
-                                                               double top, double right,
-                                                               double bottom);
+PrinterCalibration CalibrationFromReading(const PieceModel &model, double left, double top,
+                                          double right, double bottom);
 
 } // namespace quirra
