@@ -21,6 +21,7 @@ namespace quirra {
 class QUIRRACONTROL_EXPORT Error : public std::runtime_error
 {
 public:
+    /** @brief An error saying message (what failed, where, and what to do). */
     explicit Error(const QString &message);
 
     /** @brief The message as a QString (UTF-8 decoded from what()). */
@@ -33,6 +34,6 @@ public:
  * @param what names the quantity in the error message ("pieces per page")
  * @throws Error "Overflow" when the value does not fit in -32768..32767.
  */
-qint16 toInt16Checked(qint64 value, const char *what);
+QUIRRACONTROL_EXPORT qint16 toInt16Checked(qint64 value, const char *what);
 
 } // namespace quirra
