@@ -239,13 +239,22 @@ public:
      * entry's geometry and page size (lengths in inches) over it, derives
      * orientation and paper, lays the five items out afresh and announces
      * the change.
+     *
+     * quirra::PieceSpec is the library's own type, not installed: a host
+     * chooses pieces by name through PieceName.
      */
     void ApplyPiece(const quirra::PieceSpec &entry);
 
-    /** @brief The preview surface (the child "mc_printer"). */
+    /**
+     * @brief The preview surface (the child "mc_printer"); its class is the
+     * library's own, not installed: a host prints through printer().
+     */
     quirra::PrintSurface *surface() const;
 
-    /** @brief The values this control falls back on, computed when it started. */
+    /**
+     * @brief The values this control falls back on, computed when it started;
+     * the library's own type, not installed.
+     */
     const quirra::DefaultSet &defaultSet() const;
 
     // The Q_PROPERTY line, getter and setter of every property, written at
