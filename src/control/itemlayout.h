@@ -4,8 +4,6 @@
 
 #include "control/layoutcopy.h"
 #include "model/item.h"
-#include "quirracontrol_export.h"
-
 #include <QList>
 #include <QPointer>
 #include <QString>
@@ -49,7 +47,7 @@ namespace quirra {
  */
 class CalibrationFields;
 
-class QUIRRACONTROL_EXPORT ItemLayout : public QWidget
+class ItemLayout : public QWidget
 {
     Q_OBJECT
 

@@ -3,8 +3,6 @@
 #pragma once
 
 #include "model/piecemodel.h"
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -18,7 +16,7 @@ class Surface;
  * and left edges (1/16 in and 1 mm ticks, numbered) and a short
  * instruction. The surface's document is started and ended here.
  */
-QUIRRACONTROL_EXPORT void PrintCalibrationSheet(Surface &surface, const PieceModel &model);
+void PrintCalibrationSheet(Surface &surface, const PieceModel &model);
 
 /** @brief The printer's stretch (PrinterScaleX, PrinterScaleY) a run accepts, percent. */
 constexpr float PrinterScaleMin = 90.f;
@@ -45,8 +43,7 @@ struct PrinterCalibration
  * across and one reads a stretch, the stretch leaves 90..110 %, or an
  * offset leaves 0..1 in).
  */
-QUIRRACONTROL_EXPORT PrinterCalibration CalibrationFromReading(const PieceModel &model, double left,
-                                                               double top, double right,
-                                                               double bottom);
+PrinterCalibration CalibrationFromReading(const PieceModel &model, double left, double top,
+                                          double right, double bottom);
 
 } // namespace quirra
