@@ -110,9 +110,8 @@ void PreviewWindow::setSourceName(const QString &name)
 void PreviewWindow::updateTitle()
 {
     const QString piece = m_control->PieceName();
-    setWindowTitle(m_sourceName.isEmpty()
-                       ? QStringLiteral("quirra - %1").arg(piece)
-                       : QStringLiteral("quirra - %1 on %2").arg(m_sourceName, piece));
+    setWindowTitle(m_sourceName.isEmpty() ? QStringLiteral("quirra - %1").arg(piece)
+                                          : tr("quirra - %1 on %2").arg(m_sourceName, piece));
 }
 
 void PreviewWindow::complain(const QString &text)

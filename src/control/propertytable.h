@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QFont>
 #include <QMetaType>
 #include <QString>
@@ -30,7 +28,7 @@ template <typename T> using PropertyArg = std::conditional_t<std::is_class_v<T>,
  * 32-bit integers, everything else as its own type (short, float, bool,
  * QString, QFont).
  */
-struct QUIRRACONTROL_EXPORT PropertyInfo
+struct PropertyInfo
 {
     /** @brief Computes a value from the control's default set and its inherited font. */
     using ValueFunction = QVariant (*)(const DefaultSet &set, const QFont &ambient);
@@ -51,7 +49,7 @@ struct QUIRRACONTROL_EXPORT PropertyInfo
  * @brief Every property of the control, from the one list in
  * properties/properties.def.
  */
-class QUIRRACONTROL_EXPORT PropertyTable
+class PropertyTable
 {
 public:
     /** @brief All properties in the order they are declared. */

@@ -124,13 +124,13 @@ PreviewPane::PreviewPane(QWidget *parent) : QWidget(parent)
         const char *name;
         const char *tip;
     } paging[] = {
-        {PaneLayout::First, ArrowIconEngine::ToFirst, "mc_first", "First page"},
-        {PaneLayout::Prev, ArrowIconEngine::Back, "mc_prev", "Previous page"},
-        {PaneLayout::Next, ArrowIconEngine::Forward, "mc_next", "Next page"},
-        {PaneLayout::Last, ArrowIconEngine::ToLast, "mc_last", "Last page"},
+        {PaneLayout::First, ArrowIconEngine::ToFirst, "mc_first", QT_TR_NOOP("First page")},
+        {PaneLayout::Prev, ArrowIconEngine::Back, "mc_prev", QT_TR_NOOP("Previous page")},
+        {PaneLayout::Next, ArrowIconEngine::Forward, "mc_next", QT_TR_NOOP("Next page")},
+        {PaneLayout::Last, ArrowIconEngine::ToLast, "mc_last", QT_TR_NOOP("Last page")},
     };
     for (const auto &p : paging) {
-        QToolButton *button = makeButton(p.name, QString::fromLatin1(p.tip));
+        QToolButton *button = makeButton(p.name, tr(p.tip));
         button->setIcon(QIcon(new ArrowIconEngine(p.shape)));
         button->setToolButtonStyle(Qt::ToolButtonIconOnly);
         // Nothing to page through until a preview has run.
@@ -140,13 +140,15 @@ PreviewPane::PreviewPane(QWidget *parent) : QWidget(parent)
                 [this, part = p.part] { pagingClicked(part); });
     }
 
-    QToolButton *printPageButton = makeButton("mc_p_pg", QStringLiteral("Print the page on show"));
-    printPageButton->setText(QStringLiteral("Pr Pg"));
+    QToolButton *printPageButton = makeButton("mc_p_pg", tr("Print the page on show"));
+    //: Short caption of the button that prints the page on show ("print page")
+    printPageButton->setText(tr("Pr Pg"));
     connect(printPageButton, &QToolButton::clicked, this, &PreviewPane::printPage);
     m_parts[PaneLayout::PrintPage] = printPageButton;
 
-    QToolButton *printAllButton = makeButton("mc_p_all", QStringLiteral("Print all pages"));
-    printAllButton->setText(QStringLiteral("Pr All"));
+    QToolButton *printAllButton = makeButton("mc_p_all", tr("Print all pages"));
+    //: Short caption of the button that prints every page
+    printAllButton->setText(tr("Pr All"));
     connect(printAllButton, &QToolButton::clicked, this, &PreviewPane::printAll);
     m_parts[PaneLayout::PrintAll] = printAllButton;
 
@@ -292,8 +294,7 @@ void PreviewPane::Navigate(qint16 code)
     m_parts[PaneLayout::Prev]->setEnabled(shown > 1);
     m_parts[PaneLayout::Next]->setEnabled(shown < count);
     m_parts[PaneLayout::Last]->setEnabled(shown < count);
-    m_label->setText(QStringLiteral("Page ") + QString::number(shown) + QStringLiteral(" of ") +
-                     QString::number(count));
+    m_label->setText(tr("Page %1 of %2").arg(shown).arg(count));
     fitLabelFont();
     giveFocus(code == 2);
 }

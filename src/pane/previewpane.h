@@ -3,8 +3,6 @@
 #pragma once
 
 #include "pane/panelayout.h"
-#include "quirracontrol_export.h"
-
 #include <QWidget>
 
 #include <array>
@@ -27,7 +25,7 @@ class PrintSurface;
  * shown at the screen's logical resolution, whenever the pane is resized or
  * given new settings.
  */
-class QUIRRACONTROL_EXPORT PreviewPane : public QWidget
+class PreviewPane : public QWidget
 {
     Q_OBJECT
 

@@ -10,6 +10,7 @@
 #include "hostrecorder.h"
 #include "model/error.h"
 #include "model/piecemodel.h"
+#include "properties/defaultset.h"
 #include "publishedproperties.h"
 #include "records/sharedspool.h"
 
