@@ -124,7 +124,7 @@ void TestPreviewPane::printPageOnShow_data()
     QTest::addColumn<short>("startSlot");
     QTest::addColumn<PageRange>("pages");
     QTest::addColumn<QStringList>("clicks"); // "feed": records added first
-    QTest::addColumn<QStringList>("names"); // on the page printed
+    QTest::addColumn<QStringList>("names");  // on the page printed
     // Only the first page is kept as drawn: the others come from their
     // records in the spool when shown.
     QTest::newRow("last") << short(1) << PageRange(0, 0) << QStringList{"mc_last"}
