@@ -48,7 +48,7 @@ QString PaperCatalogueFile();
  * library, as installed and as the build tree mirrors it; else the installed
  * prefix compiled in; else empty (the texts stay English).
  */
-QUIRRACONTROL_EXPORT QString TranslationsDirectory();
+QString TranslationsDirectory();
 
 /** @brief The path with "/" appended unless it already ends in one. */
 QString WithTrailingSlash(const QString &path);
