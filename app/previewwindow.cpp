@@ -131,6 +131,9 @@ void PreviewWindow::addZoomBox()
     m_toolBar->addWidget(m_zoomBox);
     connect(m_zoomBox, &QComboBox::activated, this, &PreviewWindow::zoomChosen);
     connect(m_zoomBox->lineEdit(), &QLineEdit::editingFinished, this, &PreviewWindow::zoomTyped);
+    // Once chosen, the keys go back to the page: the arrows scroll it, Ctrl+plus zooms on.
+    connect(m_zoomBox->lineEdit(), &QLineEdit::returnPressed, m_control->surface(),
+            qOverload<>(&QWidget::setFocus));
     connect(m_control, &Quirra::propertyChanged, this, [this](const QString &name) {
         if (name == QLatin1String("PreviewZoom"))
             showZoom();
@@ -149,6 +152,7 @@ void PreviewWindow::zoomChosen(int index)
         m_control->PreviewZoom(short(choice));
     // The box shows the zoom reached, also when the choice changed nothing.
     showZoom();
+    m_control->surface()->setFocus(Qt::OtherFocusReason);
 }
 
 void PreviewWindow::zoomTyped()

@@ -24,6 +24,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace quirra {
@@ -371,31 +372,38 @@ void PreviewPane::pagingClicked(PaneLayout::Part part)
     }
 }
 
-bool PreviewPane::askToPrint(QPrintDialog &dialog)
+std::optional<std::pair<int, int>> PreviewPane::askToPrint(bool wholeRun)
 {
     QPrinter *printer = m_surface->printer();
+    QPrintDialog dialog(printer, this);
+    dialog.setObjectName(QStringLiteral("print_dialog"));
+    dialog.setWindowTitle(wholeRun ? tr("Print the run") : tr("Print the page on show"));
+    // For one page the printer and the copies are the choice; the run's
+    // pages are offered as the preview shows them, every one unless picked.
+    QAbstractPrintDialog::PrintDialogOptions options =
+        QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies;
+    if (wholeRun) {
+        options |= QAbstractPrintDialog::PrintPageRange;
+        printer->setPrintRange(QPrinter::AllPages);
+        dialog.setMinMax(1, std::max(1, m_surface->pageCount()));
+    }
+    dialog.setOptions(options);
     if (dialog.exec() != QDialog::Accepted)
-        return false;
+        return std::nullopt;
     // The printer chosen is one that exists: a name asked for earlier that
     // no printer has no longer stands in the way.
     if (printer->outputFormat() == QPrinter::NativeFormat)
         m_surface->setPrinterName(printer->printerName());
-    return true;
+    if (wholeRun && printer->printRange() == QPrinter::PageRange)
+        return std::pair(printer->fromPage(), printer->toPage());
+    return std::pair(0, 0);
 }
 
 void PreviewPane::printPage()
 {
-    if (m_settings.PrintDialogOnPrint) {
-        QPrintDialog dialog(m_surface->printer(), this);
-        dialog.setObjectName(QStringLiteral("print_dialog"));
-        dialog.setWindowTitle(tr("Print the page on show"));
-        // One page: the printer and the copies are the choice.
-        dialog.setOptions(QAbstractPrintDialog::PrintToFile |
-                          QAbstractPrintDialog::PrintCollateCopies);
-        if (!askToPrint(dialog)) {
-            giveFocus(false);
-            return;
-        }
+    if (m_settings.PrintDialogOnPrint && !askToPrint(false)) {
+        giveFocus(false);
+        return;
     }
     m_surface->setAction(SurfaceAction::PrintPage);
     if (const int error = m_surface->errorCode()) {
@@ -409,27 +417,11 @@ void PreviewPane::printPage()
 
 void PreviewPane::printAll()
 {
-    int from = 0, to = 0;
-    if (m_settings.PrintDialogOnPrint) {
-        QPrinter *printer = m_surface->printer();
-        QPrintDialog dialog(printer, this);
-        dialog.setObjectName(QStringLiteral("print_dialog"));
-        dialog.setWindowTitle(tr("Print the run"));
-        dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
-                          QAbstractPrintDialog::PrintCollateCopies);
-        // Every page unless the user picks some, as the pages are shown.
-        printer->setPrintRange(QPrinter::AllPages);
-        dialog.setMinMax(1, std::max(1, m_surface->pageCount()));
-        if (!askToPrint(dialog)) {
-            giveFocus(false);
-            return;
-        }
-        if (printer->printRange() == QPrinter::PageRange) {
-            from = printer->fromPage();
-            to = printer->toPage();
-        }
-    }
-    Q_EMIT printAllRequested(from, to);
+    std::optional<std::pair<int, int>> pages(std::pair(0, 0));
+    if (m_settings.PrintDialogOnPrint)
+        pages = askToPrint(true);
+    if (pages)
+        Q_EMIT printAllRequested(pages->first, pages->second);
     giveFocus(false);
 }
 

@@ -8,10 +8,11 @@
 #include <QWidget>
 
 #include <array>
+#include <optional>
+#include <utility>
 
 class QLabel;
 class QToolButton;
-class QPrintDialog;
 
 namespace quirra {
 
@@ -114,7 +115,11 @@ private:
     void pagingClicked(PaneLayout::Part part);
     void printPage();
     void printAll();
-    bool askToPrint(QPrintDialog &dialog);
+    /**
+     * The pages to print, chosen in the print dialog (0, 0: every one), or
+     * nothing when the user cancelled. wholeRun offers the pages.
+     */
+    std::optional<std::pair<int, int>> askToPrint(bool wholeRun);
     void updateToolTips();
 
     PaneSettings m_settings;

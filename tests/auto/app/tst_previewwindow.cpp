@@ -12,6 +12,8 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPrinter>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -216,6 +218,10 @@ void TestPreviewWindow::printButtons()
     driver.onModal(QStringLiteral("print_dialog"), [&](QDialog *shown) {
         if (answer == QLatin1String("cancel"))
             return ModalDriver::close(shown, QStringLiteral("escape"));
+        // To the PDF file, also where the system has printers: the last of them.
+        auto *printers = shown->findChild<QComboBox *>(QStringLiteral("printers"));
+        printers->setCurrentIndex(printers->count() - 1);
+        shown->findChild<QLineEdit *>(QStringLiteral("filename"))->setText(pdf);
         if (answer.contains(QLatin1Char('-'))) {
             shown->findChild<QRadioButton *>(QStringLiteral("printRange"))->click();
             shown->findChild<QSpinBox *>(QStringLiteral("to"))->setValue(answer.right(1).toInt());
