@@ -2,6 +2,40 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>QuirraDesignerPlugin</name>
+    <message>
+        <source>Envelope and label printing control</source>
+        <translation>Steuerelement für Umschlag- und Etikettendruck</translation>
+    </message>
+    <message>
+        <source>Prints addresses on envelopes and label sheets and previews the pieces. Right-click it to choose the piece and lay out its items.</source>
+        <translation>Druckt Adressen auf Umschläge und Etikettenbögen und zeigt die Stücke in der Vorschau. Mit einem Rechtsklick wählen Sie die Vorlage und ordnen ihre Elemente an.</translation>
+    </message>
+</context>
+<context>
+    <name>QuirraTaskMenu</name>
+    <message>
+        <source>Select piece…</source>
+        <translation>Vorlage auswählen …</translation>
+    </message>
+    <message>
+        <source>Customize piece…</source>
+        <translation>Vorlage anpassen …</translation>
+    </message>
+    <message>
+        <source>Edit layout…</source>
+        <translation>Layout bearbeiten …</translation>
+    </message>
+    <message>
+        <source>Properties…</source>
+        <translation>Eigenschaften …</translation>
+    </message>
+    <message>
+        <source>About…</source>
+        <translation>Über …</translation>
+    </message>
+</context>
+<context>
     <name>quirra</name>
     <message>
         <source>holds a double quote</source>

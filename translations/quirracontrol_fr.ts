@@ -2,6 +2,40 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
+    <name>QuirraDesignerPlugin</name>
+    <message>
+        <source>Envelope and label printing control</source>
+        <translation>Contrôle d’impression d’enveloppes et d’étiquettes</translation>
+    </message>
+    <message>
+        <source>Prints addresses on envelopes and label sheets and previews the pieces. Right-click it to choose the piece and lay out its items.</source>
+        <translation>Imprime des adresses sur des enveloppes et des planches d’étiquettes et en affiche l’aperçu. Un clic droit permet de choisir le modèle et de disposer ses éléments.</translation>
+    </message>
+</context>
+<context>
+    <name>QuirraTaskMenu</name>
+    <message>
+        <source>Select piece…</source>
+        <translation>Choisir le modèle…</translation>
+    </message>
+    <message>
+        <source>Customize piece…</source>
+        <translation>Personnaliser le modèle…</translation>
+    </message>
+    <message>
+        <source>Edit layout…</source>
+        <translation>Modifier la mise en page…</translation>
+    </message>
+    <message>
+        <source>Properties…</source>
+        <translation>Propriétés…</translation>
+    </message>
+    <message>
+        <source>About…</source>
+        <translation>À propos…</translation>
+    </message>
+</context>
+<context>
     <name>quirra</name>
     <message>
         <source>holds a double quote</source>
@@ -745,19 +779,19 @@ Le catalogue d&apos;enveloppes et d&apos;étiquettes a été constitué à parti
     </message>
     <message>
         <source>%1 (%2):</source>
-        <translation>%1 (%2) :</translation>
+        <translation>%1 (%2)&#xa0;:</translation>
     </message>
     <message>
         <source>%1 goes from %2 to %3 %4; it stays %5 %4.</source>
-        <translation>%1 va de %2 à %3 %4 ; la valeur reste %5 %4.</translation>
+        <translation>%1 va de %2 à %3 %4&#xa0;; la valeur reste %5 %4.</translation>
     </message>
     <message>
         <source>%1 %2 is out of range: %3</source>
-        <translation>%1 %2 est hors limites : %3</translation>
+        <translation>%1 %2 est hors limites&#xa0;: %3</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a number: %2</source>
-        <translation>« %1 » n’est pas un nombre : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -849,7 +883,7 @@ Le catalogue d&apos;enveloppes et d&apos;étiquettes a été constitué à parti
     </message>
     <message>
         <source>Print the page on show: choose the printer and the copies first</source>
-        <translation>Imprimer la page affichée : choisir d’abord l’imprimante et les copies</translation>
+        <translation>Imprimer la page affichée&#xa0;: choisir d’abord l’imprimante et les copies</translation>
     </message>
     <message>
         <source>Print the page on show on the printer</source>
@@ -857,7 +891,7 @@ Le catalogue d&apos;enveloppes et d&apos;étiquettes a été constitué à parti
     </message>
     <message>
         <source>Print the whole run: choose the printer, the copies and the pages first</source>
-        <translation>Imprimer toute la série : choisir d’abord l’imprimante, les copies et les pages</translation>
+        <translation>Imprimer toute la série&#xa0;: choisir d’abord l’imprimante, les copies et les pages</translation>
     </message>
     <message>
         <source>Print the whole run, every page, on the printer</source>
@@ -992,7 +1026,7 @@ Le catalogue d&apos;enveloppes et d&apos;étiquettes a été constitué à parti
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
