@@ -394,6 +394,9 @@ int runPreview(const QStringList &arguments)
     InterruptCleanup::watch(SharedSpool::instance().spoolPath());
     if (const auto status = options.applyTo(control, QStringLiteral("preview")))
         return *status;
+    // A layout saved before the print dialog existed reads it as off; at the
+    // screen someone is there to choose the printer, copies and pages.
+    control.PrintDialogOnPrint(true);
     RecordFeed feed(control);
     feed.setCopiesColumn(options.copiesColumn);
     if (!feed.open(options.csvPath, &error)) {

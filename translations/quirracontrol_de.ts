@@ -2,6 +2,40 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>QuirraDesignerPlugin</name>
+    <message>
+        <source>Envelope and label printing control</source>
+        <translation>Steuerelement für Umschlag- und Etikettendruck</translation>
+    </message>
+    <message>
+        <source>Prints addresses on envelopes and label sheets and previews the pieces. Right-click it to choose the piece and lay out its items.</source>
+        <translation>Druckt Adressen auf Umschläge und Etikettenbögen und zeigt die Stücke in der Vorschau. Mit einem Rechtsklick wählen Sie die Vorlage und ordnen ihre Elemente an.</translation>
+    </message>
+</context>
+<context>
+    <name>QuirraTaskMenu</name>
+    <message>
+        <source>Select piece…</source>
+        <translation>Vorlage auswählen …</translation>
+    </message>
+    <message>
+        <source>Customize piece…</source>
+        <translation>Vorlage anpassen …</translation>
+    </message>
+    <message>
+        <source>Edit layout…</source>
+        <translation>Layout bearbeiten …</translation>
+    </message>
+    <message>
+        <source>Properties…</source>
+        <translation>Eigenschaften …</translation>
+    </message>
+    <message>
+        <source>About…</source>
+        <translation>Über …</translation>
+    </message>
+</context>
+<context>
     <name>quirra</name>
     <message>
         <source>holds a double quote</source>
@@ -718,6 +752,49 @@ Der Umschlag- und Etikettenkatalog wurde zusammengetragen aus einer offenen Vorl
     </message>
 </context>
 <context>
+    <name>quirra::CalibrationFields</name>
+    <message>
+        <source>Left offset</source>
+        <translation>Versatz links</translation>
+    </message>
+    <message>
+        <source>Top offset</source>
+        <translation>Versatz oben</translation>
+    </message>
+    <message>
+        <source>Horizontal scale</source>
+        <translation>Maßstab waagerecht</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>Maßstab senkrecht</translation>
+    </message>
+    <message>
+        <source>Printer calibration</source>
+        <translation>Druckerkalibrierung</translation>
+    </message>
+    <message>
+        <source>%1, from %2 to %3 %4 (the property %5)</source>
+        <translation>%1, von %2 bis %3 %4 (die Eigenschaft %5)</translation>
+    </message>
+    <message>
+        <source>%1 (%2):</source>
+        <translation>%1 (%2):</translation>
+    </message>
+    <message>
+        <source>%1 goes from %2 to %3 %4; it stays %5 %4.</source>
+        <translation>%1 reicht von %2 bis %3 %4; der Wert bleibt %5 %4.</translation>
+    </message>
+    <message>
+        <source>%1 %2 is out of range: %3</source>
+        <translation>%1 %2 liegt außerhalb des Bereichs: %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number: %2</source>
+        <translation>„%1“ ist keine Zahl: %2</translation>
+    </message>
+</context>
+<context>
     <name>quirra::ItemLayout</name>
     <message>
         <source>Overflow</source>
@@ -796,10 +873,6 @@ Der Umschlag- und Etikettenkatalog wurde zusammengetragen aus einer offenen Vorl
         <translation>Dr. S.</translation>
     </message>
     <message>
-        <source>Print all pages</source>
-        <translation>Alle Seiten drucken</translation>
-    </message>
-    <message>
         <source>Pr All</source>
         <extracomment>Short caption of the button that prints every page</extracomment>
         <translation>Dr. alle</translation>
@@ -807,6 +880,26 @@ Der Umschlag- und Etikettenkatalog wurde zusammengetragen aus einer offenen Vorl
     <message>
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Print the page on show: choose the printer and the copies first</source>
+        <translation>Die angezeigte Seite drucken: zuerst Drucker und Exemplare wählen</translation>
+    </message>
+    <message>
+        <source>Print the page on show on the printer</source>
+        <translation>Die angezeigte Seite auf dem Drucker drucken</translation>
+    </message>
+    <message>
+        <source>Print the whole run: choose the printer, the copies and the pages first</source>
+        <translation>Die ganze Druckserie drucken: zuerst Drucker, Exemplare und Seiten wählen</translation>
+    </message>
+    <message>
+        <source>Print the whole run, every page, on the printer</source>
+        <translation>Die ganze Druckserie, jede Seite, auf dem Drucker drucken</translation>
+    </message>
+    <message>
+        <source>Print the run</source>
+        <translation>Druckserie drucken</translation>
     </message>
 </context>
 <context>
@@ -918,6 +1011,22 @@ Der Umschlag- und Etikettenkatalog wurde zusammengetragen aus einer offenen Vorl
     <message>
         <source>Wrote %1 pages to %2</source>
         <translation>%1 Seiten in %2 geschrieben</translation>
+    </message>
+    <message>
+        <source>Zoom of the page on show, in percent (also Ctrl+wheel, Ctrl+plus and Ctrl+minus on the page)</source>
+        <translation>Zoom der angezeigten Seite in Prozent (auch Strg+Mausrad, Strg+Plus und Strg+Minus auf der Seite)</translation>
+    </message>
+    <message>
+        <source>Fit page</source>
+        <translation>Ganze Seite</translation>
+    </message>
+    <message>
+        <source>Fit width</source>
+        <translation>Seitenbreite</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>

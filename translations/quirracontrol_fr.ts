@@ -2,6 +2,40 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
+    <name>QuirraDesignerPlugin</name>
+    <message>
+        <source>Envelope and label printing control</source>
+        <translation>Contrôle d’impression d’enveloppes et d’étiquettes</translation>
+    </message>
+    <message>
+        <source>Prints addresses on envelopes and label sheets and previews the pieces. Right-click it to choose the piece and lay out its items.</source>
+        <translation>Imprime des adresses sur des enveloppes et des planches d’étiquettes et en affiche l’aperçu. Un clic droit permet de choisir le modèle et de disposer ses éléments.</translation>
+    </message>
+</context>
+<context>
+    <name>QuirraTaskMenu</name>
+    <message>
+        <source>Select piece…</source>
+        <translation>Choisir le modèle…</translation>
+    </message>
+    <message>
+        <source>Customize piece…</source>
+        <translation>Personnaliser le modèle…</translation>
+    </message>
+    <message>
+        <source>Edit layout…</source>
+        <translation>Modifier la mise en page…</translation>
+    </message>
+    <message>
+        <source>Properties…</source>
+        <translation>Propriétés…</translation>
+    </message>
+    <message>
+        <source>About…</source>
+        <translation>À propos…</translation>
+    </message>
+</context>
+<context>
     <name>quirra</name>
     <message>
         <source>holds a double quote</source>
@@ -718,6 +752,49 @@ Le catalogue d&apos;enveloppes et d&apos;étiquettes a été constitué à parti
     </message>
 </context>
 <context>
+    <name>quirra::CalibrationFields</name>
+    <message>
+        <source>Left offset</source>
+        <translation>Décalage à gauche</translation>
+    </message>
+    <message>
+        <source>Top offset</source>
+        <translation>Décalage en haut</translation>
+    </message>
+    <message>
+        <source>Horizontal scale</source>
+        <translation>Échelle horizontale</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>Échelle verticale</translation>
+    </message>
+    <message>
+        <source>Printer calibration</source>
+        <translation>Étalonnage de l’imprimante</translation>
+    </message>
+    <message>
+        <source>%1, from %2 to %3 %4 (the property %5)</source>
+        <translation>%1, de %2 à %3 %4 (la propriété %5)</translation>
+    </message>
+    <message>
+        <source>%1 (%2):</source>
+        <translation>%1 (%2)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1 goes from %2 to %3 %4; it stays %5 %4.</source>
+        <translation>%1 va de %2 à %3 %4&#xa0;; la valeur reste %5 %4.</translation>
+    </message>
+    <message>
+        <source>%1 %2 is out of range: %3</source>
+        <translation>%1 %2 est hors limites&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number: %2</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
     <name>quirra::ItemLayout</name>
     <message>
         <source>Overflow</source>
@@ -796,10 +873,6 @@ Le catalogue d&apos;enveloppes et d&apos;étiquettes a été constitué à parti
         <translation>Imp. p.</translation>
     </message>
     <message>
-        <source>Print all pages</source>
-        <translation>Imprimer toutes les pages</translation>
-    </message>
-    <message>
         <source>Pr All</source>
         <extracomment>Short caption of the button that prints every page</extracomment>
         <translation>Imp. tt</translation>
@@ -807,6 +880,26 @@ Le catalogue d&apos;enveloppes et d&apos;étiquettes a été constitué à parti
     <message>
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Print the page on show: choose the printer and the copies first</source>
+        <translation>Imprimer la page affichée&#xa0;: choisir d’abord l’imprimante et les copies</translation>
+    </message>
+    <message>
+        <source>Print the page on show on the printer</source>
+        <translation>Imprimer la page affichée sur l’imprimante</translation>
+    </message>
+    <message>
+        <source>Print the whole run: choose the printer, the copies and the pages first</source>
+        <translation>Imprimer toute la série&#xa0;: choisir d’abord l’imprimante, les copies et les pages</translation>
+    </message>
+    <message>
+        <source>Print the whole run, every page, on the printer</source>
+        <translation>Imprimer toute la série, chaque page, sur l’imprimante</translation>
+    </message>
+    <message>
+        <source>Print the run</source>
+        <translation>Imprimer la série</translation>
     </message>
 </context>
 <context>
@@ -918,6 +1011,22 @@ Le catalogue d&apos;enveloppes et d&apos;étiquettes a été constitué à parti
     <message>
         <source>Wrote %1 pages to %2</source>
         <translation>%1 pages écrites dans %2</translation>
+    </message>
+    <message>
+        <source>Zoom of the page on show, in percent (also Ctrl+wheel, Ctrl+plus and Ctrl+minus on the page)</source>
+        <translation>Zoom de la page affichée, en pour cent (aussi Ctrl+molette, Ctrl+plus et Ctrl+moins sur la page)</translation>
+    </message>
+    <message>
+        <source>Fit page</source>
+        <translation>Page entière</translation>
+    </message>
+    <message>
+        <source>Fit width</source>
+        <translation>Pleine largeur</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>

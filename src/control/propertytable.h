@@ -36,8 +36,8 @@ struct PropertyInfo
     QString name;        ///< the published name
     QMetaType type;      ///< the property's C++ type
     QMetaType savedType; ///< the type its values travel as
-    int saveOrder = 0;   ///< 1..91 when saved and read back; 0: never saved
-    int initOrder = 0;   ///< 1..91 when a new control is initialised; 0: left alone
+    int saveOrder = 0;   ///< 1..92 when saved and read back; 0: never saved
+    int initOrder = 0;   ///< 1..92 when a new control is initialised; 0: left alone
     ValueFunction defaultValue = nullptr;              ///< what a saved control may omit
     ValueFunction initialValue = nullptr;              ///< what a new control gets
     QVariant (*read)(const Quirra &control) = nullptr; ///< the getter, in saved form
@@ -59,7 +59,7 @@ public:
      */
     static const std::vector<const PropertyInfo *> &savedInOrder();
 
-    /** @brief The properties a new control sets, in that order (91 of them). */
+    /** @brief The properties a new control sets, in that order (92 of them). */
     static const std::vector<const PropertyInfo *> &initialisedInOrder();
 
     /** @brief The property of that name (case counts), or nullptr. */

@@ -66,14 +66,25 @@ Quirra::Quirra(QWidget *parent) : QWidget(translated(parent)), d(std::make_uniqu
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(d->m_pane);
     // The pane's "Pr All" button has no caller to hand an error to: the user
-    // sees it in the same way as the run's own messages.
-    connect(d->m_pane, &PreviewPane::printAllRequested, this, [this] {
+    // sees it in the same way as the run's own messages. Pages chosen in its
+    // print dialog count as the preview shows them, from the host's first.
+    connect(d->m_pane, &PreviewPane::printAllRequested, this, [this](int from, int to) {
+        const auto restore =
+            qScopeGuard([this, hostPages = d->m_pages] { d->m_pages = hostPages; });
+        const int before = std::max(0, d->m_pages.first - 1);
+        if (from > 0)
+            d->m_pages.first = from + before;
+        if (to > 0)
+            d->m_pages.second = to + before;
         try {
             PrintNow();
         } catch (const Error &e) {
             HostServices::of(this).message(e.message(), this);
         }
     });
+    // Zoomed in the pane: the published PreviewZoom reads the new zoom.
+    connect(d->m_pane, &PreviewPane::zoomChanged, this,
+            [this] { notify(QStringLiteral("PreviewZoom")); });
     startInstance();
     // Icon1 is no part of a new control's initialisation: it starts as the
     // default set has it.

@@ -227,12 +227,13 @@ public:
      */
     void InitProperties();
     /**
-     * @brief Restores the 91 saved properties (the 84 published, then the
-     * sheet's PageWidth and PageHeight, then the mailing options) from bag, in their saving
-     * order. A missing or unreadable value takes its default.
+     * @brief Restores the 92 saved properties (the 84 published, then the
+     * sheet's PageWidth and PageHeight, then the mailing options, then
+     * PrintDialogOnPrint) from bag, in their saving order. A missing or
+     * unreadable value takes its default.
      */
     void ReadProperties(quirra::PropertyBag &bag);
-    /** @brief Saves the 91 properties into bag, each with its default. */
+    /** @brief Saves the 92 properties into bag, each with its default. */
     void WriteProperties(quirra::PropertyBag &bag) const;
 
     /**

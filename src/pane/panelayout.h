@@ -25,6 +25,7 @@ struct PaneSettings
     bool ButtonPrintPgVisible = true;   ///< the "Pr Pg" button
     bool ButtonPrintAllVisible = true;  ///< the "Pr All" button
     bool TextPgNumberVisible = true;    ///< the page label
+    bool PrintDialogOnPrint = false;    ///< the print buttons ask in a print dialog first
     float paneFraction = 0.85f;         ///< least share of the free height the page keeps (0..1)
 };
 
