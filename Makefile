@@ -10,6 +10,8 @@
 #   make fuzz        the libFuzzer targets (clang, BUILD-fuzz), FUZZ_SECONDS each
 #   make bench       quirra print against Qt's PDF engine, 1,000 to 1,000,000 records
 #   make format      format every C++ file as .clang-format says (format-check: only look)
+#   make docs        the API documentation of the installed headers, $(BUILD)/docs/html
+#                    (Doxygen; a public member without its line fails it)
 
 BUILD    ?= build
 TYPE     ?= RelWithDebInfo
@@ -27,7 +29,7 @@ SANITIZER_ENV = \
 	UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 	LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan-suppressions.txt
 
-.PHONY: all deps configure build test test-asan install-test demo bench fuzz format format-check clean
+.PHONY: all deps configure build test test-asan install-test demo bench fuzz format format-check docs clean
 
 all: build
 
@@ -41,6 +43,10 @@ configure: $(BUILD)/build.ninja
 
 build: configure
 	cmake --build $(BUILD) -j $(JOBS)
+
+# Separate from build and test: only Doxygen, no compiler, runs here.
+docs: configure
+	cmake --build $(BUILD) --target docs
 
 test: build
 	./scripts/with-cups $(BUILD)/cups \

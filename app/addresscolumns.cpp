@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "addresscolumns.h"
 
+#include "console.h"
+
 #include <QHash>
 
 namespace quirra {
@@ -40,19 +42,19 @@ QString describeProblem(const QString &value)
     bool lineBreak = false;
     for (const QChar c : value) {
         if (c == u'"')
-            return QStringLiteral("holds a double quote");
+            return Cli::tr("holds a double quote");
         lineBreak = lineBreak || c == u'\r' || c == u'\n';
     }
-    return lineBreak ? QStringLiteral("holds a line break") : QString();
+    return lineBreak ? Cli::tr("holds a line break") : QString();
 }
 
 } // namespace
 
 QString AddressColumns::acceptedNames()
 {
-    return QStringLiteral("first, middle, last, address1, address2, city, state, zip (or "
-                          "nm_first, nm_middle, nm_last, addr_1, addr_2), bar_code (or barcode, "
-                          "imb), and substitute");
+    return Cli::tr("first, middle, last, address1, address2, city, state, zip (or "
+                   "nm_first, nm_middle, nm_last, addr_1, addr_2), bar_code (or barcode, "
+                   "imb), and substitute");
 }
 
 bool AddressColumns::setHeader(const QStringList &header, QString *error)
@@ -68,8 +70,8 @@ bool AddressColumns::setHeader(const QStringList &header, QString *error)
         if (it != fieldNames().constEnd()) {
             column.field = int(*it);
             if (taken.contains(column.field)) {
-                *error = QStringLiteral("the columns \"%1\" and \"%2\" both name the same field; "
-                                        "rename or remove one of them")
+                *error = Cli::tr("the columns \"%1\" and \"%2\" both name the same field; "
+                                 "rename or remove one of them")
                              .arg(taken.value(column.field), column.name);
                 return false;
             }
@@ -81,15 +83,15 @@ bool AddressColumns::setHeader(const QStringList &header, QString *error)
         } else if (column.name.contains(QLatin1Char('^')) ||
                    column.name.contains(QLatin1Char('|')) ||
                    !describeProblem(column.name).isEmpty()) {
-            *error = QStringLiteral("column %1: the name \"%2\" cannot be used as a substitution "
-                                    "name (it holds ^, |, a quote or a line break); rename it")
+            *error = Cli::tr("column %1: the name \"%2\" cannot be used as a substitution "
+                             "name (it holds ^, |, a quote or a line break); rename it")
                          .arg(m_columns.size() + 1)
                          .arg(column.name);
             return false;
         } else if (entryNames.contains(column.name)) {
             // Tokens match names exactly, so a second column of the same name
             // could never be reached.
-            *error = QStringLiteral("columns %1 and %2 are both named \"%3\"; rename one of them")
+            *error = Cli::tr("columns %1 and %2 are both named \"%3\"; rename one of them")
                          .arg(entryNames.value(column.name))
                          .arg(m_columns.size() + 1)
                          .arg(column.name);
@@ -100,7 +102,7 @@ bool AddressColumns::setHeader(const QStringList &header, QString *error)
         m_columns.append(column);
     }
     if (!anyAddressField) {
-        *error = QStringLiteral("the header row names no address column; name the columns %1")
+        *error = Cli::tr("the header row names no address column; name the columns %1")
                      .arg(acceptedNames());
         return false;
     }
@@ -110,9 +112,9 @@ bool AddressColumns::setHeader(const QStringList &header, QString *error)
 bool AddressColumns::mapRow(const QStringList &row, AddressRow &out, QString *error) const
 {
     if (row.size() != m_columns.size()) {
-        *error = QStringLiteral("the row has %1 fields but the header has %2; check for a "
-                                "missing or extra comma, or a value with a comma that needs "
-                                "double quotes")
+        *error = Cli::tr("the row has %1 fields but the header has %2; check for a "
+                         "missing or extra comma, or a value with a comma that needs "
+                         "double quotes")
                      .arg(row.size())
                      .arg(m_columns.size());
         return false;
@@ -124,8 +126,8 @@ bool AddressColumns::mapRow(const QStringList &row, AddressRow &out, QString *er
         const QString &value = row.at(i);
         const QString problem = describeProblem(value);
         if (!problem.isEmpty()) {
-            *error = QStringLiteral("column %1 (\"%2\") %3, which a printed record cannot "
-                                    "carry; remove it from the value")
+            *error = Cli::tr("column %1 (\"%2\") %3, which a printed record cannot "
+                             "carry; remove it from the value")
                          .arg(i + 1)
                          .arg(column.name, problem);
             return false;
@@ -134,8 +136,8 @@ bool AddressColumns::mapRow(const QStringList &row, AddressRow &out, QString *er
             out.fields[column.field] = value;
         } else if (!column.name.isEmpty()) {
             if (value.contains(QLatin1Char('|'))) {
-                *error = QStringLiteral("column %1 (\"%2\") holds a |, which separates "
-                                        "substitution entries; remove it from the value")
+                *error = Cli::tr("column %1 (\"%2\") holds a |, which separates "
+                                 "substitution entries; remove it from the value")
                              .arg(i + 1)
                              .arg(column.name);
                 return false;

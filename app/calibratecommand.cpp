@@ -42,41 +42,39 @@ int RunCalibrateCommand(const QStringList &arguments,
                             QCommandLineParser &, const QStringList &, const QString &)> &parse)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
+    parser.setApplicationDescription(Cli::tr(
         "Prints a calibration sheet of a piece: each piece's outline and a cross at its centre, "
         "rulers along the top and left edges. Held over a real sheet, it tells how far off the "
         "printer puts things; --measured turns that reading into PrinterLeft, PrinterTop, "
         "PrinterScaleX and PrinterScaleY."));
-    parser.addOption({QStringLiteral("piece"), QStringLiteral("The catalogue piece (required)."),
-                      QStringLiteral("name")});
+    parser.addOption({QStringLiteral("piece"), Cli::tr("The catalogue piece (required)."),
+                      Cli::tr("name", "an option's value in the help")});
     parser.addOption({QStringLiteral("set"),
-                      QStringLiteral("Sets a property first, e.g. the present PrinterLeft."),
-                      QStringLiteral("property=value")});
-    parser.addOption({QStringLiteral("pdf"), QStringLiteral("Write the sheet to this PDF file."),
-                      QStringLiteral("file")});
-    parser.addOption({QStringLiteral("printer"), QStringLiteral("Print the sheet on this printer."),
-                      QStringLiteral("name")});
+                      Cli::tr("Sets a property first, e.g. the present PrinterLeft."),
+                      Cli::tr("property=value", "an option's value in the help")});
+    parser.addOption({QStringLiteral("pdf"), Cli::tr("Write the sheet to this PDF file."),
+                      Cli::tr("file", "an option's value in the help")});
+    parser.addOption({QStringLiteral("printer"), Cli::tr("Print the sheet on this printer."),
+                      Cli::tr("name", "an option's value in the help")});
     parser.addOption({QStringLiteral("measured"),
-                      QStringLiteral("How far the crosses of the first and the last piece lie "
-                                     "from the real pieces' centres, inches, right and down "
-                                     "positive: LEFT,TOP,RIGHT,BOTTOM."),
-                      QStringLiteral("l,t,r,b")});
+                      Cli::tr("How far the crosses of the first and the last piece lie "
+                              "from the real pieces' centres, inches, right and down "
+                              "positive: LEFT,TOP,RIGHT,BOTTOM."),
+                      Cli::tr("l,t,r,b", "an option's value in the help")});
     if (const auto status = parse(parser, arguments, QStringLiteral("calibrate")))
         return *status;
 
     const QString piece = parser.value(QStringLiteral("piece")).trimmed();
     if (piece.isEmpty())
-        return fail(QStringLiteral("name the piece with --piece (see quirra pieces)"), 2);
+        return fail(Cli::tr("name the piece with --piece (see quirra pieces)"), 2);
     if (!RunOptions::catalogueHasPiece(piece))
-        return fail(QStringLiteral("there is no piece \"%1\" in the catalogue (see quirra pieces)")
-                        .arg(piece),
-                    2);
+        return fail(
+            Cli::tr("there is no piece \"%1\" in the catalogue (see quirra pieces)").arg(piece), 2);
     const bool measured = parser.isSet(QStringLiteral("measured"));
     const QString pdfPath = parser.value(QStringLiteral("pdf"));
     const QString printerName = parser.value(QStringLiteral("printer"));
     if (int(measured) + int(!pdfPath.isEmpty()) + int(!printerName.isEmpty()) != 1)
-        return fail(QStringLiteral("give one of --pdf FILE, --printer NAME or --measured L,T,R,B"),
-                    2);
+        return fail(Cli::tr("give one of --pdf FILE, --printer NAME or --measured L,T,R,B"), 2);
 
     Quirra control;
     control.PieceName(piece);
@@ -97,9 +95,9 @@ int RunCalibrateCommand(const QStringList &arguments,
             v[i] = parts.at(i).trimmed().toDouble(&ok);
         if (!ok || std::abs(v[0]) > 1 || std::abs(v[1]) > 1 || std::abs(v[2]) > 1 ||
             std::abs(v[3]) > 1)
-            return fail(QStringLiteral("--measured %1: give four distances in inches, each "
-                                       "within 1 in, as LEFT,TOP,RIGHT,BOTTOM (e.g. "
-                                       "0.03,-0.02,0.05,0.01)")
+            return fail(Cli::tr("--measured %1: give four distances in inches, each "
+                                "within 1 in, as LEFT,TOP,RIGHT,BOTTOM (e.g. "
+                                "0.03,-0.02,0.05,0.01)")
                             .arg(parser.value(QStringLiteral("measured"))),
                         2);
         const PrinterCalibration c = CalibrationFromReading(model, v[0], v[1], v[2], v[3]);
@@ -116,12 +114,12 @@ int RunCalibrateCommand(const QStringList &arguments,
         const PdfRunResult result = DrawToPdf(
             pdfPath, model, [&](Surface &surface) { PrintCalibrationSheet(surface, model); });
         if (result.errorCode != 0)
-            return fail(QStringLiteral("%1 cannot be written").arg(pdfPath));
-        say(QStringLiteral("quirra calibrate: the sheet of \"%1\" -> %2").arg(piece, pdfPath));
+            return fail(Cli::tr("%1 cannot be written").arg(pdfPath));
+        say(Cli::tr("quirra calibrate: the sheet of \"%1\" -> %2").arg(piece, pdfPath));
         return 0;
     }
     if (QPrinterInfo::printerInfo(printerName).isNull())
-        return fail(QStringLiteral("there is no printer named \"%1\"").arg(printerName));
+        return fail(Cli::tr("there is no printer named \"%1\"").arg(printerName));
     PrintSurface *surface = control.surface();
     surface->setPrinterName(printerName);
     surface->setPreview(false);
@@ -130,8 +128,7 @@ int RunCalibrateCommand(const QStringList &arguments,
     PrintCalibrationSheet(*surface, model);
     if (surface->errorCode() != 0)
         return fail(surface->printerFailure());
-    say(QStringLiteral("quirra calibrate: the sheet of \"%1\" -> printer %2")
-            .arg(piece, printerName));
+    say(Cli::tr("quirra calibrate: the sheet of \"%1\" -> printer %2").arg(piece, printerName));
     return 0;
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cataloguecheck.h"
 
+#include "console.h"
+
 #include "catalogue/catalogue.h"
 
 #include <QFile>
@@ -42,21 +44,22 @@ QString recordProblem(const QString &value)
 {
     const QStringList fields = value.split(QLatin1Char(','));
     if (fields.size() < 7)
-        return QStringLiteral("the piece record has %1 fields; it needs product, piece size, "
-                              "page size, margins, pitch, across x down and page description")
+        return Cli::tr("the piece record has %1 fields; it needs product, piece size, "
+                       "page size, margins, pitch, across x down and page description")
             .arg(fields.size());
-    static const char *const names[] = {"piece size", "page size", "margins", "pitch"};
+    static const char *const names[] = {
+        QT_TRANSLATE_NOOP("quirra", "piece size"), QT_TRANSLATE_NOOP("quirra", "page size"),
+        QT_TRANSLATE_NOOP("quirra", "margins"), QT_TRANSLATE_NOOP("quirra", "pitch")};
     for (int i = 1; i <= 4; ++i) {
         const QString pair = fields[i];
         // Margins may be 0; sizes and pitches may not.
         const bool ok = i == 3 ? pair.contains(QLatin1Char('x')) : pairOk(pair, false);
         if (!ok)
-            return QStringLiteral("the %1 \"%2\" is not two numbers above 0 (\"W x H\")")
-                .arg(QLatin1String(names[i - 1]), pair.trimmed());
+            return Cli::tr("the %1 \"%2\" is not two numbers above 0 (\"W x H\")")
+                .arg(Cli::tr(names[i - 1]), pair.trimmed());
     }
     if (!pairOk(fields[5], true))
-        return QStringLiteral("\"%1\" is not across x down, each 1 or more")
-            .arg(fields[5].trimmed());
+        return Cli::tr("\"%1\" is not across x down, each 1 or more").arg(fields[5].trimmed());
     return QString();
 }
 
@@ -84,9 +87,9 @@ QString catalogueProblem(const QString &file)
 {
     QFile input(file);
     if (!input.open(QIODevice::ReadOnly))
-        return QStringLiteral("%1: cannot be read: %2").arg(file, input.errorString());
+        return Cli::tr("%1: cannot be read: %2").arg(file, input.errorString());
     if (input.size() > MaxCatalogueBytes)
-        return QStringLiteral("%1: line 1: the file is %2 MB, far too large for a catalogue")
+        return Cli::tr("%1: line 1: the file is %2 MB, far too large for a catalogue")
             .arg(file)
             .arg(input.size() >> 20);
     const QByteArray bytes = input.readAll();
@@ -98,16 +101,16 @@ QString catalogueProblem(const QString &file)
         };
         const QByteArray &raw = lines[n];
         if (raw.contains('\0'))
-            return at(QStringLiteral("the line holds a NUL byte; this is no catalogue text"));
+            return at(Cli::tr("the line holds a NUL byte; this is no catalogue text"));
         QStringDecoder utf8(QStringDecoder::Utf8);
         const QString line = QString(utf8(raw)).trimmed();
         if (utf8.hasError())
-            return at(QStringLiteral("the text is not UTF-8; this is no catalogue text"));
+            return at(Cli::tr("the text is not UTF-8; this is no catalogue text"));
         if (line.isEmpty() || line.startsWith(QLatin1Char(';')))
             continue;
         if (line.startsWith(QLatin1Char('['))) {
             if (!line.endsWith(QLatin1Char(']')))
-                return at(QStringLiteral("a section name without its closing \"]\""));
+                return at(Cli::tr("a section name without its closing \"]\""));
             inDetails = line.mid(1, line.size() - 2)
                             .trimmed()
                             .compare(DetailsSection, Qt::CaseInsensitive) == 0;
@@ -116,7 +119,7 @@ QString catalogueProblem(const QString &file)
         }
         const qsizetype equals = line.indexOf(QLatin1Char('='));
         if (equals <= 0)
-            return at(QStringLiteral("neither a [section] nor a NAME=VALUE line"));
+            return at(Cli::tr("neither a [section] nor a NAME=VALUE line"));
         if (inDetails) {
             const QString problem = recordProblem(line.mid(equals + 1));
             if (!problem.isEmpty())
@@ -125,7 +128,7 @@ QString catalogueProblem(const QString &file)
         }
     }
     if (!sawDetails)
-        return QStringLiteral("%1: line %2: the file ends without a [%3] section of pieces")
+        return Cli::tr("%1: line %2: the file ends without a [%3] section of pieces")
             .arg(file)
             .arg(lines.size())
             .arg(DetailsSection);

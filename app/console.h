@@ -2,9 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace quirra {
+
+/**
+ * @brief The command line's texts: Cli::tr("...") translates them in the
+ * context "quirra"; without a translation they stay as written.
+ */
+struct Cli
+{
+    Q_DECLARE_TR_FUNCTIONS(quirra)
+};
 
 /**
  * @brief Writes one line to standard error. Every message goes through C's

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "csvreader.h"
 
+#include "console.h"
+
 #include <QIODevice>
 
 namespace quirra {
@@ -60,8 +62,8 @@ bool CsvReader::appendField(QStringList &fields, QByteArray &field)
     m_decoder.resetState();
     QString text = m_decoder.decode(field);
     if (m_decoder.hasError()) {
-        return fail(QStringLiteral("column %1: the text is not UTF-8 (a spreadsheet's \"CSV\" in "
-                                   "a legacy code page?); save the file as \"CSV UTF-8\"")
+        return fail(Cli::tr("column %1: the text is not UTF-8 (a spreadsheet's \"CSV\" in "
+                            "a legacy code page?); save the file as \"CSV UTF-8\"")
                         .arg(fields.size() + 1));
     }
     fields.append(std::move(text));
@@ -98,8 +100,8 @@ bool CsvReader::readRow(QStringList &fields)
         const int c = next();
         if (c < 0) {
             if (quoted && !afterQuote)
-                return fail(QStringLiteral("column %1: a quoted field that began on line %2 is "
-                                           "never closed; add the closing double quote")
+                return fail(Cli::tr("column %1: a quoted field that began on line %2 is "
+                                    "never closed; add the closing double quote")
                                 .arg(fields.size() + 1)
                                 .arg(m_rowLine));
             if (!finishField())
@@ -132,9 +134,9 @@ bool CsvReader::readRow(QStringList &fields)
             ++m_rows;
             return true;
         } else if (afterQuote) {
-            return fail(QStringLiteral("column %1: text after the closing quote of a quoted "
-                                       "field; put the whole value in quotes and double any "
-                                       "quote inside it")
+            return fail(Cli::tr("column %1: text after the closing quote of a quoted "
+                                "field; put the whole value in quotes and double any "
+                                "quote inside it")
                             .arg(fields.size() + 1));
         } else if (c == '"' && field.isEmpty()) {
             quoted = true;
@@ -151,8 +153,8 @@ bool CsvReader::readRow(QStringList &fields)
             m_pos += stop - from;
         }
         if (field.size() > MaxFieldBytes) {
-            return fail(QStringLiteral("column %1: a field longer than %2 bytes; is this a CSV "
-                                       "file?")
+            return fail(Cli::tr("column %1: a field longer than %2 bytes; is this a CSV "
+                                "file?")
                             .arg(fields.size() + 1)
                             .arg(MaxFieldBytes));
         }

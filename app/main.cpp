@@ -19,6 +19,7 @@
 #include "catalogue/piececatalogue.h"
 #include "catalogue/pieceentry.h"
 #include "control/quirra.h"
+#include "control/translations.h"
 #include "dialogs/hostservices.h"
 #include "model/error.h"
 #include "printing/printsurface.h"
@@ -85,8 +86,8 @@ bool catalogueReadable(const QString &command)
     const QString problem = catalogueProblem(file);
     if (problem.isEmpty())
         return true;
-    say(QStringLiteral("quirra %1: the catalogue is damaged: %2. Reinstall it, or set "
-                       "QUIRRA_SYSTEM_DIR to the folder of a complete one.")
+    say(Cli::tr("quirra %1: the catalogue is damaged: %2. Reinstall it, or set "
+                "QUIRRA_SYSTEM_DIR to the folder of a complete one.")
             .arg(command, problem));
     return false;
 }
@@ -101,7 +102,7 @@ std::optional<int> parseArguments(QCommandLineParser &parser, const QStringList 
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     const QCommandLineOption help = parser.addHelpOption();
     if (!parser.parse(arguments)) {
-        say(QStringLiteral("quirra %1: %2\nRun 'quirra %1 --help' for its options.")
+        say(Cli::tr("quirra %1: %2\nRun 'quirra %1 --help' for its options.")
                 .arg(command, parser.errorText()));
         return 2;
     }
@@ -111,8 +112,7 @@ std::optional<int> parseArguments(QCommandLineParser &parser, const QStringList 
         const qsizetype lineEnd = text.indexOf(QLatin1Char('\n'));
         const QString usage = text.left(lineEnd);
         const qsizetype options = usage.indexOf(QLatin1String(" ["));
-        text.replace(0, options < 0 ? lineEnd : options,
-                     QStringLiteral("Usage: quirra ") + command);
+        text.replace(0, options < 0 ? lineEnd : options, Cli::tr("Usage: quirra %1").arg(command));
         // One line an option: the parser's wrapped descriptions joined up.
         QStringList lines;
         for (const QString &line : text.split(QLatin1Char('\n'))) {
@@ -148,7 +148,8 @@ RecordFeed::Progress feedProgress(ProgressBar *bar, const RecordFeed &feed)
     const qint64 size = feed.sourceSize();
     return [bar, size](qint64 records, qint64 bytes) {
         const double fraction = size > 0 ? double(bytes) / double(size) : -1;
-        bar->update(QStringLiteral("reading"), fraction, QStringLiteral("%1 records").arg(records));
+        //: The progress bar's stage while the CSV file is read
+        bar->update(Cli::tr("reading"), fraction, Cli::tr("%1 records").arg(records));
         return true;
     };
 }
@@ -164,11 +165,11 @@ bool chooseDestination(const RunOptions &options, std::unique_ptr<PdfOutput> &pd
     if (!options.printerName.isEmpty()) {
         if (QPrinterInfo::printerInfo(options.printerName).isNull()) {
             const QStringList names = QPrinterInfo::availablePrinterNames();
-            *error = QStringLiteral("there is no printer named \"%1\"; %2; --pdf OUT.pdf writes "
-                                    "a PDF file instead")
+            *error = Cli::tr("there is no printer named \"%1\"; %2; --pdf OUT.pdf writes "
+                             "a PDF file instead")
                          .arg(options.printerName, names.isEmpty()
-                                                       ? QStringLiteral("no printer is set up here")
-                                                       : QStringLiteral("the printers are: ") +
+                                                       ? Cli::tr("no printer is set up here")
+                                                       : Cli::tr("the printers are: ") +
                                                              names.join(QStringLiteral(", ")));
             return false;
         }
@@ -177,8 +178,8 @@ bool chooseDestination(const RunOptions &options, std::unique_ptr<PdfOutput> &pd
     }
     const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
     if (standard.isNull()) {
-        *error = QStringLiteral("no default printer is set up; name one with --printer NAME, or "
-                                "write a PDF file with --pdf OUT.pdf");
+        *error = Cli::tr("no default printer is set up; name one with --printer NAME, or "
+                         "write a PDF file with --pdf OUT.pdf");
         return false;
     }
     *printerName = standard.printerName();
@@ -218,8 +219,8 @@ int runPrint(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Prints the addresses of a CSV file (a header row, then one recipient a "
-                       "row) on the chosen piece, or writes them to a PDF file."));
+        Cli::tr("Prints the addresses of a CSV file (a header row, then one recipient a "
+                "row) on the chosen piece, or writes them to a PDF file."));
     RunOptions::addTo(parser, true);
     const QCommandLineOption strict = StrictOption();
     parser.addOption(strict);
@@ -265,10 +266,9 @@ int runPrint(const QStringList &arguments)
         },
         &error);
     if (bar)
-        bar->finish(QStringLiteral("reading"), fed ? 1.0 : -1,
-                    QStringLiteral("%1 records").arg(feed.records()));
+        bar->finish(Cli::tr("reading"), fed ? 1.0 : -1, Cli::tr("%1 records").arg(feed.records()));
     if (InterruptCleanup::interrupted()) {
-        say(QStringLiteral("quirra print: interrupted while reading; nothing was printed"));
+        say(Cli::tr("quirra print: interrupted while reading; nothing was printed"));
         return InterruptedStatus;
     }
     if (!fed) {
@@ -292,9 +292,9 @@ int runPrint(const QStringList &arguments)
             bar->interrupt();
         const QString why = pdf ? QString() : control.surface()->printerFailure();
         say(why.isEmpty()
-                ? QStringLiteral("quirra print: %1 (%2 cannot be written)")
-                      .arg(text, pdf ? pdf->target() : QStringLiteral("the printer ") + printerName)
-                : QStringLiteral("quirra print: %1; nothing was printed").arg(why));
+                ? Cli::tr("quirra print: %1 (%2 cannot be written)")
+                      .arg(text, pdf ? pdf->target() : Cli::tr("the printer ") + printerName)
+                : Cli::tr("quirra print: %1; nothing was printed").arg(why));
         printerFailed = true;
     });
     HostServices::set(&control, &services);
@@ -303,14 +303,14 @@ int runPrint(const QStringList &arguments)
         qMax<qint64>(1, qint64(control.PieceNumAcross()) * qint64(control.PieceNumDown()));
     const qint64 pagesExpected = (feed.records() + perPage - 1) / perPage;
     auto pageDetail = [](qint64 page, qint64 pages) {
-        return QStringLiteral("page %1 of %2").arg(page).arg(pages);
+        return Cli::tr("page %1 of %2").arg(page).arg(pages);
     };
     if (bar) {
         // The run keeps this thread busy; the surface says when it begins a page.
         control.surface()->setPageObserver([&](int page) {
             const double fraction = pagesExpected > 0 ? double(page) / double(pagesExpected) : 1.0;
-            bar->update(QStringLiteral("printing"), qMin(fraction, 1.0),
-                        pageDetail(page, pagesExpected));
+            //: The progress bar's stage while the pages are printed
+            bar->update(Cli::tr("printing"), qMin(fraction, 1.0), pageDetail(page, pagesExpected));
         });
     }
     try {
@@ -331,12 +331,12 @@ int runPrint(const QStringList &arguments)
             bar->interrupt();
         if (!pdf)
             QFile::remove(control.surface()->printFile());
-        say(QStringLiteral("quirra print: interrupted; nothing was printed"));
+        say(Cli::tr("quirra print: interrupted; nothing was printed"));
         return InterruptedStatus;
     }
     const int pages = control.surface()->pageCount();
     if (bar)
-        bar->finish(QStringLiteral("printing"), 1.0, pageDetail(pages, pages));
+        bar->finish(Cli::tr("printing"), 1.0, pageDetail(pages, pages));
     if (printerFailed || control.surface()->errorCode() != 0) {
         const QString why = pdf ? QString() : control.surface()->printerFailure();
         if (!printerFailed)
@@ -345,7 +345,7 @@ int runPrint(const QStringList &arguments)
                               : QStringLiteral("quirra print: %1").arg(why));
         return 1;
     }
-    QString destination = QStringLiteral("printer ") + printerName;
+    QString destination = Cli::tr("printer ") + printerName;
     if (pdf) {
         const QString temporary = pdf->temporaryPath();
         if (!pdf->commit(&error)) {
@@ -355,12 +355,11 @@ int runPrint(const QStringList &arguments)
         InterruptCleanup::unwatch(temporary);
         destination = pdf->target();
     }
-    say(QStringLiteral("quirra print: %1 %2, %3 %4 on \"%5\" -> %6")
+    say(Cli::tr("quirra print: %1 %2, %3 %4 on \"%5\" -> %6")
             .arg(QString::number(feed.records()),
-                 feed.records() == 1 ? QStringLiteral("record") : QStringLiteral("records"),
-                 QString::number(pages),
-                 pages == 1 ? QStringLiteral("page") : QStringLiteral("pages"), control.PieceName(),
-                 destination));
+                 feed.records() == 1 ? Cli::tr("record") : Cli::tr("records"),
+                 QString::number(pages), pages == 1 ? Cli::tr("page") : Cli::tr("pages"),
+                 control.PieceName(), destination));
     TellNotes(control, QStringLiteral("print"));
     return 0;
 }
@@ -369,8 +368,8 @@ int runPreview(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Shows the addresses of a CSV file on the chosen piece in a window, to "
-                       "page through, print, export as PDF or save the layout."));
+        Cli::tr("Shows the addresses of a CSV file on the chosen piece in a window, to "
+                "page through, print, export as PDF or save the layout."));
     RunOptions::addTo(parser, false);
     if (const auto status = parseArguments(parser, arguments, QStringLiteral("preview")))
         return *status;
@@ -382,12 +381,11 @@ int runPreview(const QStringList &arguments)
     }
     const QString platform = QGuiApplication::platformName();
     if (platform == QLatin1String("offscreen") || platform == QLatin1String("minimal")) {
-        say(QStringLiteral("quirra preview: there is no display to show the window on (%1); "
-                           "quirra print --pdf OUT.pdf writes the pages to a file instead")
+        say(Cli::tr("quirra preview: there is no display to show the window on (%1); "
+                    "quirra print --pdf OUT.pdf writes the pages to a file instead")
                 .arg(qEnvironmentVariableIsEmpty("DISPLAY")
-                         ? QStringLiteral("DISPLAY is not set")
-                         : QStringLiteral("cannot open display %1")
-                               .arg(qEnvironmentVariable("DISPLAY"))));
+                         ? Cli::tr("DISPLAY is not set")
+                         : Cli::tr("cannot open display %1").arg(qEnvironmentVariable("DISPLAY"))));
         return 1;
     }
 
@@ -396,6 +394,9 @@ int runPreview(const QStringList &arguments)
     InterruptCleanup::watch(SharedSpool::instance().spoolPath());
     if (const auto status = options.applyTo(control, QStringLiteral("preview")))
         return *status;
+    // A layout saved before the print dialog existed reads it as off; at the
+    // screen someone is there to choose the printer, copies and pages.
+    control.PrintDialogOnPrint(true);
     RecordFeed feed(control);
     feed.setCopiesColumn(options.copiesColumn);
     if (!feed.open(options.csvPath, &error)) {
@@ -418,8 +419,7 @@ int runPreview(const QStringList &arguments)
         },
         &error);
     if (bar)
-        bar->finish(QStringLiteral("reading"), fed ? 1.0 : -1,
-                    QStringLiteral("%1 records").arg(feed.records()));
+        bar->finish(Cli::tr("reading"), fed ? 1.0 : -1, Cli::tr("%1 records").arg(feed.records()));
     if (!window.isVisible())
         return 0;
     if (!fed) {
@@ -433,8 +433,8 @@ int runPreview(const QStringList &arguments)
         return 1;
     }
     if (control.LastRunCancelled())
-        say(QStringLiteral("quirra preview: stopped at page %1 (cancelled); the pages built so "
-                           "far are shown")
+        say(Cli::tr("quirra preview: stopped at page %1 (cancelled); the pages built so "
+                    "far are shown")
                 .arg(control.surface()->pageCount()));
     TellNotes(control, QStringLiteral("preview"));
     return QApplication::exec();
@@ -449,21 +449,20 @@ int runPieces(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Lists the catalogue's envelopes and labels: family, product, piece, size, "
-                       "layout, paper."));
-    parser.addOption({QStringLiteral("product"), QStringLiteral("Only the pieces of this product."),
-                      QStringLiteral("name")});
+        Cli::tr("Lists the catalogue's envelopes and labels: family, product, piece, size, "
+                "layout, paper."));
+    parser.addOption({QStringLiteral("product"), Cli::tr("Only the pieces of this product."),
+                      Cli::tr("name", "an option's value in the help")});
     parser.addOption({QStringLiteral("search"),
-                      QStringLiteral("Only the pieces whose name, brand, part or product holds "
-                                     "every word of the text."),
-                      QStringLiteral("text")});
-    parser.addOption({QStringLiteral("brand"),
-                      QStringLiteral("Only the imported products of this brand."),
-                      QStringLiteral("name")});
+                      Cli::tr("Only the pieces whose name, brand, part or product holds "
+                              "every word of the text."),
+                      Cli::tr("text", "an option's value in the help")});
+    parser.addOption({QStringLiteral("brand"), Cli::tr("Only the imported products of this brand."),
+                      Cli::tr("name", "an option's value in the help")});
     if (const auto status = parseArguments(parser, arguments, QStringLiteral("pieces")))
         return *status;
     if (!parser.positionalArguments().isEmpty()) {
-        say(QStringLiteral("quirra pieces: unexpected argument %1")
+        say(Cli::tr("quirra pieces: unexpected argument %1")
                 .arg(parser.positionalArguments().first()));
         return 2;
     }
@@ -471,8 +470,8 @@ int runPieces(const QStringList &arguments)
     const auto catalogue = Catalogue::system();
     const QString file = catalogue->masterFile();
     if (file.isEmpty()) {
-        say(QStringLiteral("quirra pieces: no catalogue (quirra.cfg) in %1; set "
-                           "QUIRRA_SYSTEM_DIR to the folder that holds it")
+        say(Cli::tr("quirra pieces: no catalogue (quirra.cfg) in %1; set "
+                    "QUIRRA_SYSTEM_DIR to the folder that holds it")
                 .arg(SystemDirectory()));
         return 1;
     }
@@ -500,13 +499,13 @@ int runPieces(const QStringList &arguments)
     if (listed == 0 && parser.isSet(QStringLiteral("search")) +
                                parser.isSet(QStringLiteral("brand")) + !only.isEmpty() >
                            0) {
-        say(QStringLiteral("quirra pieces: no piece matches; 'quirra pieces' lists them all"));
+        say(Cli::tr("quirra pieces: no piece matches; 'quirra pieces' lists them all"));
         return 1;
     }
     // A damaged or foreign file reads as a catalogue of nothing.
     if (listed == 0) {
-        say(QStringLiteral("quirra pieces: the catalogue %1 lists no pieces; is it a catalogue "
-                           "file? Set QUIRRA_SYSTEM_DIR to the folder of a complete one")
+        say(Cli::tr("quirra pieces: the catalogue %1 lists no pieces; is it a catalogue "
+                    "file? Set QUIRRA_SYSTEM_DIR to the folder of a complete one")
                 .arg(file));
         return 1;
     }
@@ -558,7 +557,7 @@ int main(int argc, char **argv)
         command != QLatin1String("pieces") && command != QLatin1String("check") &&
         command != QLatin1String("calibrate")) {
         if (!command.isEmpty())
-            say(QStringLiteral("quirra: unknown command \"%1\"").arg(command));
+            say(Cli::tr("quirra: unknown command \"%1\"").arg(command));
         return usage();
     }
     choosePlatform(command);
@@ -585,6 +584,9 @@ int main(int argc, char **argv)
                                                     ? new QCoreApplication(argc, argv)
                                                     : new QApplication(argc, argv));
     QCoreApplication::setApplicationName(QStringLiteral("quirra"));
+    // Messages, help and the windows in the user's language, when there is a
+    // translation for it.
+    InstallTranslations();
 
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeAt(1);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "pdfoutput.h"
 
+#include "console.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -39,14 +41,14 @@ QString kindOf(mode_t mode)
     if (S_ISREG(mode))
         return QString();
     if (S_ISDIR(mode))
-        return QStringLiteral("a folder");
+        return Cli::tr("a folder");
     if (S_ISFIFO(mode))
-        return QStringLiteral("a named pipe (FIFO)");
+        return Cli::tr("a named pipe (FIFO)");
     if (S_ISCHR(mode) || S_ISBLK(mode))
-        return QStringLiteral("a device");
+        return Cli::tr("a device");
     if (S_ISSOCK(mode))
-        return QStringLiteral("a socket");
-    return QStringLiteral("not a regular file");
+        return Cli::tr("a socket");
+    return Cli::tr("not a regular file");
 }
 
 /*
@@ -141,14 +143,14 @@ PdfOutput::~PdfOutput()
 bool PdfOutput::open(QString *error)
 {
     if (m_target.isEmpty() || QFileInfo(m_target).fileName().isEmpty()) {
-        *error = QStringLiteral("the PDF needs a file name");
+        *error = Cli::tr("the PDF needs a file name");
         return false;
     }
     // A link is followed: the file it names is replaced, the link stays.
     m_path = QFileInfo(m_target).absoluteFilePath();
     for (int links = 0; QFileInfo(m_path).isSymLink(); ++links) {
         if (links == MaxLinks) {
-            *error = QStringLiteral("%1 is a loop of symbolic links").arg(m_target);
+            *error = Cli::tr("%1 is a loop of symbolic links").arg(m_target);
             return false;
         }
         m_path = QFileInfo(m_path).symLinkTarget();
@@ -159,8 +161,8 @@ bool PdfOutput::open(QString *error)
     if (::stat(QFile::encodeName(m_path).constData(), &info) == 0) {
         const QString kind = kindOf(info.st_mode);
         if (!kind.isEmpty()) {
-            *error = QStringLiteral("%1 is %2; --pdf needs the name of a regular file or of a "
-                                    "new one")
+            *error = Cli::tr("%1 is %2; --pdf needs the name of a regular file or of a "
+                             "new one")
                          .arg(m_target, kind);
             return false;
         }
@@ -169,13 +171,13 @@ bool PdfOutput::open(QString *error)
         m_group = info.st_gid;
         m_replaces = true;
     } else if (errno != ENOENT) {
-        *error = QStringLiteral("cannot write %1: %2").arg(m_target, errnoText(errno));
+        *error = Cli::tr("cannot write %1: %2").arg(m_target, errnoText(errno));
         return false;
     }
     const QFileInfo info2(m_path);
     const QDir folder = info2.absoluteDir();
     if (!folder.exists()) {
-        *error = QStringLiteral("the folder %1 does not exist; create it first")
+        *error = Cli::tr("the folder %1 does not exist; create it first")
                      .arg(QDir::toNativeSeparators(folder.path()));
         return false;
     }
@@ -185,7 +187,7 @@ bool PdfOutput::open(QString *error)
         folder.filePath(QLatin1Char('.') + info2.fileName() + QStringLiteral(".XXXXXX.part")));
     file.setAutoRemove(false);
     if (!file.open()) {
-        *error = QStringLiteral("cannot write in the folder %1: %2")
+        *error = Cli::tr("cannot write in the folder %1: %2")
                      .arg(QDir::toNativeSeparators(folder.path()), file.errorString());
         return false;
     }
@@ -201,34 +203,34 @@ QString PdfOutput::incompleteReason() const
     struct statvfs room;
     if (::statvfs(QFile::encodeName(folder).constData(), &room) == 0 &&
         (unsigned long long)room.f_bavail * room.f_frsize < FullBelowBytes) {
-        return QStringLiteral("the disk is full (no space left in %1); free some room and run "
-                              "again")
+        return Cli::tr("the disk is full (no space left in %1); free some room and run "
+                       "again")
             .arg(QDir::toNativeSeparators(folder));
     }
-    return QStringLiteral("a write failed (an input/output error or a disk quota); check the disk "
-                          "and run again");
+    return Cli::tr("a write failed (an input/output error or a disk quota); check the disk "
+                   "and run again");
 }
 
 bool PdfOutput::commit(QString *error)
 {
     if (m_temporary.isEmpty()) {
-        *error = QStringLiteral("no PDF was started");
+        *error = Cli::tr("no PDF was started");
         return false;
     }
     auto fail = [&](const QString &why) {
         discard();
-        const QString left = m_replaces ? QStringLiteral("the file there is as it was")
-                                        : QStringLiteral("no file was made");
-        *error = QStringLiteral("%1 was not written: %2; %3").arg(m_target, why, left);
+        const QString left =
+            m_replaces ? Cli::tr("the file there is as it was") : Cli::tr("no file was made");
+        *error = Cli::tr("%1 was not written: %2; %3").arg(m_target, why, left);
         return false;
     };
     QFile file(m_temporary);
     if (!file.open(QIODevice::ReadOnly))
         return fail(file.errorString());
     if (file.size() == 0)
-        return fail(QStringLiteral("no page was written"));
+        return fail(Cli::tr("no page was written"));
     if (!pdfIsWhole(file))
-        return fail(QStringLiteral("the file came out incomplete: ") + incompleteReason());
+        return fail(Cli::tr("the file came out incomplete: ") + incompleteReason());
     // The data must be on the disk before the name points at it.
     if (::fsync(file.handle()) != 0)
         return fail(errnoText(errno));

@@ -28,12 +28,12 @@ QString shortened(const QString &text)
 {
     if (text.size() <= LongestShown)
         return text;
-    return text.left(LongestShown) + QStringLiteral("… (%1 characters)").arg(text.size());
+    return text.left(LongestShown) + Cli::tr("… (%1 characters)").arg(text.size());
 }
 
 QString records(qint64 n)
 {
-    return n == 1 ? QStringLiteral("1 record") : QStringLiteral("%1 records").arg(n);
+    return n == 1 ? Cli::tr("1 record") : Cli::tr("%1 records").arg(n);
 }
 
 } // namespace
@@ -43,8 +43,8 @@ QStringList PreflightSummary(const RunReport &report)
     if (report.isEmpty())
         return {};
     const qint64 noted = report.recordsNoted();
-    QStringList lines{noted == 1 ? QStringLiteral("1 record needs a look:")
-                                 : QStringLiteral("%1 records need a look:").arg(noted)};
+    QStringList lines{noted == 1 ? Cli::tr("1 record needs a look:")
+                                 : Cli::tr("%1 records need a look:").arg(noted)};
     for (int k = 0; k < NoteKindCount; ++k) {
         const auto kind = NoteKind(k);
         const qint64 count = report.count(kind);
@@ -58,8 +58,8 @@ QStringList PreflightSummary(const RunReport &report)
         if (!first->detail.isEmpty())
             line += QStringLiteral(": ") + first->detail;
         if (count > 1)
-            line += count == 2 ? QStringLiteral(" (and 1 more record)")
-                               : QStringLiteral(" (and %1 more records)").arg(count - 1);
+            line += count == 2 ? Cli::tr(" (and 1 more record)")
+                               : Cli::tr(" (and %1 more records)").arg(count - 1);
         lines << line;
     }
     return lines;
@@ -69,9 +69,9 @@ QCommandLineOption StrictOption()
 {
     return QCommandLineOption(
         QStringLiteral("strict"),
-        QStringLiteral("Check every record first; when any needs a look (a city line cut or "
-                       "left out, text cut off, a piece off the page ...), say so and exit with "
-                       "status 3 without printing or writing anything."));
+        Cli::tr("Check every record first; when any needs a look (a city line cut or "
+                "left out, text cut off, a piece off the page ...), say so and exit with "
+                "status 3 without printing or writing anything."));
 }
 
 void TellNotes(const Quirra &control, const QString &command)
@@ -86,8 +86,8 @@ bool PreflightPasses(Quirra &control, const QString &command)
     if (control.LastRunReport().isEmpty())
         return true;
     TellNotes(control, command);
-    say(QStringLiteral("quirra %1: nothing was printed (--strict); correct the records or the "
-                       "layout, or leave out --strict to print as it is")
+    say(Cli::tr("quirra %1: nothing was printed (--strict); correct the records or the "
+                "layout, or leave out --strict to print as it is")
             .arg(command));
     return false;
 }
@@ -99,9 +99,9 @@ int RunCheckCommand(const QStringList &arguments,
     const QString command = QStringLiteral("check");
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Checks the addresses of a CSV file on the chosen piece as print would "
-                       "print them, and tells which records need a look; prints nothing. Exit "
-                       "status 0: all clean, 3: some records need a look."));
+        Cli::tr("Checks the addresses of a CSV file on the chosen piece as print would "
+                "print them, and tells which records need a look; prints nothing. Exit "
+                "status 0: all clean, 3: some records need a look."));
     RunOptions::addTo(parser, false);
     if (const auto status = parse(parser, arguments, command))
         return *status;
@@ -129,7 +129,7 @@ int RunCheckCommand(const QStringList &arguments,
     TellNotes(control, command);
     if (!control.LastRunReport().isEmpty())
         return NotesExitStatus;
-    say(QStringLiteral("quirra check: %1 on \"%2\": nothing to note")
+    say(Cli::tr("quirra check: %1 on \"%2\": nothing to note")
             .arg(records(feed.records()), control.PieceName()));
     return 0;
 }

@@ -12,11 +12,13 @@
 #include "properties/jsonpropertybag.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeySequence>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -29,6 +31,12 @@
 namespace quirra {
 
 namespace {
+
+// The zoom box's fixed choices, in percent, after the two fits.
+constexpr int ZoomChoices[] = {25, 50, 75, 100, 150, 200, 400};
+// The fits' item data: no zoom is negative.
+constexpr int FitPageItem = -1;
+constexpr int FitWidthItem = -2;
 
 // Restores the printer's destination after an export, so that a later Print…
 // goes to the printer chosen in its dialog rather than to the exported file.
@@ -89,6 +97,8 @@ PreviewWindow::PreviewWindow(QWidget *parent)
     QAction *pdf = m_toolBar->addAction(tr("Export PDF…"), this, &PreviewWindow::exportPdf);
     pdf->setObjectName(QStringLiteral("export_pdf_act"));
     m_toolBar->addSeparator();
+    addZoomBox();
+    m_toolBar->addSeparator();
     QAction *about = m_toolBar->addAction(tr("About"), this, &PreviewWindow::showAbout);
     about->setObjectName(QStringLiteral("about_act"));
 
@@ -97,8 +107,75 @@ PreviewWindow::PreviewWindow(QWidget *parent)
     connect(quit, &QAction::triggered, this, &QWidget::close);
     addAction(quit);
 
+    // Someone at the screen picks the printer, the copies and the pages.
+    m_control->PrintDialogOnPrint(true);
+
     resize(900, 700);
     updateTitle();
+}
+
+void PreviewWindow::addZoomBox()
+{
+    m_zoomBox = new QComboBox(this);
+    m_zoomBox->setObjectName(QStringLiteral("zoom_box"));
+    m_zoomBox->setEditable(true);
+    m_zoomBox->setInsertPolicy(QComboBox::NoInsert);
+    m_zoomBox->setToolTip(tr("Zoom of the page on show, in percent (also Ctrl+wheel, Ctrl+plus "
+                             "and Ctrl+minus on the page)"));
+    m_zoomBox->addItem(tr("Fit page"), FitPageItem);
+    m_zoomBox->addItem(tr("Fit width"), FitWidthItem);
+    for (const int percent : ZoomChoices)
+        m_zoomBox->addItem(tr("%1 %").arg(percent), percent);
+    // Wide enough for the longest item and for "1000 %".
+    m_zoomBox->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_toolBar->addWidget(m_zoomBox);
+    connect(m_zoomBox, &QComboBox::activated, this, &PreviewWindow::zoomChosen);
+    connect(m_zoomBox->lineEdit(), &QLineEdit::editingFinished, this, &PreviewWindow::zoomTyped);
+    // Once chosen, the keys go back to the page: the arrows scroll it, Ctrl+plus zooms on.
+    connect(m_zoomBox->lineEdit(), &QLineEdit::returnPressed, m_control->surface(),
+            qOverload<>(&QWidget::setFocus));
+    connect(m_control, &Quirra::propertyChanged, this, [this](const QString &name) {
+        if (name == QLatin1String("PreviewZoom"))
+            showZoom();
+    });
+    showZoom();
+}
+
+void PreviewWindow::zoomChosen(int index)
+{
+    const int choice = m_zoomBox->itemData(index).toInt();
+    if (choice == FitPageItem)
+        zoomToFit(PreviewPane::Fit::Page);
+    else if (choice == FitWidthItem)
+        zoomToFit(PreviewPane::Fit::Width);
+    else if (choice > 0)
+        m_control->PreviewZoom(short(choice));
+    // The box shows the zoom reached, also when the choice changed nothing.
+    showZoom();
+    m_control->surface()->setFocus(Qt::OtherFocusReason);
+}
+
+void PreviewWindow::zoomTyped()
+{
+    QString text = m_zoomBox->currentText().trimmed();
+    if (text.endsWith(QLatin1Char('%')))
+        text.chop(1);
+    bool ok = false;
+    const int percent = text.trimmed().toInt(&ok);
+    // The surface keeps the zoom within its limits; a word is no zoom.
+    if (ok && percent > 0)
+        m_control->PreviewZoom(short(std::min(percent, 30000)));
+    showZoom();
+}
+
+void PreviewWindow::zoomToFit(PreviewPane::Fit fit)
+{
+    m_control->PreviewZoom(short(PreviewPane::fittingZoom(*m_control->surface(), fit)));
+}
+
+void PreviewWindow::showZoom()
+{
+    m_zoomBox->setEditText(tr("%1 %").arg(m_control->PreviewZoom()));
 }
 
 void PreviewWindow::setSourceName(const QString &name)
@@ -110,9 +187,8 @@ void PreviewWindow::setSourceName(const QString &name)
 void PreviewWindow::updateTitle()
 {
     const QString piece = m_control->PieceName();
-    setWindowTitle(m_sourceName.isEmpty()
-                       ? QStringLiteral("quirra - %1").arg(piece)
-                       : QStringLiteral("quirra - %1 on %2").arg(m_sourceName, piece));
+    setWindowTitle(m_sourceName.isEmpty() ? QStringLiteral("quirra - %1").arg(piece)
+                                          : tr("quirra - %1 on %2").arg(m_sourceName, piece));
 }
 
 void PreviewWindow::complain(const QString &text)

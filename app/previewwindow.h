@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "pane/previewpane.h"
+
 #include <functional>
 
 #include <QMainWindow>
 
 class QAction;
+class QComboBox;
 class QToolBar;
 class Quirra;
 
@@ -19,7 +22,10 @@ namespace quirra {
  *
  * The toolbar keeps its actions in groups; the piece, customization and
  * layout dialogs and the property page get a group of their own between the
- * layout and the output actions, and the about box comes last.
+ * layout and the output actions, and the about box comes last. A zoom box
+ * sets the control's PreviewZoom, fits the page or its width to the pane,
+ * and shows the zoom however it was reached (wheel, keys, the property). The
+ * print buttons of the pane ask in the print dialog first.
  */
 class PreviewWindow : public QMainWindow
 {
@@ -65,6 +71,9 @@ public Q_SLOTS:
     void print();
     /** @brief Asks for a file and prints the run to it as PDF. */
     void exportPdf();
+    /** @brief Sets the zoom at which the page on show fits the pane, as the zoom box's fit items
+     * do. */
+    void zoomToFit(quirra::PreviewPane::Fit fit);
     /** @brief Prints the run to the PDF file path; false with a message box on failure. */
     bool exportPdfTo(const QString &path);
 
@@ -74,9 +83,14 @@ private:
     void runDesignStep(const std::function<void()> &step);
     void refresh();
     void updateTitle();
+    void addZoomBox();
+    void zoomChosen(int index);
+    void zoomTyped();
+    void showZoom();
 
     Quirra *m_control;
     QToolBar *m_toolBar;
+    QComboBox *m_zoomBox = nullptr;
     QString m_sourceName;
 };
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "propertyassignment.h"
 
+#include "console.h"
+
 #include "valuelimits.h"
 
 #include <QFont>
@@ -105,15 +107,13 @@ bool PropertyAssignment::parse(const QString &argument, PropertyAssignment *out,
 {
     const qsizetype equals = argument.indexOf(QLatin1Char('='));
     if (equals < 0) {
-        *error =
-            QStringLiteral("--set %1: write it as NAME=VALUE, e.g. --set AddressHorzAlign=haCenter")
-                .arg(argument);
+        *error = Cli::tr("--set %1: write it as NAME=VALUE, e.g. --set AddressHorzAlign=haCenter")
+                     .arg(argument);
         return false;
     }
     const QString name = argument.left(equals).trimmed();
     if (name.isEmpty()) {
-        *error =
-            QStringLiteral("--set %1: the property's name is missing before '='").arg(argument);
+        *error = Cli::tr("--set %1: the property's name is missing before '='").arg(argument);
         return false;
     }
     *out = PropertyAssignment(name, argument.mid(equals + 1));
@@ -149,27 +149,26 @@ QString PropertyAssignment::unescapeText(const QString &text)
 QString PropertyAssignment::describeType(const QMetaProperty &property)
 {
     if (property.isEnumType()) {
-        return QStringLiteral("one of %1, by name or number")
-            .arg(enumChoices(property.enumerator()));
+        return Cli::tr("one of %1, by name or number").arg(enumChoices(property.enumerator()));
     }
     const QMetaType type = property.metaType();
     IntRange range{};
     if (integerRange(type, &range))
-        return QStringLiteral("a whole number from %1 to %2").arg(range.low).arg(range.high);
+        return Cli::tr("a whole number from %1 to %2").arg(range.low).arg(range.high);
     switch (type.id()) {
     case QMetaType::Float:
     case QMetaType::Double:
-        return QStringLiteral("a number with a full stop as decimal point, e.g. 0.25 (inches for "
-                              "lengths)");
+        return Cli::tr("a number with a full stop as decimal point, e.g. 0.25 (inches for "
+                       "lengths)");
     case QMetaType::Bool:
-        return QStringLiteral("true or false (or 1 or 0)");
+        return Cli::tr("true or false (or 1 or 0)");
     case QMetaType::QString:
-        return QStringLiteral("text; \\n starts a new line");
+        return Cli::tr("text; \\n starts a new line");
     case QMetaType::QFont:
-        return QStringLiteral("a font as family and point size, e.g. \"Liberation Serif,12\", or "
-                              "a full QFont::toString() text");
+        return Cli::tr("a font as family and point size, e.g. \"Liberation Serif,12\", or "
+                       "a full QFont::toString() text");
     default:
-        return QStringLiteral("a value of type %1, which cannot be given on the command line")
+        return Cli::tr("a value of type %1, which cannot be given on the command line")
             .arg(QLatin1String(type.name()));
     }
 }
@@ -264,21 +263,21 @@ bool PropertyAssignment::apply(QObject *target, QString *error, QStringList *war
     const QMetaObject *meta = target->metaObject();
     const int index = meta->indexOfProperty(m_name.toLatin1().constData());
     if (index < meta->propertyOffset() || m_name.contains(QLatin1Char('\0'))) {
-        *error = QStringLiteral("--set %1: the control has no property \"%1\"").arg(m_name);
+        *error = Cli::tr("--set %1: the control has no property \"%1\"").arg(m_name);
         const QStringList similar = similarNames(meta, m_name);
         if (!similar.isEmpty())
-            *error += QStringLiteral("; did you mean %1?").arg(similar.join(QStringLiteral(", ")));
+            *error += Cli::tr("; did you mean %1?").arg(similar.join(QStringLiteral(", ")));
         return false;
     }
     const QMetaProperty property = meta->property(index);
     if (!property.isWritable()) {
-        *error = QStringLiteral("--set %1: the property cannot be set").arg(m_name);
+        *error = Cli::tr("--set %1: the property cannot be set").arg(m_name);
         return false;
     }
     QVariant value;
     QString why;
     if (!convert(property, m_value, property.read(target), &value, &why)) {
-        *error = QStringLiteral("--set %1=%2: %1 takes %3").arg(m_name, m_value, why);
+        *error = Cli::tr("--set %1=%2: %1 takes %3").arg(m_name, m_value, why);
         return false;
     }
     const QString limit = valueProblem(m_name, value);
@@ -287,15 +286,15 @@ bool PropertyAssignment::apply(QObject *target, QString *error, QStringList *war
         return false;
     }
     if (!property.write(target, value)) {
-        *error = QStringLiteral("--set %1=%2: the control did not take the value; %1 takes %3")
+        *error = Cli::tr("--set %1=%2: the control did not take the value; %1 takes %3")
                      .arg(m_name, m_value, describeType(property));
         return false;
     }
     if (warnings && value.metaType().id() == QMetaType::QFont) {
         const QString family = value.value<QFont>().family();
         if (!QFontDatabase::hasFamily(family)) {
-            *warnings << QStringLiteral("--set %1: no font family \"%2\" is installed; the "
-                                        "closest one is used")
+            *warnings << Cli::tr("--set %1: no font family \"%2\" is installed; the "
+                                 "closest one is used")
                              .arg(m_name, family);
         }
     }

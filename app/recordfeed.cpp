@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "recordfeed.h"
 
+#include "console.h"
+
 #include "addresscolumns.h"
 #include "csvreader.h"
 
@@ -19,13 +21,13 @@ bool RecordFeed::open(const QString &path, QString *error)
 {
     if (path == QLatin1String("-")) {
         if (isatty(STDIN_FILENO)) {
-            *error = QStringLiteral("no CSV file given and standard input is a terminal; name a "
-                                    "file or pipe one in");
+            *error = Cli::tr("no CSV file given and standard input is a terminal; name a "
+                             "file or pipe one in");
             return false;
         }
-        m_name = QStringLiteral("standard input");
+        m_name = Cli::tr("standard input");
         if (!m_file.open(STDIN_FILENO, QIODevice::ReadOnly)) {
-            *error = QStringLiteral("cannot read standard input: %1").arg(m_file.errorString());
+            *error = Cli::tr("cannot read standard input: %1").arg(m_file.errorString());
             return false;
         }
         m_size = -1;
@@ -34,12 +36,12 @@ bool RecordFeed::open(const QString &path, QString *error)
     m_name = path;
     const QFileInfo info(path);
     if (info.isDir()) {
-        *error = QStringLiteral("%1: is a folder; name the CSV file").arg(path);
+        *error = Cli::tr("%1: is a folder; name the CSV file").arg(path);
         return false;
     }
     m_file.setFileName(path);
     if (!m_file.open(QIODevice::ReadOnly)) {
-        *error = QStringLiteral("%1: cannot read the file: %2").arg(path, m_file.errorString());
+        *error = Cli::tr("%1: cannot read the file: %2").arg(path, m_file.errorString());
         return false;
     }
     m_size = m_file.isSequential() ? -1 : m_file.size();
@@ -57,8 +59,8 @@ bool RecordFeed::feed(const Progress &progress, QString *error)
     QString problem;
     if (!reader.readRow(fields)) {
         if (reader.error().isEmpty())
-            *error = QStringLiteral("%1: the file is empty; it needs a header row naming its "
-                                    "columns: %2")
+            *error = Cli::tr("%1: the file is empty; it needs a header row naming its "
+                             "columns: %2")
                          .arg(m_name, AddressColumns::acceptedNames());
         else
             *error = QStringLiteral("%1: %2").arg(m_name, reader.error());
@@ -91,8 +93,8 @@ bool RecordFeed::feed(const Progress &progress, QString *error)
             if (fields.at(i).trimmed().compare(m_copiesColumn, Qt::CaseInsensitive) == 0)
                 copiesAt = i;
         if (copiesAt < 0) {
-            *error = QStringLiteral("%1: no column is named \"%2\" (--copies-column); the "
-                                    "columns are %3")
+            *error = Cli::tr("%1: no column is named \"%2\" (--copies-column); the "
+                             "columns are %3")
                          .arg(m_name, m_copiesColumn, fields.join(QStringLiteral(", ")));
             return false;
         }
@@ -115,8 +117,8 @@ bool RecordFeed::feed(const Progress &progress, QString *error)
             copies = value.toLongLong(&ok);
             if (!ok || copies < 0 || copies > MostCopies) {
                 m_control.EndDoc();
-                *error = QStringLiteral("%1: line %2: the copies column \"%3\" holds \"%4\"; "
-                                        "give a whole number, 0 to %5")
+                *error = Cli::tr("%1: line %2: the copies column \"%3\" holds \"%4\"; "
+                                 "give a whole number, 0 to %5")
                              .arg(m_name, QString::number(reader.rowLine()), m_copiesColumn, value,
                                   QString::number(MostCopies));
                 return false;
@@ -133,7 +135,7 @@ bool RecordFeed::feed(const Progress &progress, QString *error)
         ++m_records;
         if (progress && !progress(m_records, reader.bytesRead())) {
             m_control.EndDoc();
-            *error = QStringLiteral("%1: stopped after %2 records").arg(m_name).arg(m_records);
+            *error = Cli::tr("%1: stopped after %2 records").arg(m_name).arg(m_records);
             return false;
         }
     }
@@ -143,8 +145,7 @@ bool RecordFeed::feed(const Progress &progress, QString *error)
         return false;
     }
     if (m_records == 0) {
-        *error =
-            QStringLiteral("%1: no records after the header row; nothing to print").arg(m_name);
+        *error = Cli::tr("%1: no records after the header row; nothing to print").arg(m_name);
         return false;
     }
     return true;

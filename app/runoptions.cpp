@@ -31,17 +31,17 @@ QString unknownPieceError(const QString &name)
 {
     const QString file = CatalogueFilePath();
     if (file.isEmpty()) {
-        return QStringLiteral("there is no catalogue (quirra.cfg) in %1 to find the piece \"%2\" "
-                              "in; set QUIRRA_SYSTEM_DIR to the folder that holds it")
+        return Cli::tr("there is no catalogue (quirra.cfg) in %1 to find the piece \"%2\" "
+                       "in; set QUIRRA_SYSTEM_DIR to the folder that holds it")
             .arg(SystemDirectory(), name);
     }
     QStringList quoted;
     for (const QString &near : nearestPieceNames(file, name))
         quoted << QLatin1Char('"') + near + QLatin1Char('"');
-    QString text = QStringLiteral("the catalogue has no piece \"%1\"").arg(name);
+    QString text = Cli::tr("the catalogue has no piece \"%1\"").arg(name);
     if (!quoted.isEmpty())
-        text += QStringLiteral("; did you mean %1?").arg(quoted.join(QStringLiteral(", ")));
-    return text + QStringLiteral(" (quirra pieces lists them all)");
+        text += Cli::tr("; did you mean %1?").arg(quoted.join(QStringLiteral(", ")));
+    return text + Cli::tr(" (quirra pieces lists them all)");
 }
 
 // Choosing a piece gives every item without text the layout's placeholder
@@ -71,71 +71,71 @@ void RunOptions::addTo(QCommandLineParser &parser, bool withOutput)
 {
     parser.addPositionalArgument(
         QStringLiteral("csv"),
-        QStringLiteral("The CSV file (UTF-8, a header row naming the columns); - or nothing "
-                       "reads standard input."),
+        Cli::tr("The CSV file (UTF-8, a header row naming the columns); - or nothing "
+                "reads standard input."),
         QStringLiteral("[CSV]"));
     parser.addOption({QStringLiteral("piece"),
-                      QStringLiteral("The catalogue piece to print on (see quirra pieces); "
-                                     "default \"%1\".")
+                      Cli::tr("The catalogue piece to print on (see quirra pieces); "
+                              "default \"%1\".")
                           .arg(DefaultPieceName),
-                      QStringLiteral("name")});
+                      Cli::tr("name", "an option's value in the help")});
     parser.addOption({QStringLiteral("layout"),
-                      QStringLiteral("A saved layout (JSON, as quirra preview saves it), read "
-                                     "before --piece and --set."),
-                      QStringLiteral("file")});
+                      Cli::tr("A saved layout (JSON, as quirra preview saves it), read "
+                              "before --piece and --set."),
+                      Cli::tr("file", "an option's value in the help")});
     parser.addOption({QStringLiteral("set"),
-                      QStringLiteral("Sets a property of the control by its name, e.g. "
-                                     "ReturnText=\"ACME Mail\\n1 Main St\", AddressHorzAlign="
-                                     "haCenter, AddressFont=\"Liberation Serif,12\"; applied in "
-                                     "order after --layout and --piece. May be repeated."),
-                      QStringLiteral("property=value")});
+                      Cli::tr("Sets a property of the control by its name, e.g. "
+                              "ReturnText=\"ACME Mail\\n1 Main St\", AddressHorzAlign="
+                              "haCenter, AddressFont=\"Liberation Serif,12\"; applied in "
+                              "order after --layout and --piece. May be repeated."),
+                      Cli::tr("property=value", "an option's value in the help")});
     if (withOutput) {
         parser.addOption({QStringLiteral("pdf"),
-                          QStringLiteral("Write the pages to this PDF file instead of printing."),
-                          QStringLiteral("file")});
+                          Cli::tr("Write the pages to this PDF file instead of printing."),
+                          Cli::tr("file", "an option's value in the help")});
         parser.addOption({QStringLiteral("pages"),
-                          QStringLiteral("Print only these pages: 3-5, 4 or 2- (to the end)."),
-                          QStringLiteral("range")});
+                          Cli::tr("Print only these pages: 3-5, 4 or 2- (to the end)."),
+                          Cli::tr("range", "an option's value in the help")});
         parser.addOption({QStringLiteral("printer"),
-                          QStringLiteral("Print on this printer (default: the system's default "
-                                         "printer)."),
-                          QStringLiteral("name")});
+                          Cli::tr("Print on this printer (default: the system's default "
+                                  "printer)."),
+                          Cli::tr("name", "an option's value in the help")});
     }
     parser.addOption({QStringLiteral("start"),
-                      QStringLiteral("Start on slot N of the first sheet (slots numbered row by "
-                                     "row from 1), to use up a sheet already used."),
+                      Cli::tr("Start on slot N of the first sheet (slots numbered row by "
+                              "row from 1), to use up a sheet already used."),
                       QStringLiteral("N")});
     parser.addOption({QStringLiteral("outlines"),
-                      QStringLiteral("Draw each piece's outline, thin and grey, to check the "
-                                     "alignment on plain paper.")});
+                      Cli::tr("Draw each piece's outline, thin and grey, to check the "
+                              "alignment on plain paper.")});
     parser.addOption({QStringLiteral("copies-column"),
-                      QStringLiteral("The column holding how many pieces of each record to "
-                                     "print (a whole number, 0 or more)."),
-                      QStringLiteral("name")});
+                      Cli::tr("The column holding how many pieces of each record to "
+                              "print (a whole number, 0 or more)."),
+                      Cli::tr("name", "an option's value in the help")});
     parser.addOption({QStringLiteral("progress"),
-                      QStringLiteral("Draw a progress bar on standard error (the default when it "
-                                     "is a terminal).")});
-    parser.addOption({QStringLiteral("no-progress"), QStringLiteral("Draw no progress bar.")});
+                      Cli::tr("Draw a progress bar on standard error (the default when it "
+                              "is a terminal).")});
+    parser.addOption({QStringLiteral("no-progress"), Cli::tr("Draw no progress bar.")});
 }
 
 bool RunOptions::read(const QCommandLineParser &parser, bool withOutput, QString *error)
 {
     const QStringList positional = parser.positionalArguments();
     if (positional.size() > 1) {
-        *error = QStringLiteral("give one CSV file, not %1 (%2)")
+        *error = Cli::tr("give one CSV file, not %1 (%2)")
                      .arg(positional.size())
                      .arg(positional.join(QStringLiteral(", ")));
         return false;
     }
     csvPath = positional.value(0, QStringLiteral("-"));
     if (csvPath.isEmpty()) {
-        *error = QStringLiteral("the CSV file name is empty");
+        *error = Cli::tr("the CSV file name is empty");
         return false;
     }
     if (parser.isSet(QStringLiteral("piece"))) {
         piece = parser.value(QStringLiteral("piece")).trimmed();
         if (piece.isEmpty()) {
-            *error = QStringLiteral("--piece needs a name (see quirra pieces)");
+            *error = Cli::tr("--piece needs a name (see quirra pieces)");
             return false;
         }
     }
@@ -151,15 +151,15 @@ bool RunOptions::read(const QCommandLineParser &parser, bool withOutput, QString
         pdfPath = parser.value(QStringLiteral("pdf"));
         printerName = parser.value(QStringLiteral("printer"));
         if (parser.isSet(QStringLiteral("pdf")) && pdfPath.isEmpty()) {
-            *error = QStringLiteral("--pdf needs a file name");
+            *error = Cli::tr("--pdf needs a file name");
             return false;
         }
         if (parser.isSet(QStringLiteral("printer")) && printerName.isEmpty()) {
-            *error = QStringLiteral("--printer needs a printer's name");
+            *error = Cli::tr("--printer needs a printer's name");
             return false;
         }
         if (!pdfPath.isEmpty() && !printerName.isEmpty()) {
-            *error = QStringLiteral("give either --pdf or --printer, not both");
+            *error = Cli::tr("give either --pdf or --printer, not both");
             return false;
         }
     }
@@ -168,7 +168,7 @@ bool RunOptions::read(const QCommandLineParser &parser, bool withOutput, QString
         bool ok = false;
         startSlot = parser.value(QStringLiteral("start")).trimmed().toInt(&ok);
         if (!ok || startSlot < 1 || startSlot > 32767) {
-            *error = QStringLiteral("--start %1: give the slot as a whole number from 1")
+            *error = Cli::tr("--start %1: give the slot as a whole number from 1")
                          .arg(parser.value(QStringLiteral("start")));
             return false;
         }
@@ -182,8 +182,8 @@ bool RunOptions::read(const QCommandLineParser &parser, bool withOutput, QString
         firstPage = m.captured(1).toInt();
         lastPage = m.captured(2).isEmpty() ? firstPage : m.captured(3).toInt();
         if (!m.hasMatch() || firstPage < 1 || (lastPage != 0 && lastPage < firstPage)) {
-            *error = QStringLiteral("--pages %1: give a page or a range of pages from 1, as 3-5, "
-                                    "4 or 2-")
+            *error = Cli::tr("--pages %1: give a page or a range of pages from 1, as 3-5, "
+                             "4 or 2-")
                          .arg(value);
             return false;
         }
@@ -191,13 +191,13 @@ bool RunOptions::read(const QCommandLineParser &parser, bool withOutput, QString
     outlines = parser.isSet(QStringLiteral("outlines"));
     copiesColumn = parser.value(QStringLiteral("copies-column")).trimmed();
     if (parser.isSet(QStringLiteral("copies-column")) && copiesColumn.isEmpty()) {
-        *error = QStringLiteral("--copies-column needs a column's name");
+        *error = Cli::tr("--copies-column needs a column's name");
         return false;
     }
     const bool on = parser.isSet(QStringLiteral("progress"));
     const bool off = parser.isSet(QStringLiteral("no-progress"));
     if (on && off) {
-        *error = QStringLiteral("give either --progress or --no-progress, not both");
+        *error = Cli::tr("give either --progress or --no-progress, not both");
         return false;
     }
     progress = on ? Progress::On : off ? Progress::Off : Progress::Auto;
@@ -289,7 +289,7 @@ bool RunOptions::applyTo(Quirra &control, QStringList *warnings, QString *error)
     if (startSlot > 0) {
         const int slots = int(control.PieceNumAcross()) * int(control.PieceNumDown());
         if (startSlot > slots) {
-            *error = QStringLiteral("--start %1: the sheet of \"%2\" has %3 slots; give 1 to %3")
+            *error = Cli::tr("--start %1: the sheet of \"%2\" has %3 slots; give 1 to %3")
                          .arg(startSlot)
                          .arg(control.PieceName())
                          .arg(slots);

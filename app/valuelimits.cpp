@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "valuelimits.h"
 
+#include "console.h"
+
 #include <QMetaType>
 
 #include <cmath>
@@ -13,7 +15,7 @@ QString valueProblem(const QString &name, const QVariant &value)
     if (value.typeId() == QMetaType::QString) {
         const qsizetype length = value.toString().size();
         if (length > MaxItemTextLength) {
-            return QStringLiteral("%1 is %2 characters long; a text may have at most %3")
+            return Cli::tr("%1 is %2 characters long; a text may have at most %3")
                 .arg(name)
                 .arg(length)
                 .arg(MaxItemTextLength);
@@ -25,7 +27,7 @@ QString valueProblem(const QString &name, const QVariant &value)
     if (number && name.startsWith(QLatin1String("PrinterScale"))) {
         const double percent = value.toDouble();
         if (!std::isfinite(percent) || percent < 90 || percent > 110)
-            return QStringLiteral("%1 is %2 %; the printer's scale is from 90 to 110 %")
+            return Cli::tr("%1 is %2 %; the printer's scale is from 90 to 110 %")
                 .arg(name)
                 .arg(percent);
         return QString();
@@ -35,7 +37,7 @@ QString valueProblem(const QString &name, const QVariant &value)
     if (number) {
         const double inches = value.toDouble();
         if (!std::isfinite(inches) || inches < 0 || inches > MaxInches) {
-            return QStringLiteral("%1 is %2 in; a length on a sheet is from 0 to %3 in")
+            return Cli::tr("%1 is %2 in; a length on a sheet is from 0 to %3 in")
                 .arg(name)
                 .arg(inches)
                 .arg(MaxInches);

@@ -35,9 +35,10 @@ QString QuirraDesignerPlugin::whatsThis() const
 
 QString QuirraDesignerPlugin::includeFile() const
 {
-    // The installed package's include folder is on the host's path; the
-    // control's header sits in it under control/.
-    return QStringLiteral("control/quirra.h");
+    // The installed package's include folder is on the host's path, the
+    // control's headers in its QuirraControl/; the brackets make it a system
+    // include in the code uic writes.
+    return QStringLiteral("<QuirraControl/Quirra>");
 }
 
 QIcon QuirraDesignerPlugin::icon() const

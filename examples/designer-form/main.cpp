@@ -7,9 +7,10 @@
 // the values the form gave the control, one a line.
 //
 //   designer-form [--check]
-#include "control/quirra.h"
-#include "model/error.h"
 #include "ui_addressform.h"
+
+#include <QuirraControl/Error>
+#include <QuirraControl/Quirra>
 
 #include <QApplication>
 

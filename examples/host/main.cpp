@@ -7,9 +7,9 @@
 // to the PDF file named on the command line.
 //
 //   host OUT.pdf [PIECE]
-#include "control/quirra.h"
-#include "dialogs/hostservices.h"
-#include "model/error.h"
+#include <QuirraControl/Error>
+#include <QuirraControl/HostServices>
+#include <QuirraControl/Quirra>
 
 #include <QApplication>
 #include <QPrinter>

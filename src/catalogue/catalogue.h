@@ -3,8 +3,6 @@
 #pragma once
 
 #include "catalogue/pieceentry.h"
-#include "quirracontrol_export.h"
-
 #include <QString>
 #include <QStringList>
 
@@ -49,41 +47,41 @@ enum PieceType : int {
  * number as 0, and counts beyond 16 bits as 0; nothing is reported. Name is
  * name and IsCustom false.
  */
-QUIRRACONTROL_EXPORT PieceSpec ReadPieceSpec(const QString &file, const QString &name);
+PieceSpec ReadPieceSpec(const QString &file, const QString &name);
 
 /**
  * @brief PieceTypeContinuous when the master catalogue's record of name ends
  * in "CONT" (any case, blanks around it allowed), else PieceTypeCut (also for
  * a missing record).
  */
-QUIRRACONTROL_EXPORT int ReadPieceType(const QString &name);
+int ReadPieceType(const QString &name);
 
 /** @brief The product (first field) of name's record in the master catalogue. */
-QUIRRACONTROL_EXPORT QString ReadPieceProduct(const QString &name);
+QString ReadPieceProduct(const QString &name);
 
 /**
  * @brief The master catalogue's full path (SystemDirectory() + "quirra.cfg"),
  * or the empty text when that file cannot be read.
  */
-QUIRRACONTROL_EXPORT QString CatalogueFilePath();
+QString CatalogueFilePath();
 
 /**
  * @brief The products of a printer family section: the first field of
  * product(1) ... up to the last one present, gaps kept as empty entries.
  */
-QUIRRACONTROL_EXPORT QStringList ReadProductList(const QString &file, const QString &family);
+QStringList ReadProductList(const QString &file, const QString &family);
 
 /**
  * @brief The pieces of a product section: the first field of Piece(1) ... up
  * to the last one present, gaps kept as empty entries.
  */
-QUIRRACONTROL_EXPORT QStringList ReadPieceList(const QString &file, const QString &product);
+QStringList ReadPieceList(const QString &file, const QString &product);
 
 /**
  * @brief The captions of the paper size list in PaperCatalogueFile(): the
  * text after the last comma of each size(n), gaps kept as empty entries.
  */
-QUIRRACONTROL_EXPORT QStringList ReadPaperSizeCaptions();
+QStringList ReadPaperSizeCaptions();
 
 /**
  * @brief Width and height (inches) of the paper size at a zero-based
@@ -93,6 +91,6 @@ QUIRRACONTROL_EXPORT QStringList ReadPaperSizeCaptions();
  * its first "x" and the height after its last "x". A missing entry reads as
  * "8.5x11", a value without the dimension field, so both come out 0.
  */
-QUIRRACONTROL_EXPORT void ReadPaperSize(int index, float &width, float &height);
+void ReadPaperSize(int index, float &width, float &height);
 
 } // namespace quirra

@@ -4,8 +4,6 @@
 
 #include "catalogue/pieceentry.h"
 #include "catalogue/templatereader.h"
-#include "quirracontrol_export.h"
-
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -18,7 +16,7 @@ struct Piece;
 class PieceModel;
 
 /** @brief One piece the catalogue holds, with what the picker shows of it. */
-struct QUIRRACONTROL_EXPORT CatalogueEntry
+struct CatalogueEntry
 {
     PieceSpec sheet;  ///< the geometry, inches
     QString product;  ///< the product (family): the record's first field, a template's description
@@ -42,7 +40,7 @@ struct QUIRRACONTROL_EXPORT CatalogueEntry
  * products of the cut-sheet family. The object never changes once opened;
  * the control and the dialogs share the one system() gives.
  */
-class QUIRRACONTROL_EXPORT Catalogue
+class Catalogue
 {
 public:
     /**
@@ -141,6 +139,6 @@ private:
  * sizes, pitch, the page's description and real size, the custom flag; then
  * derives the orientation and paper code. The name and the items are left.
  */
-QUIRRACONTROL_EXPORT void CopyPieceSpec(const PieceSpec &entry, Piece &piece);
+void CopyPieceSpec(const PieceSpec &entry, Piece &piece);
 
 } // namespace quirra

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -16,7 +14,7 @@ namespace quirra {
  * ships). A record that is missing or broken reads as all zeros and empty
  * texts; a NumAcross below 1 marks it as not found.
  */
-struct QUIRRACONTROL_EXPORT PieceSpec
+struct PieceSpec
 {
     QString Name;          ///< the piece's name, the key of its record
     QString PageDesc;      ///< the page as the paper size list names it

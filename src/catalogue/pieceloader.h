@@ -4,8 +4,6 @@
 
 #include "catalogue/pieceentry.h"
 #include "model/piecemodel.h"
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -15,7 +13,7 @@ namespace quirra {
  * pitch, the page's description and real size, in inches), the form the
  * piece dialogs edit. The custom flag is left for the caller.
  */
-QUIRRACONTROL_EXPORT PieceSpec PieceEntryOf(const Piece &piece);
+PieceSpec PieceEntryOf(const Piece &piece);
 
 /**
  * @brief Puts a piece's geometry into the model and gives its items their
@@ -28,7 +26,7 @@ QUIRRACONTROL_EXPORT PieceSpec PieceEntryOf(const Piece &piece);
  * orientation are left as they are. Choosing or customising a piece thus
  * always resets the item layout.
  */
-QUIRRACONTROL_EXPORT void ApplyPieceSpec(const PieceSpec &entry, PieceModel &model);
+void ApplyPieceSpec(const PieceSpec &entry, PieceModel &model);
 
 /**
  * @brief Loads the catalogue piece name into the model, as setting the
@@ -42,6 +40,6 @@ QUIRRACONTROL_EXPORT void ApplyPieceSpec(const PieceSpec &entry, PieceModel &mod
  *
  * @return true when name itself was found.
  */
-QUIRRACONTROL_EXPORT bool LoadPieceByName(const QString &name, PieceModel &model);
+bool LoadPieceByName(const QString &name, PieceModel &model);
 
 } // namespace quirra

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QHash>
 #include <QList>
 #include <QSizeF>
@@ -25,7 +23,7 @@ enum class LabelShape { Rectangle, Round, Ellipse, Cd };
  * brand (`equiv`) reads with that product's geometry and keeps its own part
  * number in `part` and the named one in `aliasOf`.
  */
-struct QUIRRACONTROL_EXPORT LabelTemplate
+struct LabelTemplate
 {
     QString brand;       ///< "Avery"
     QString part;        ///< "5160", "L7163"
@@ -59,7 +57,7 @@ using PaperSizes = QHash<QString, QSizeF>;
  * @brief What reading template files gave: the products, and a line for each
  * template that was passed over.
  */
-struct QUIRRACONTROL_EXPORT TemplateReadResult
+struct TemplateReadResult
 {
     QList<LabelTemplate> templates;
     /** @brief "file:line: template "Avery 1234": what is wrong", one per skipped template. */
@@ -73,10 +71,10 @@ struct QUIRRACONTROL_EXPORT TemplateReadResult
  * the unit follows the number ("in", "mm", "cm", "pt", "pc").
  * @return false for an empty text, a unit nobody knows, or no number at all.
  */
-QUIRRACONTROL_EXPORT bool parseTemplateLength(QStringView text, double *inches);
+bool parseTemplateLength(QStringView text, double *inches);
 
 /** @brief Reads a `paper-sizes.xml` file; unreadable entries are left out. */
-QUIRRACONTROL_EXPORT PaperSizes readPaperSizes(QIODevice &device);
+PaperSizes readPaperSizes(QIODevice &device);
 
 /**
  * @brief Reads one `*-templates.xml` file into @p result.
@@ -85,20 +83,19 @@ QUIRRACONTROL_EXPORT PaperSizes readPaperSizes(QIODevice &device);
  * gives them their product's, which may stand in another file.
  * @param fileName used in warnings only
  */
-QUIRRACONTROL_EXPORT void readTemplates(QIODevice &device, const QString &fileName,
-                                        const PaperSizes &papers, TemplateReadResult &result);
+void readTemplates(QIODevice &device, const QString &fileName, const PaperSizes &papers,
+                   TemplateReadResult &result);
 
 /**
  * @brief Gives each alias the geometry of the product of its brand that it
  * names; an alias whose product is missing is dropped with a warning.
  */
-QUIRRACONTROL_EXPORT void resolveTemplateAliases(TemplateReadResult &result);
+void resolveTemplateAliases(TemplateReadResult &result);
 
 /**
  * @brief Reads every template of a folder: its `paper-sizes.xml` (or the one
  * of @p fallbackPapers when it has none) and each `*-templates.xml`, in name order.
  */
-QUIRRACONTROL_EXPORT TemplateReadResult readTemplateFolder(const QString &folder,
-                                                           const PaperSizes &fallbackPapers = {});
+TemplateReadResult readTemplateFolder(const QString &folder, const PaperSizes &fallbackPapers = {});
 
 } // namespace quirra

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QDialog>
 #include <QString>
 
@@ -16,7 +14,7 @@ namespace quirra {
  * "version_lbl", "credits_lbl" and the button "ok_btn", which closes it.
  * The box itself is "about_box".
  */
-class QUIRRACONTROL_EXPORT AboutBox : public QDialog
+class AboutBox : public QDialog
 {
     Q_OBJECT
 

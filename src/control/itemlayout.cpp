@@ -5,6 +5,7 @@
 #include "catalogue/piececatalogue.h"
 #include "catalogue/pieceentry.h"
 #include "catalogue/pieceloader.h"
+#include "control/calibrationfields.h"
 #include "control/logging_p.h"
 #include "control/quirra.h"
 #include "dialogs/piece_customization_form.h"
@@ -182,8 +183,19 @@ void ItemLayout::buildWidgets()
     m_pieceName->setMinimumWidth(sideWidth - m_pieceButton->width() - 6);
     m_layoutButton->setMinimumWidth(sideWidth);
 
+    // The printer's offsets and stretch, under the miniature.
+    m_calibration = new CalibrationFields(this);
+    connect(m_calibration, &CalibrationFields::edited, this,
+            [this](const QString &name, float value) {
+                CalibrationFields::store(m_copy.model(), name, value);
+                setChanged(true);
+            });
+    auto *main = new QVBoxLayout;
+    main->addWidget(m_frame, 1);
+    main->addWidget(m_calibration);
+
     auto *layout = new QHBoxLayout(this);
-    layout->addWidget(m_frame, 1);
+    layout->addLayout(main, 1);
     layout->addLayout(side);
 }
 
@@ -195,13 +207,17 @@ void ItemLayout::setSelectedControls(const QList<Quirra *> &controls)
             m_controls.append(control);
     }
     const bool any = !m_controls.isEmpty();
-    if (any)
-        m_copy.readFrom(*m_controls.first());
-    else
-        m_copy = LayoutCopy();
+    m_copy = LayoutCopy();
+    if (any) {
+        const Quirra &control = *m_controls.first();
+        m_copy.readFrom(control);
+        m_copy.model().PrinterScaleX = control.PrinterScaleX();
+        m_copy.model().PrinterScaleY = control.PrinterScaleY();
+    }
     for (QPushButton *button : {m_layoutButton, m_customButton, m_pieceButton})
         button->setEnabled(any);
     m_frame->setEnabled(any);
+    m_calibration->setEnabled(any);
     setChanged(false);
     refresh();
 }
@@ -223,7 +239,10 @@ void ItemLayout::applyChanges()
         qCInfo(lcControl) << "nothing to apply: the property page has no control";
         return;
     }
-    m_copy.writeTo(*controls.first());
+    Quirra &control = *controls.first();
+    m_copy.writeTo(control);
+    control.PrinterScaleX(m_copy.model().PrinterScaleX);
+    control.PrinterScaleY(m_copy.model().PrinterScaleY);
 }
 
 void ItemLayout::setChanged(bool changed)
@@ -323,6 +342,7 @@ void ItemLayout::refresh()
     styleShapes();
     showPieceInfo();
     showItemInfo();
+    m_calibration->showValues(m_copy.model());
 }
 
 void ItemLayout::layoutMiniature()

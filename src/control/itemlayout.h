@@ -4,8 +4,6 @@
 
 #include "control/layoutcopy.h"
 #include "model/item.h"
-#include "quirracontrol_export.h"
-
 #include <QList>
 #include <QPointer>
 #include <QString>
@@ -37,12 +35,19 @@ namespace quirra {
  * miniature "piecebox", on it the shapes "shpAdd", "shpRet", "shpM1", "shpM2",
  * "shpStamp" and their caption labels "lblAdd" ... "lblStamp"; "lblPName",
  * "lblPHeight", "lblPWidth"; "lblItem", "lblItop", "lblIleft", "lblIheight",
- * "lblIwidth"; the buttons "btnPieceLayout", "btnPieceCust", "btnDotDotDot".
+ * "lblIwidth"; the buttons "btnPieceLayout", "btnPieceCust", "btnDotDotDot";
+ * under the miniature the printer's calibration "frmCalibration" with the
+ * boxes "txtPrinterLeft", "txtPrinterTop", "txtPrinterScaleX",
+ * "txtPrinterScaleY" (inches 0 to 1, percent 90 to 110; a value outside is
+ * refused and "lblCalibrationNote" gives the range). A value taken there
+ * goes into the working copy and marks the page changed.
  *
  * A click on a caption label picks that item; a double click opens the
  * layout editor and marks the page changed.
  */
-class QUIRRACONTROL_EXPORT ItemLayout : public QWidget
+class CalibrationFields;
+
+class ItemLayout : public QWidget
 {
     Q_OBJECT
 
@@ -65,12 +70,13 @@ public:
     /**
      * @brief Apply: writes the working copy into the first selected control,
      * PieceName only when it differs, then the piece and the items Address,
-     * Return, Message1, Message2, Stamp. Leaves the changed mark to the host.
+     * Return, Message1, Message2, Stamp, then PrinterScaleX and PrinterScaleY.
+     * Leaves the changed mark to the host.
      */
     void applyChanges();
 
-    /** @brief The changed mark: set by an accepted piece selection or customization and by a double
-     * click on a caption label. */
+    /** @brief The changed mark: set by an accepted piece selection or customization, by a double
+     * click on a caption label and by a calibration value taken. */
     bool isChanged() const { return m_changed; }
 
     /** @brief Sets or clears the changed mark (a host clears it after applying). */
@@ -146,6 +152,7 @@ private:
     QPushButton *m_layoutButton = nullptr;
     QPushButton *m_customButton = nullptr;
     QPushButton *m_pieceButton = nullptr;
+    CalibrationFields *m_calibration = nullptr;
 };
 
 } // namespace quirra

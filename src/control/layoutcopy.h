@@ -4,8 +4,6 @@
 
 #include "model/item.h"
 #include "model/piecemodel.h"
-#include "quirracontrol_export.h"
-
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -24,7 +22,7 @@ namespace quirra {
  * fonts as QFont), so reading and writing go through the control's own
  * getters and setters, and every setter announces its own name.
  */
-class QUIRRACONTROL_EXPORT LayoutCopy
+class LayoutCopy
 {
 public:
     /**

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QFont>
 #include <QMetaType>
 #include <QString>
@@ -30,7 +28,7 @@ template <typename T> using PropertyArg = std::conditional_t<std::is_class_v<T>,
  * 32-bit integers, everything else as its own type (short, float, bool,
  * QString, QFont).
  */
-struct QUIRRACONTROL_EXPORT PropertyInfo
+struct PropertyInfo
 {
     /** @brief Computes a value from the control's default set and its inherited font. */
     using ValueFunction = QVariant (*)(const DefaultSet &set, const QFont &ambient);
@@ -38,8 +36,8 @@ struct QUIRRACONTROL_EXPORT PropertyInfo
     QString name;        ///< the published name
     QMetaType type;      ///< the property's C++ type
     QMetaType savedType; ///< the type its values travel as
-    int saveOrder = 0;   ///< 1..91 when saved and read back; 0: never saved
-    int initOrder = 0;   ///< 1..91 when a new control is initialised; 0: left alone
+    int saveOrder = 0;   ///< 1..92 when saved and read back; 0: never saved
+    int initOrder = 0;   ///< 1..92 when a new control is initialised; 0: left alone
     ValueFunction defaultValue = nullptr;              ///< what a saved control may omit
     ValueFunction initialValue = nullptr;              ///< what a new control gets
     QVariant (*read)(const Quirra &control) = nullptr; ///< the getter, in saved form
@@ -51,7 +49,7 @@ struct QUIRRACONTROL_EXPORT PropertyInfo
  * @brief Every property of the control, from the one list in
  * properties/properties.def.
  */
-class QUIRRACONTROL_EXPORT PropertyTable
+class PropertyTable
 {
 public:
     /** @brief All properties in the order they are declared. */
@@ -61,7 +59,7 @@ public:
      */
     static const std::vector<const PropertyInfo *> &savedInOrder();
 
-    /** @brief The properties a new control sets, in that order (91 of them). */
+    /** @brief The properties a new control sets, in that order (92 of them). */
     static const std::vector<const PropertyInfo *> &initialisedInOrder();
 
     /** @brief The property of that name (case counts), or nullptr. */

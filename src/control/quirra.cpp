@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
 #include "control/quirra.h"
+#include "control/quirra_p.h"
 
 #include "catalogue/piececatalogue.h"
 #include "catalogue/pieceentry.h"
@@ -8,6 +9,8 @@
 #include "control/aboutbox.h"
 #include "control/layoutcopy.h"
 #include "control/logging_p.h"
+#include "control/translations.h"
+#include "control/propertytable.h"
 #include "dialogs/hostservices.h"
 #include "dialogs/piece_customization_form.h"
 #include "dialogs/piece_layout_edit_form.h"
@@ -29,6 +32,7 @@
 #include "surface/measuringsurface.h"
 
 #include <QCoreApplication>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -39,6 +43,14 @@ using namespace quirra;
 
 namespace {
 
+// The pane is made before the constructor's body runs: the translation is in
+// place before the first text is.
+QWidget *translated(QWidget *parent)
+{
+    InstallTranslations();
+    return parent;
+}
+
 PieceModel &model()
 {
     return PieceModel::shared();
@@ -47,24 +59,36 @@ PieceModel &model()
 } // namespace
 
 Quirra::Quirra(QWidget *parent)
-    : QWidget(parent), m_pane(new PreviewPane(this)), m_report(std::make_unique<RunReport>())
+    : QWidget(translated(parent)), d(std::make_unique<QuirraPrivate>())
 {
+    d->m_pane = new PreviewPane(this);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_pane);
+    layout->addWidget(d->m_pane);
     // The pane's "Pr All" button has no caller to hand an error to: the user
-    // sees it in the same way as the run's own messages.
-    connect(m_pane, &PreviewPane::printAllRequested, this, [this] {
+    // sees it in the same way as the run's own messages. Pages chosen in its
+    // print dialog count as the preview shows them, from the host's first.
+    connect(d->m_pane, &PreviewPane::printAllRequested, this, [this](int from, int to) {
+        const auto restore =
+            qScopeGuard([this, hostPages = d->m_pages] { d->m_pages = hostPages; });
+        const int before = std::max(0, d->m_pages.first - 1);
+        if (from > 0)
+            d->m_pages.first = from + before;
+        if (to > 0)
+            d->m_pages.second = to + before;
         try {
             PrintNow();
         } catch (const Error &e) {
             HostServices::of(this).message(e.message(), this);
         }
     });
+    // Zoomed in the pane: the published PreviewZoom reads the new zoom.
+    connect(d->m_pane, &PreviewPane::zoomChanged, this,
+            [this] { notify(QStringLiteral("PreviewZoom")); });
     startInstance();
     // Icon1 is no part of a new control's initialisation: it starts as the
     // default set has it.
-    m_icon1 = m_defaults.Icon1;
+    d->m_icon1 = d->m_defaults.Icon1;
     InitProperties();
 }
 
@@ -72,7 +96,7 @@ Quirra::~Quirra()
 {
     // Close what this control holds on the spool before deleting it: the
     // writer would otherwise flush its buffer after the file is gone.
-    m_writer.reset();
+    d->m_writer.reset();
     SharedSpool &spool = SharedSpool::instance();
     spool.reader().close();
     const QString shared = spool.spoolPath();
@@ -80,40 +104,40 @@ Quirra::~Quirra()
         DeleteFileAndWait(shared);
     // A later control took over the spool path; the file this control made is
     // no one's any more.
-    if (!m_ownSpoolPath.isEmpty() && m_ownSpoolPath != shared)
-        DeleteFileAndWait(m_ownSpoolPath);
+    if (!d->m_ownSpoolPath.isEmpty() && d->m_ownSpoolPath != shared)
+        DeleteFileAndWait(d->m_ownSpoolPath);
 }
 
 void Quirra::startInstance()
 {
-    m_defaults = DefaultSet::compute();
+    d->m_defaults = DefaultSet::compute();
 
     // A fresh writer has no document and no open file; the old one closes its
     // file as it goes.
-    m_writer = std::make_unique<SpoolWriter>();
-    const QString previous = m_ownSpoolPath;
+    d->m_writer = std::make_unique<SpoolWriter>();
+    const QString previous = d->m_ownSpoolPath;
     SharedSpool &spool = SharedSpool::instance();
     try {
-        m_ownSpoolPath = spool.makeNewSpoolFile();
+        d->m_ownSpoolPath = spool.makeNewSpoolFile();
     } catch (const Error &e) {
         // The control still opens; feeding it records then fails with the
         // spool's own error.
         qCWarning(lcControl).noquote() << e.message();
-        m_ownSpoolPath.clear();
+        d->m_ownSpoolPath.clear();
         spool.setSpoolPath(QString());
     }
-    if (!previous.isEmpty() && previous != m_ownSpoolPath)
+    if (!previous.isEmpty() && previous != d->m_ownSpoolPath)
         DeleteFileAndWait(previous);
 
-    PaneSettings settings = m_pane->settings();
+    PaneSettings settings = d->m_pane->settings();
     settings.paneFraction = 0.85f;
-    m_pane->setSettings(settings);
+    d->m_pane->setSettings(settings);
 
     model().item(ItemId::Address).Text.clear();
     model().piece.PrinterLeft = 0.25f;
     model().piece.PrinterTop = 0.25f;
 
-    m_cancel = false;
+    d->m_cancel = false;
     spool.reader().close();
     spool.reader().setSpoolExhausted(false);
 }
@@ -127,80 +151,80 @@ void Quirra::UserControl_Initialize()
 
 void Quirra::FirstName(const QString &value)
 {
-    m_record.setValue(RecordField::nm_first, value);
+    d->m_record.setValue(RecordField::nm_first, value);
 }
 
 void Quirra::MiddleName(const QString &value)
 {
-    m_record.setValue(RecordField::nm_middle, value);
+    d->m_record.setValue(RecordField::nm_middle, value);
 }
 
 void Quirra::LastName(const QString &value)
 {
-    m_record.setValue(RecordField::nm_last, value);
+    d->m_record.setValue(RecordField::nm_last, value);
 }
 
 void Quirra::Address1(const QString &value)
 {
-    m_record.setValue(RecordField::addr_1, value);
+    d->m_record.setValue(RecordField::addr_1, value);
 }
 
 void Quirra::Address2(const QString &value)
 {
-    m_record.setValue(RecordField::addr_2, value);
+    d->m_record.setValue(RecordField::addr_2, value);
 }
 
 void Quirra::city(const QString &value)
 {
-    m_record.setValue(RecordField::city, value);
+    d->m_record.setValue(RecordField::city, value);
 }
 
 void Quirra::State(const QString &value)
 {
-    m_record.setValue(RecordField::state, value);
+    d->m_record.setValue(RecordField::state, value);
 }
 
 void Quirra::zip(const QString &value)
 {
-    m_record.setValue(RecordField::zip, value);
+    d->m_record.setValue(RecordField::zip, value);
 }
 
 void Quirra::Substitute(const QString &value)
 {
-    m_record.setValue(RecordField::substitute, value);
+    d->m_record.setValue(RecordField::substitute, value);
 }
 
 void Quirra::BarCode(const QString &value)
 {
-    m_record.setValue(RecordField::bar_code, value);
+    d->m_record.setValue(RecordField::bar_code, value);
 }
 
 void Quirra::ClearPiece()
 {
-    m_record.clear();
+    d->m_record.clear();
 }
 
 // --- The spool and the runs ---------------------------------------------------
 
 void Quirra::NewPiece()
 {
-    m_writer->NewPiece(m_record);
+    d->m_writer->NewPiece(d->m_record);
 }
 
 void Quirra::StartDoc()
 {
-    m_writer->StartDoc();
+    d->m_writer->StartDoc();
 }
 
 void Quirra::EndDoc()
 {
-    m_writer->EndDoc();
+    d->m_writer->EndDoc();
 }
 
 void Quirra::PreviewNow()
 {
     runPrintJob(true);
-    m_pane->Navigate(0);
+    d->m_pane->Navigate(0);
 }
 
 void Quirra::PrintNow()
@@ -210,7 +234,7 @@ void Quirra::PrintNow()
 
 void Quirra::runPrintJob(bool preview)
 {
-    if (m_writer->isSpoolOpen())
+    if (d->m_writer->isSpoolOpen())
         EndDoc();
     PrintSurface *printSurface = surface();
     printSurface->setPreview(preview);
@@ -223,7 +247,7 @@ void Quirra::runPrintJob(bool preview)
 
 void Quirra::PreflightNow()
 {
-    if (m_writer->isSpoolOpen())
+    if (d->m_writer->isSpoolOpen())
         EndDoc();
     MeasuringSurface measuring;
     measuring.setPrintableOrigin(inchesToTwips(model().piece.PrinterLeft),
@@ -233,22 +257,37 @@ void Quirra::PreflightNow()
 
 const RunReport &Quirra::LastRunReport() const
 {
-    return *m_report;
+    return *d->m_report;
 }
 
 void Quirra::CancelRun()
 {
-    m_cancel = true;
+    d->m_cancel = true;
 }
 
 bool Quirra::LastRunCancelled() const
 {
-    return m_lastRunCancelled;
+    return d->m_lastRunCancelled;
+}
+
+std::atomic_bool &Quirra::cancelFlag()
+{
+    return d->m_cancel;
+}
+
+void Quirra::SetPrintPages(int first, int last)
+{
+    d->m_pages = {first, last};
+}
+
+const DefaultSet &Quirra::defaultSet() const
+{
+    return d->m_defaults;
 }
 
 void Quirra::runOn(Surface &surface)
 {
-    m_cancel = false;
+    d->m_cancel = false;
     // Every run reads the spool from its first record, also after a run that
     // stopped half way.
     SpoolReader &reader = SharedSpool::instance().reader();
@@ -256,18 +295,18 @@ void Quirra::runOn(Surface &surface)
     reader.setSpoolExhausted(false);
 
     PrintRun run(model(), reader);
-    run.setCancelFlag(&m_cancel);
-    run.setPageRange(m_pages);
+    run.setCancelFlag(&d->m_cancel);
+    run.setPageRange(d->m_pages);
     run.setMessageSink([this](const QString &text) { HostServices::of(this).message(text, this); });
     try {
         run.RunPrintJob(surface);
     } catch (...) {
-        *m_report = run.report();
-        m_lastRunCancelled = run.cancelled();
+        *d->m_report = run.report();
+        d->m_lastRunCancelled = run.cancelled();
         throw;
     }
-    *m_report = run.report();
-    m_lastRunCancelled = run.cancelled();
+    *d->m_report = run.report();
+    d->m_lastRunCancelled = run.cancelled();
 }
 
 QPrinter *Quirra::printer() const
@@ -277,7 +316,7 @@ QPrinter *Quirra::printer() const
 
 PrintSurface *Quirra::surface() const
 {
-    return m_pane->surface();
+    return d->m_pane->surface();
 }
 
 // --- Item texts -------------------------------------------------------------
@@ -422,17 +461,17 @@ void Quirra::notifyItemsChanged()
 void Quirra::InitProperties()
 {
     // The set is read afresh before the first value is taken from it.
-    m_defaults = DefaultSet::compute();
+    d->m_defaults = DefaultSet::compute();
     const QFont ambient = font();
     for (const PropertyInfo *property : PropertyTable::initialisedInOrder())
-        property->write(*this, property->initialValue(m_defaults, ambient));
+        property->write(*this, property->initialValue(d->m_defaults, ambient));
 }
 
 void Quirra::ReadProperties(PropertyBag &bag)
 {
     const QFont ambient = font();
     for (const PropertyInfo *property : PropertyTable::savedInOrder()) {
-        const QVariant fallback = property->defaultValue(m_defaults, ambient);
+        const QVariant fallback = property->defaultValue(d->m_defaults, ambient);
         QVariant value;
         try {
             value = bag.read(property->name, fallback);
@@ -460,7 +499,7 @@ void Quirra::WriteProperties(PropertyBag &bag) const
     const QFont ambient = font();
     for (const PropertyInfo *property : PropertyTable::savedInOrder())
         bag.write(property->name, property->read(*this),
-                  property->defaultValue(m_defaults, ambient));
+                  property->defaultValue(d->m_defaults, ambient));
 }
 
 // --- The properties -----------------------------------------------------------
@@ -477,26 +516,26 @@ void Quirra::WriteProperties(PropertyBag &bag) const
 #define QUIRRA_ACCESSORS_PANE(type, name, field)                                                   \
     type Quirra::name() const                                                                      \
     {                                                                                              \
-        return m_pane->settings().field;                                                           \
+        return d->m_pane->settings().field;                                                        \
     }                                                                                              \
     QUIRRA_SETTER(type, name)                                                                      \
     {                                                                                              \
-        PaneSettings settings = m_pane->settings();                                                \
+        PaneSettings settings = d->m_pane->settings();                                             \
         settings.field = value;                                                                    \
-        m_pane->setSettings(settings);                                                             \
+        d->m_pane->setSettings(settings);                                                          \
         QUIRRA_NOTIFY(name);                                                                       \
     }
 
 #define QUIRRA_ACCESSORS_PANE_CLAMPED(type, name, field, lowest, highest)                          \
     type Quirra::name() const                                                                      \
     {                                                                                              \
-        return m_pane->settings().field;                                                           \
+        return d->m_pane->settings().field;                                                        \
     }                                                                                              \
     QUIRRA_SETTER(type, name)                                                                      \
     {                                                                                              \
-        PaneSettings settings = m_pane->settings();                                                \
+        PaneSettings settings = d->m_pane->settings();                                             \
         settings.field = std::clamp<type>(value, lowest, highest);                                 \
-        m_pane->setSettings(settings);                                                             \
+        d->m_pane->setSettings(settings);                                                          \
         QUIRRA_NOTIFY(name);                                                                       \
     }
 
@@ -571,11 +610,11 @@ void Quirra::WriteProperties(PropertyBag &bag) const
 #define QUIRRA_ACCESSORS_INSTANCE(type, name, member)                                              \
     type Quirra::name() const                                                                      \
     {                                                                                              \
-        return member;                                                                             \
+        return d->member;                                                                          \
     }                                                                                              \
     QUIRRA_SETTER(type, name)                                                                      \
     {                                                                                              \
-        member = value;                                                                            \
+        d->member = value;                                                                         \
         QUIRRA_NOTIFY(name);                                                                       \
     }
 

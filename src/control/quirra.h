@@ -2,11 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "control/propertytable.h"
 #include "model/enums.h"
-#include "properties/defaultset.h"
 #include "quirracontrol_export.h"
-#include "records/record.h"
 
 #include <QFont>
 #include <QString>
@@ -14,17 +11,16 @@
 
 #include <atomic>
 #include <memory>
-#include <utility>
 
 class QPrinter;
+class QuirraPrivate;
 
 namespace quirra {
-class PreviewPane;
 class PrintSurface;
 class PropertyBag;
 class RunReport;
 class Surface;
-class SpoolWriter;
+struct DefaultSet;
 struct PieceSpec;
 } // namespace quirra
 
@@ -53,11 +49,6 @@ struct PieceSpec;
 class QUIRRACONTROL_EXPORT Quirra : public QWidget
 {
     Q_OBJECT
-#define QUIRRA_PROPERTY(type, name, ...) Q_PROPERTY(type name READ name WRITE name)
-#define QUIRRA_HIDDEN_PROPERTY(...)
-#include "properties/properties.def"
-#undef QUIRRA_HIDDEN_PROPERTY
-#undef QUIRRA_PROPERTY
 
 public:
     /**
@@ -211,10 +202,7 @@ public:
      * @brief The flag CancelRun() sets, for a signal handler: storing true in
      * it is CancelRun(). Cleared when a run starts.
      */
-    std::atomic_bool &cancelFlag()
-    {
-        return m_cancel;
-    }
+    std::atomic_bool &cancelFlag();
 
     /** @brief True when the last run was cancelled before its last piece. */
     bool LastRunCancelled() const;
@@ -223,10 +211,7 @@ public:
      * @brief The pages the next runs print, from 1 (0 leaves that end
      * open; 0, 0, as a new control has it, prints them all). Not saved.
      */
-    void SetPrintPages(int first, int last)
-    {
-        m_pages = {first, last};
-    }
+    void SetPrintPages(int first, int last);
 
     /**
      * @brief The printer the control prints on. A host may name a system
@@ -240,12 +225,13 @@ public:
      */
     void InitProperties();
     /**
-     * @brief Restores the 91 saved properties (the 84 published, then the
-     * sheet's PageWidth and PageHeight, then the mailing options) from bag, in their saving
-     * order. A missing or unreadable value takes its default.
+     * @brief Restores the 92 saved properties (the 84 published, then the
+     * sheet's PageWidth and PageHeight, then the mailing options, then
+     * PrintDialogOnPrint) from bag, in their saving order. A missing or
+     * unreadable value takes its default.
      */
     void ReadProperties(quirra::PropertyBag &bag);
-    /** @brief Saves the 91 properties into bag, each with its default. */
+    /** @brief Saves the 92 properties into bag, each with its default. */
     void WriteProperties(quirra::PropertyBag &bag) const;
 
     /**
@@ -254,24 +240,27 @@ public:
      * entry's geometry and page size (lengths in inches) over it, derives
      * orientation and paper, lays the five items out afresh and announces
      * the change.
+     *
+     * quirra::PieceSpec is the library's own type, not installed: a host
+     * chooses pieces by name through PieceName.
      */
     void ApplyPiece(const quirra::PieceSpec &entry);
 
-    /** @brief The preview surface (the child "mc_printer"). */
+    /**
+     * @brief The preview surface (the child "mc_printer"); its class is the
+     * library's own, not installed: a host prints through printer().
+     */
     quirra::PrintSurface *surface() const;
 
-    /** @brief The values this control falls back on, computed when it started. */
-    const quirra::DefaultSet &defaultSet() const
-    {
-        return m_defaults;
-    }
+    /**
+     * @brief The values this control falls back on, computed when it started;
+     * the library's own type, not installed.
+     */
+    const quirra::DefaultSet &defaultSet() const;
 
-    // The getter and setter of every property; see properties/properties.def.
-#define QUIRRA_PROPERTY(type, name, ...)                                                           \
-    type name() const;                                                                             \
-    void name(quirra::PropertyArg<type> value);
-#include "properties/properties.def"
-#undef QUIRRA_PROPERTY
+    // The Q_PROPERTY line, getter and setter of every property, written at
+    // build time from properties/properties.def.
+#include "QuirraControl/quirraproperties.h"
 
 Q_SIGNALS:
     /** @brief A property changed; name is the property's name (or a short form of it). */
@@ -286,14 +275,5 @@ private:
     void notifyItemsChanged();
     void notify(const QString &name);
 
-    quirra::DefaultSet m_defaults;
-    quirra::Record m_record;
-    std::unique_ptr<quirra::SpoolWriter> m_writer;
-    quirra::PreviewPane *m_pane = nullptr;
-    QString m_ownSpoolPath;
-    QString m_icon1;
-    std::unique_ptr<quirra::RunReport> m_report;
-    std::atomic_bool m_cancel{false};
-    std::pair<int, int> m_pages{0, 0};
-    bool m_lastRunCancelled = false;
+    std::unique_ptr<QuirraPrivate> d;
 };

@@ -4,8 +4,6 @@
 
 #include "dialogs/layoutgeometry.h"
 #include "model/item.h"
-#include "quirracontrol_export.h"
-
 #include <QFrame>
 #include <QPointF>
 #include <QRectF>
@@ -45,7 +43,7 @@ class LayoutItemLabel;
  * handles (the item's name, the fields, the Format menu) is the form's: it
  * hears of it through the signals.
  */
-class QUIRRACONTROL_EXPORT LayoutCanvas : public QFrame
+class LayoutCanvas : public QFrame
 {
     Q_OBJECT
 

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QPointF>
 #include <QRectF>
 #include <QString>
@@ -20,7 +18,7 @@ namespace quirra {
  * Boxes and mouse positions are display twips on the piece (its top-left
  * corner is 0, 0); the fields' values are inches.
  */
-class QUIRRACONTROL_EXPORT LayoutGeometry
+class LayoutGeometry
 {
 public:
     /** @brief Display twips a dragged item keeps from every edge of the piece. */

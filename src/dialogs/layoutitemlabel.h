@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QLabel>
 
 namespace quirra {
@@ -16,7 +14,7 @@ namespace quirra {
  * empty or borderless item can still be seen and taken with the mouse; the
  * outline is the editor's only, it is never printed.
  */
-class QUIRRACONTROL_EXPORT LayoutItemLabel : public QLabel
+class LayoutItemLabel : public QLabel
 {
     Q_OBJECT
 

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -18,7 +16,7 @@ namespace quirra {
  * (pieces across or down) reads whole numbers and steps by 1. Bounds are
  * single-precision, as the values they guard.
  */
-class QUIRRACONTROL_EXPORT NumberField
+class NumberField
 {
 public:
     /** @brief What a box holds. */

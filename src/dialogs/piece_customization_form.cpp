@@ -82,7 +82,7 @@ enum BoxIndex { TopMargin, SideMargin, PitchVert, PitchHorz, Height, Width, Acro
 // sizes in the unit of their caption.
 struct BuiltInPage
 {
-    const char16_t *caption;
+    const char *caption;
     float width;
     float height;
 };
@@ -90,14 +90,18 @@ struct BuiltInPage
 // The sizes are the pages' real sizes in inches, as the piece keeps them
 // whatever unit the caption names: the paper printed on follows from them.
 constexpr BuiltInPage BuiltInPages[] = {
-    {u"Letter (8 ½ x 11 in)", 8.5f, 11.0f},
-    {u"Letter landscape (11 x 8 ½ in)", 11.0f, 8.5f},
-    {u"A4 (21 x 29.7 cm)", 8.2677f, 11.6929f},
-    {u"A4 landscape (29.7 x 21 cm)", 11.6929f, 8.2677f},
-    {u"A5 (14.8 x 21 cm)", 5.8268f, 8.2677f},
-    {u"A5 landscape (21 x 14.8 cm)", 8.2677f, 5.8268f},
-    {u"B5 (18.2 x 25.7 cm)", 7.1654f, 10.1181f},
-    {u"Mini (4 ¼ x 5 in)", 4.25f, 5.0f},
+    {QT_TRANSLATE_NOOP("quirra::piece_customization_form", "Letter (8 ½ x 11 in)"), 8.5f, 11.0f},
+    {QT_TRANSLATE_NOOP("quirra::piece_customization_form", "Letter landscape (11 x 8 ½ in)"), 11.0f,
+     8.5f},
+    {QT_TRANSLATE_NOOP("quirra::piece_customization_form", "A4 (21 x 29.7 cm)"), 8.2677f, 11.6929f},
+    {QT_TRANSLATE_NOOP("quirra::piece_customization_form", "A4 landscape (29.7 x 21 cm)"), 11.6929f,
+     8.2677f},
+    {QT_TRANSLATE_NOOP("quirra::piece_customization_form", "A5 (14.8 x 21 cm)"), 5.8268f, 8.2677f},
+    {QT_TRANSLATE_NOOP("quirra::piece_customization_form", "A5 landscape (21 x 14.8 cm)"), 8.2677f,
+     5.8268f},
+    {QT_TRANSLATE_NOOP("quirra::piece_customization_form", "B5 (18.2 x 25.7 cm)"), 7.1654f,
+     10.1181f},
+    {QT_TRANSLATE_NOOP("quirra::piece_customization_form", "Mini (4 ¼ x 5 in)"), 4.25f, 5.0f},
 };
 
 // A stored length as text, as many digits as a single holds.
@@ -142,7 +146,7 @@ QStringList piece_customization_form::builtInPageSizes()
 {
     QStringList captions;
     for (const BuiltInPage &page : BuiltInPages)
-        captions.append(QString::fromUtf16(page.caption));
+        captions.append(tr(page.caption));
     return captions;
 }
 

@@ -4,8 +4,6 @@
 
 #include "catalogue/pieceentry.h"
 #include "dialogs/numberfield.h"
-#include "quirracontrol_export.h"
-
 #include <QDialog>
 #include <QList>
 #include <QStringList>
@@ -41,7 +39,7 @@ class SheetPreview;
  * Lengths are in the page's unit: the numbers are shown as stored, never
  * converted; the notice only names the unit.
  */
-class QUIRRACONTROL_EXPORT piece_customization_form : public QDialog
+class piece_customization_form : public QDialog
 {
     Q_OBJECT
 
@@ -147,6 +145,6 @@ private:
  *
  * @return true when the user accepted.
  */
-QUIRRACONTROL_EXPORT bool ShowPieceCustomizationDialog(QWidget *parent, PieceSpec &entry);
+bool ShowPieceCustomizationDialog(QWidget *parent, PieceSpec &entry);
 
 } // namespace quirra

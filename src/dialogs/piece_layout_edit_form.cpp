@@ -245,6 +245,7 @@ void piece_layout_edit_form::buildMenus(QMenuBar *menuBar)
     entry(edit, "edit_send_to_back_mnu", tr("Se&nd To Back"),
           &piece_layout_edit_form::editSendToBack);
     bar(edit, "edit_bar_2_mnu");
+    //: Menu command: puts every item back where the piece's default layout has it
     entry(edit, "edit_default_mnu", tr("Default"), &piece_layout_edit_form::editDefault);
 
     m_formatMenu = menuBar->addMenu(tr("F&ormat"));

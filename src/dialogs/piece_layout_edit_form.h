@@ -4,8 +4,6 @@
 
 #include "dialogs/layoutgeometry.h"
 #include "model/item.h"
-#include "quirracontrol_export.h"
-
 #include <QDialog>
 #include <QPointF>
 #include <QRectF>
@@ -43,7 +41,7 @@ class LayoutCanvas;
  * keeps the exact place the mouse gave it. A right click on an item opens
  * the Format menu, a double click edits the text in place.
  */
-class QUIRRACONTROL_EXPORT piece_layout_edit_form : public QDialog
+class piece_layout_edit_form : public QDialog
 {
     Q_OBJECT
 
@@ -178,7 +176,7 @@ private:
  * @throws Error when the piece is too large for the editor's 16-bit twips
  * (wider than 22.75 inches or higher than 20.75) or its size is not a number.
  */
-QUIRRACONTROL_EXPORT bool EditPieceLayout(QWidget *parent, float pieceWidth, float pieceHeight,
-                                          std::array<Item, ItemCount> &items);
+bool EditPieceLayout(QWidget *parent, float pieceWidth, float pieceHeight,
+                     std::array<Item, ItemCount> &items);
 
 } // namespace quirra

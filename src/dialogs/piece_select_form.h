@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QDialog>
 #include <QString>
 
@@ -42,7 +40,7 @@ class SheetPreview;
  * search shows the chosen piece among its product's again); "sheet_preview" draws the
  * chosen sheet small beside the Info box; "family_txt" shows its product.
  */
-class QUIRRACONTROL_EXPORT piece_select_form : public QDialog
+class piece_select_form : public QDialog
 {
     Q_OBJECT
 
@@ -128,9 +126,9 @@ private:
  *
  * @return true when the user accepted.
  */
-QUIRRACONTROL_EXPORT bool ShowPieceSelectDialog(QWidget *parent, QString &pieceName);
+bool ShowPieceSelectDialog(QWidget *parent, QString &pieceName);
 /** @brief The same on the catalogue given. */
-QUIRRACONTROL_EXPORT bool ShowPieceSelectDialog(QWidget *parent, QString &pieceName,
-                                                std::shared_ptr<const Catalogue> catalogue);
+bool ShowPieceSelectDialog(QWidget *parent, QString &pieceName,
+                           std::shared_ptr<const Catalogue> catalogue);
 
 } // namespace quirra

@@ -3,8 +3,6 @@
 #pragma once
 
 #include "catalogue/pieceentry.h"
-#include "quirracontrol_export.h"
-
 #include <QLineF>
 #include <QList>
 #include <QRectF>
@@ -30,7 +28,7 @@ namespace quirra {
  * that do not fit on the page are still drawn and flagged, so a geometry
  * that runs off the sheet is plain to see.
  */
-class QUIRRACONTROL_EXPORT SheetDrawing
+class SheetDrawing
 {
 public:
     /** @brief One dimension mark: a line with its label. */

@@ -3,8 +3,6 @@
 #pragma once
 
 #include "catalogue/pieceentry.h"
-#include "quirracontrol_export.h"
-
 #include <QWidget>
 
 class QPainter;
@@ -21,7 +19,7 @@ class SheetDrawing;
  * It only draws what it is given; the dialog hands it the piece after every
  * change of a number box. The geometry comes from SheetDrawing.
  */
-class QUIRRACONTROL_EXPORT SheetPreview : public QWidget
+class SheetPreview : public QWidget
 {
     Q_OBJECT
 

@@ -21,6 +21,7 @@ namespace quirra {
 class QUIRRACONTROL_EXPORT Error : public std::runtime_error
 {
 public:
+    /** @brief An error saying message (what failed, where, and what to do). */
     explicit Error(const QString &message);
 
     /** @brief The message as a QString (UTF-8 decoded from what()). */

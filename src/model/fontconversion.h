@@ -3,8 +3,6 @@
 #pragma once
 
 #include "model/itemfont.h"
-#include "quirracontrol_export.h"
-
 #include <QFont>
 
 namespace quirra {
@@ -14,7 +12,7 @@ namespace quirra {
  * underline and strike-out. A size that is not positive leaves the QFont's
  * default size.
  */
-QUIRRACONTROL_EXPORT QFont toQFont(const ItemFont &font);
+QFont toQFont(const ItemFont &font);
 
 /**
  * @brief The parts of a QFont an item keeps: typeface, size in points, bold,
@@ -23,6 +21,6 @@ QUIRRACONTROL_EXPORT QFont toQFont(const ItemFont &font);
  * A font sized in pixels is converted at 96 pixels to the inch; a font with
  * no size at all keeps the item default of 10 points.
  */
-QUIRRACONTROL_EXPORT ItemFont toItemFont(const QFont &font);
+ItemFont toItemFont(const QFont &font);
 
 } // namespace quirra

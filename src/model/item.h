@@ -4,8 +4,6 @@
 
 #include "model/enums.h"
 #include "model/itemfont.h"
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 #include <array>
@@ -17,7 +15,7 @@ namespace quirra {
  *
  * Lengths are inches, measured from the piece's top-left corner.
  */
-struct QUIRRACONTROL_EXPORT Item
+struct Item
 {
     qint16 LineSpacing = 100; ///< percent of the font's line height
     qint16 Border = 0;        ///< 0: no frame; anything else: a frame round the box
@@ -59,6 +57,6 @@ constexpr std::array<ItemId, ItemCount> ArgumentOrder = {
     ItemId::Address, ItemId::Return, ItemId::Stamp, ItemId::Message1, ItemId::Message2};
 
 /** @brief The published name of an item ("Address", "Return", ...). */
-QUIRRACONTROL_EXPORT QString itemName(ItemId id);
+QString itemName(ItemId id);
 
 } // namespace quirra

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -15,7 +13,7 @@ namespace quirra {
  * A plain value kept in the model, so the model needs no GUI library; the
  * drawing side turns it into a QFont.
  */
-struct QUIRRACONTROL_EXPORT ItemFont
+struct ItemFont
 {
     QString Name = QStringLiteral("Arial"); ///< typeface
     double Size = 10.0;                     ///< points

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QSizeF>
 
 namespace quirra {
@@ -18,7 +16,7 @@ constexpr int CustomPaperCode = 256;
  *
  * An empty size for CustomPaperCode and for a code no paper has.
  */
-QUIRRACONTROL_EXPORT QSizeF paperSizePoints(int code);
+QSizeF paperSizePoints(int code);
 
 /**
  * @brief The code of the paper of a size, in points, in either orientation:
@@ -28,6 +26,6 @@ QUIRRACONTROL_EXPORT QSizeF paperSizePoints(int code);
  * Where two codes name one sheet (Letter and "Letter small") the first wins,
  * so a US Letter sheet is 1 and a legal sheet 5.
  */
-QUIRRACONTROL_EXPORT int paperCodeForSize(const QSizeF &points);
+int paperCodeForSize(const QSizeF &points);
 
 } // namespace quirra

@@ -3,8 +3,6 @@
 #pragma once
 
 #include "model/papersizes.h"
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -28,7 +26,7 @@ enum PaperCode : qint16 {
  *
  * Lengths are inches as single-precision numbers; the counts are 16-bit.
  */
-struct QUIRRACONTROL_EXPORT Piece
+struct Piece
 {
     qint16 PieceNumAcross = 0;        ///< pieces per row (1 for an envelope)
     qint16 PieceNumDown = 0;          ///< rows per sheet (1 for an envelope)
@@ -64,10 +62,10 @@ struct QUIRRACONTROL_EXPORT Piece
  * paperCodeForSize()), or CustomPaperCode, a paper of exactly the sheet's
  * size, when no code has it. A sheet of unknown size (0) prints on Letter.
  */
-QUIRRACONTROL_EXPORT void DerivePageSetup(Piece &piece);
+void DerivePageSetup(Piece &piece);
 
 /** @brief Inches to whole twips (1440 to the inch), halves to even. */
-QUIRRACONTROL_EXPORT qint32 inchesToTwips(double inches);
+qint32 inchesToTwips(double inches);
 
 /** @brief Where a slot of a sheet lies, in whole twips from the sheet's corner. */
 struct SlotPlace
@@ -83,6 +81,6 @@ struct SlotPlace
  * right, then top to bottom.
  * @throws Error when PieceNumAcross is 0 (the division by the pieces across).
  */
-QUIRRACONTROL_EXPORT SlotPlace placeOfSlot(const Piece &piece, int slot);
+SlotPlace placeOfSlot(const Piece &piece, int slot);
 
 } // namespace quirra

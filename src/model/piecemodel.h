@@ -5,8 +5,6 @@
 #include "model/enums.h"
 #include "model/item.h"
 #include "model/piece.h"
-#include "quirracontrol_export.h"
-
 #include <array>
 
 namespace quirra {
@@ -18,7 +16,7 @@ namespace quirra {
  * one control loads or edits is at once the layout of all of them. Dialogs
  * work on copies and hand them back when the user accepts.
  */
-struct QUIRRACONTROL_EXPORT PieceModel
+struct PieceModel
 {
     Piece piece;
     std::array<Item, ItemCount> items; ///< in storage order, see ItemId

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QRect>
 #include <QSize>
 
@@ -18,7 +16,7 @@ namespace quirra {
  * The control's setters clamp the three lengths already; PaneLayout clamps
  * them again, so values set here directly cannot break the layout.
  */
-struct QUIRRACONTROL_EXPORT PaneSettings
+struct PaneSettings
 {
     short ButtonMaxHeight = 240; ///< the tallest a button may be, twips (50..400)
     short BoarderInside = 60;    ///< margin round the pane's contents, twips (0..400)
@@ -27,6 +25,7 @@ struct QUIRRACONTROL_EXPORT PaneSettings
     bool ButtonPrintPgVisible = true;   ///< the "Pr Pg" button
     bool ButtonPrintAllVisible = true;  ///< the "Pr All" button
     bool TextPgNumberVisible = true;    ///< the page label
+    bool PrintDialogOnPrint = false;    ///< the print buttons ask in a print dialog first
     float paneFraction = 0.85f;         ///< least share of the free height the page keeps (0..1)
 };
 
@@ -46,7 +45,7 @@ struct QUIRRACONTROL_EXPORT PaneSettings
  * the pane and no two overlap, as long as the pane is at least as wide as
  * the row's parts at 1 twip (16 twips) and 1 twip high.
  */
-class QUIRRACONTROL_EXPORT PaneLayout
+class PaneLayout
 {
 public:
     /** @brief The parts of the button row, in the order the row places them. */

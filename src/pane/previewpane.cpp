@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "pane/previewpane.h"
 
+#include "dialogs/hostservices.h"
 #include "pane/logging_p.h"
 #include "printing/printsurface.h"
 
@@ -9,13 +10,22 @@
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QIconEngine>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QScrollBar>
+#include <QStyle>
 #include <QToolButton>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <optional>
+#include <utility>
 
 namespace quirra {
 
@@ -25,6 +35,11 @@ namespace {
 constexpr double FontPerButton = 0.6;
 // The paging arrows fill this much of the button's height.
 constexpr double IconPerButton = 0.6;
+// The grey ground the surface keeps round a page, in pixels on each side:
+// a fitted page leaves it in view, so no scroll bar appears.
+constexpr int FitGround = 16;
+// One notch of a mouse wheel, in eighths of a degree.
+constexpr int WheelNotch = 120;
 
 // The row's face: "Small Fonts", the compact bitmap face such button rows
 // were drawn in; where it is not installed, the pane's own family.
@@ -124,13 +139,13 @@ PreviewPane::PreviewPane(QWidget *parent) : QWidget(parent)
         const char *name;
         const char *tip;
     } paging[] = {
-        {PaneLayout::First, ArrowIconEngine::ToFirst, "mc_first", "First page"},
-        {PaneLayout::Prev, ArrowIconEngine::Back, "mc_prev", "Previous page"},
-        {PaneLayout::Next, ArrowIconEngine::Forward, "mc_next", "Next page"},
-        {PaneLayout::Last, ArrowIconEngine::ToLast, "mc_last", "Last page"},
+        {PaneLayout::First, ArrowIconEngine::ToFirst, "mc_first", QT_TR_NOOP("First page")},
+        {PaneLayout::Prev, ArrowIconEngine::Back, "mc_prev", QT_TR_NOOP("Previous page")},
+        {PaneLayout::Next, ArrowIconEngine::Forward, "mc_next", QT_TR_NOOP("Next page")},
+        {PaneLayout::Last, ArrowIconEngine::ToLast, "mc_last", QT_TR_NOOP("Last page")},
     };
     for (const auto &p : paging) {
-        QToolButton *button = makeButton(p.name, QString::fromLatin1(p.tip));
+        QToolButton *button = makeButton(p.name, tr(p.tip));
         button->setIcon(QIcon(new ArrowIconEngine(p.shape)));
         button->setToolButtonStyle(Qt::ToolButtonIconOnly);
         // Nothing to page through until a preview has run.
@@ -140,13 +155,15 @@ PreviewPane::PreviewPane(QWidget *parent) : QWidget(parent)
                 [this, part = p.part] { pagingClicked(part); });
     }
 
-    QToolButton *printPageButton = makeButton("mc_p_pg", QStringLiteral("Print the page on show"));
-    printPageButton->setText(QStringLiteral("Pr Pg"));
+    QToolButton *printPageButton = makeButton("mc_p_pg", QString());
+    //: Short caption of the button that prints the page on show ("print page")
+    printPageButton->setText(tr("Pr Pg"));
     connect(printPageButton, &QToolButton::clicked, this, &PreviewPane::printPage);
     m_parts[PaneLayout::PrintPage] = printPageButton;
 
-    QToolButton *printAllButton = makeButton("mc_p_all", QStringLiteral("Print all pages"));
-    printAllButton->setText(QStringLiteral("Pr All"));
+    QToolButton *printAllButton = makeButton("mc_p_all", QString());
+    //: Short caption of the button that prints every page
+    printAllButton->setText(tr("Pr All"));
     connect(printAllButton, &QToolButton::clicked, this, &PreviewPane::printAll);
     m_parts[PaneLayout::PrintAll] = printAllButton;
 
@@ -155,6 +172,9 @@ PreviewPane::PreviewPane(QWidget *parent) : QWidget(parent)
     m_label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_label->setTextFormat(Qt::PlainText);
     m_parts[PaneLayout::PageLabel] = m_label;
+
+    // Ctrl and the wheel zoom wherever the pointer is on the page.
+    m_surface->viewport()->installEventFilter(this);
 
     relayout();
 }
@@ -188,6 +208,23 @@ void PreviewPane::setSettings(const PaneSettings &s)
 {
     m_settings = s;
     relayout();
+    updateToolTips();
+}
+
+void PreviewPane::updateToolTips()
+{
+    // What a click does, said the same way whether or not a dialog comes first.
+    const bool ask = m_settings.PrintDialogOnPrint;
+    const QString page = ask ? tr("Print the page on show: choose the printer and the copies first")
+                             : tr("Print the page on show on the printer");
+    const QString all = ask ? tr("Print the whole run: choose the printer, the copies and the "
+                                 "pages first")
+                            : tr("Print the whole run, every page, on the printer");
+    for (const auto &[part, tip] :
+         {std::pair{PaneLayout::PrintPage, page}, std::pair{PaneLayout::PrintAll, all}}) {
+        m_parts[part]->setToolTip(tip);
+        m_parts[part]->setAccessibleDescription(tip);
+    }
 }
 
 const PaneSettings &PreviewPane::settings() const
@@ -292,8 +329,7 @@ void PreviewPane::Navigate(qint16 code)
     m_parts[PaneLayout::Prev]->setEnabled(shown > 1);
     m_parts[PaneLayout::Next]->setEnabled(shown < count);
     m_parts[PaneLayout::Last]->setEnabled(shown < count);
-    m_label->setText(QStringLiteral("Page ") + QString::number(shown) + QStringLiteral(" of ") +
-                     QString::number(count));
+    m_label->setText(tr("Page %1 of %2").arg(shown).arg(count));
     fitLabelFont();
     giveFocus(code == 2);
 }
@@ -337,19 +373,144 @@ void PreviewPane::pagingClicked(PaneLayout::Part part)
     }
 }
 
+std::optional<std::pair<int, int>> PreviewPane::askToPrint(bool wholeRun)
+{
+    QPrinter *printer = m_surface->printer();
+    QPrintDialog dialog(printer, this);
+    dialog.setObjectName(QStringLiteral("print_dialog"));
+    dialog.setWindowTitle(wholeRun ? tr("Print the run") : tr("Print the page on show"));
+    // For one page the printer and the copies are the choice; the run's
+    // pages are offered as the preview shows them, every one unless picked.
+    QAbstractPrintDialog::PrintDialogOptions options =
+        QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies;
+    if (wholeRun) {
+        options |= QAbstractPrintDialog::PrintPageRange;
+        printer->setPrintRange(QPrinter::AllPages);
+        dialog.setMinMax(1, std::max(1, m_surface->pageCount()));
+    }
+    dialog.setOptions(options);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    // The printer chosen is one that exists: a name asked for earlier that
+    // no printer has no longer stands in the way.
+    if (printer->outputFormat() == QPrinter::NativeFormat)
+        m_surface->setPrinterName(printer->printerName());
+    if (wholeRun && printer->printRange() == QPrinter::PageRange)
+        return std::pair(printer->fromPage(), printer->toPage());
+    return std::pair(0, 0);
+}
+
 void PreviewPane::printPage()
 {
+    if (m_settings.PrintDialogOnPrint && !askToPrint(false)) {
+        giveFocus(false);
+        return;
+    }
     m_surface->setAction(SurfaceAction::PrintPage);
-    if (m_surface->errorCode() != 0)
-        qCWarning(lcPane) << "the page on show could not be printed, error"
-                          << m_surface->errorCode();
+    if (const int error = m_surface->errorCode()) {
+        qCWarning(lcPane) << "the page on show could not be printed, error" << error;
+        // Told as a failed run is told: the host shows it.
+        HostServices::of(this).message(QStringLiteral("Ptr.error = ") + QString::number(error),
+                                       this);
+    }
     giveFocus(false);
 }
 
 void PreviewPane::printAll()
 {
-    Q_EMIT printAllRequested();
+    std::optional<std::pair<int, int>> pages(std::pair(0, 0));
+    if (m_settings.PrintDialogOnPrint)
+        pages = askToPrint(true);
+    if (pages)
+        Q_EMIT printAllRequested(pages->first, pages->second);
     giveFocus(false);
+}
+
+int PreviewPane::fittingZoom(const PrintSurface &surface, Fit fit)
+{
+    const QSizeF twips = surface.pageSizeTwips(surface.previewPage());
+    if (twips.isEmpty())
+        return surface.zoom();
+    // The surface shows a page at its logical resolution times the zoom;
+    // the largest whole zoom that fits rounds down.
+    const double pixelsPerTwipAt100 = surface.logicalDpiX() / double(PaneLayout::TwipsPerInch);
+    const QSize view = surface.maximumViewportSize();
+    const auto zoomFor = [&](double room, double length) {
+        return int(std::floor(100.0 * std::max(0.0, room) / (length * pixelsPerTwipAt100)));
+    };
+    int width = zoomFor(view.width() - 2 * FitGround, twips.width());
+    int zoom = width;
+    if (fit == Fit::Page) {
+        zoom = std::min(width, zoomFor(view.height() - 2 * FitGround, twips.height()));
+    } else if (twips.height() * pixelsPerTwipAt100 * width / 100.0 + 2 * FitGround >
+               view.height()) {
+        // Taller than the view: the vertical scroll bar takes its share of the width.
+        const int bar = surface.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr,
+                                                     surface.verticalScrollBar());
+        zoom = zoomFor(view.width() - bar - 2 * FitGround, twips.width());
+    }
+    // The surface keeps the zoom within its limits when it is set.
+    return std::clamp(zoom, 1, int(std::numeric_limits<short>::max()));
+}
+
+void PreviewPane::zoomBy(int steps, QPoint anchor)
+{
+    const int before = m_surface->zoom();
+    const QRect page = m_surface->pageRect();
+    if (anchor.isNull())
+        anchor = m_surface->viewport()->rect().center();
+    m_surface->setZoom(before + steps * ZoomStep);
+    const int after = m_surface->zoom();
+    if (after == before)
+        return;
+    if (!page.isEmpty()) {
+        // The spot of the page under the anchor stays under it, as far as the
+        // scroll bars reach.
+        const double scale = double(after) / before;
+        const QPointF spot = QPointF(anchor - page.topLeft()) * scale;
+        QScrollBar *h = m_surface->horizontalScrollBar();
+        QScrollBar *v = m_surface->verticalScrollBar();
+        h->setValue(int(std::lround(FitGround + spot.x() - anchor.x())));
+        v->setValue(int(std::lround(FitGround + spot.y() - anchor.y())));
+    }
+    Q_EMIT zoomChanged(after);
+}
+
+void PreviewPane::keyPressEvent(QKeyEvent *event)
+{
+    // Keys the buttons and the page leave unused come here. Plus is also
+    // taken without Shift, from the key it shares with "=".
+    if (event->modifiers() & Qt::ControlModifier) {
+        switch (event->key()) {
+        case Qt::Key_Plus:
+        case Qt::Key_Equal:
+            zoomBy(1);
+            return;
+        case Qt::Key_Minus:
+            zoomBy(-1);
+            return;
+        default:
+            break;
+        }
+    }
+    QWidget::keyPressEvent(event);
+}
+
+bool PreviewPane::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_surface->viewport() && event->type() == QEvent::Wheel) {
+        auto *wheel = static_cast<QWheelEvent *>(event);
+        if (wheel->modifiers() & Qt::ControlModifier) {
+            // A fine wheel (a touchpad) zooms once its turns make a notch.
+            m_wheelAngle += wheel->angleDelta().y();
+            const int steps = m_wheelAngle / WheelNotch;
+            m_wheelAngle -= steps * WheelNotch;
+            if (steps != 0)
+                zoomBy(steps, wheel->position().toPoint());
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace quirra

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "pane/panelayout.h"
-#include "quirracontrol_export.h"
-
 #include <QWidget>
 
 #include <array>
+#include <optional>
+#include <utility>
 
 class QLabel;
 class QToolButton;
@@ -26,8 +26,14 @@ class PrintSurface;
  * "mc_pg_lbl". Their places come from PaneLayout, worked out in twips and
  * shown at the screen's logical resolution, whenever the pane is resized or
  * given new settings.
+ *
+ * The page on show zooms with Ctrl and the mouse wheel or Ctrl with plus
+ * and minus, by ZoomStep percent within the surface's limits; fittingZoom()
+ * gives the zoom at which the page fits the surface. With
+ * PaneSettings::PrintDialogOnPrint the print buttons ask in Qt's print
+ * dialog (printer, copies, and for "Pr All" the pages) before printing.
  */
-class QUIRRACONTROL_EXPORT PreviewPane : public QWidget
+class PreviewPane : public QWidget
 {
     Q_OBJECT
 
@@ -59,13 +65,45 @@ public:
 
     QSize sizeHint() const override;
 
+    /** @brief How far one wheel notch or one Ctrl+plus/minus zooms, in percent. */
+    static constexpr int ZoomStep = 10;
+
+    /** @brief What fittingZoom() fits the page on show to. */
+    enum class Fit { Page, Width };
+
+    /**
+     * @brief The largest whole zoom at which the page on show of surface
+     * fits its whole page (Fit::Page) or its width (Fit::Width, with room
+     * for the vertical scroll bar the taller page then needs), ground and
+     * all; the surface keeps it within its limits when it is set. Without
+     * pages, the zoom in use.
+     */
+    static int fittingZoom(const PrintSurface &surface, Fit fit);
+
+    /**
+     * @brief Zooms by steps times ZoomStep (negative: out), kept within the
+     * surface's limits, about anchor (a point of the surface's viewport,
+     * which stays over the same spot of the page; the viewport's centre
+     * when null).
+     */
+    void zoomBy(int steps, QPoint anchor = QPoint());
+
 Q_SIGNALS:
-    /** @brief "Pr All" was clicked: the control prints the whole run. */
-    void printAllRequested();
+    /**
+     * @brief "Pr All" was clicked (and the print dialog, if shown, was
+     * accepted): the control prints the run. fromPage and toPage are the
+     * pages chosen in the dialog, counted as the preview shows them; 0, 0
+     * for every page.
+     */
+    void printAllRequested(int fromPage, int toPage);
+    /** @brief The user zoomed the page (wheel or keys): the surface's zoom is now percent. */
+    void zoomChanged(int percent);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QToolButton *makeButton(const char *name, const QString &toolTip);
@@ -75,12 +113,19 @@ private:
     void pagingClicked(PaneLayout::Part part);
     void printPage();
     void printAll();
+    /**
+     * The pages to print, chosen in the print dialog (0, 0: every one), or
+     * nothing when the user cancelled. wholeRun offers the pages.
+     */
+    std::optional<std::pair<int, int>> askToPrint(bool wholeRun);
+    void updateToolTips();
 
     PaneSettings m_settings;
     PrintSurface *m_surface = nullptr;
     QLabel *m_label = nullptr;
     std::array<QWidget *, PaneLayout::PartCount> m_parts{}; ///< by PaneLayout::Part
     int m_fontPixels = 9; ///< the row's font size, from the button size
+    int m_wheelAngle = 0; ///< wheel turn not yet zoomed, in eighths of a degree
 };
 
 } // namespace quirra

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "printing/cupsjob.h"
-#include "quirracontrol_export.h"
 #include "surface/printtarget.h"
 
 #include <QString>
@@ -19,7 +18,7 @@ namespace quirra {
  * The printer is used full page, so its (0, 0) is the paper's corner, as
  * for a PDF file; the page engine moves every piece by the printable origin.
  */
-class QUIRRACONTROL_EXPORT PrinterTarget : public PrintTarget
+class PrinterTarget : public PrintTarget
 {
 public:
     /** @brief Prints on printer, which must outlive the target. */

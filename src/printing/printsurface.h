@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
 #include "surface/pageengine.h"
 
 #include <QAbstractScrollArea>
@@ -23,7 +22,7 @@ class PrinterTarget;
  * than the widget scrolls. Print documents and PrintPage go to printer():
  * a system printer, or a PDF file when its output file name is set.
  */
-class QUIRRACONTROL_EXPORT PrintSurface : public QAbstractScrollArea, public PageEngine
+class PrintSurface : public QAbstractScrollArea, public PageEngine
 {
     Q_OBJECT
 

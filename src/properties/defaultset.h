@@ -4,8 +4,6 @@
 
 #include "model/item.h"
 #include "model/piece.h"
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 #include <array>
@@ -21,7 +19,7 @@ namespace quirra {
  * apart from the shared model, so later changes of the piece do not move
  * the defaults that saving and reading compare against.
  */
-struct QUIRRACONTROL_EXPORT DefaultSet
+struct DefaultSet
 {
     Piece piece;                       ///< lengths in inches
     std::array<Item, ItemCount> items; ///< in storage order, boxes in inches

@@ -4,8 +4,6 @@
 
 #include "model/item.h"
 #include "model/piece.h"
-#include "quirracontrol_export.h"
-
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -38,27 +36,27 @@ struct PieceField
  * HorzAlign, Left, LineSpacing, Text, Top, VertAlign, Visible, Width, Wrap.
  * Taken from the item rows of properties/properties.def.
  */
-QUIRRACONTROL_EXPORT const std::vector<Field<Item>> &ItemFields();
+const std::vector<Field<Item>> &ItemFields();
 
 /**
  * @brief The fields of the piece from properties/properties.def: PieceName,
  * the fourteen announced ones by their announced name, then the fields that
  * are not announced (the sheet's size) in the table's order.
  */
-QUIRRACONTROL_EXPORT const std::vector<PieceField> &PieceFields();
+const std::vector<PieceField> &PieceFields();
 
 /**
  * @brief The fourteen names by which a change of the piece is announced, in
  * order. Seven are short forms ("MarginLeft", "NumAcross", ...) rather than
  * property names: the container only needs to learn that something changed.
  */
-QUIRRACONTROL_EXPORT const QStringList &PieceChangedNames();
+const QStringList &PieceChangedNames();
 
 /**
  * @brief The sixty item property names by which a change of the whole layout
  * is announced: items in the order Address, Return, Stamp, Message1, Message2,
  * and within each the fields of ItemFields().
  */
-QUIRRACONTROL_EXPORT const QStringList &ItemsChangedNames();
+const QStringList &ItemsChangedNames();
 
 } // namespace quirra

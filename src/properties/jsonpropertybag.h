@@ -3,8 +3,6 @@
 #pragma once
 
 #include "properties/propertybag.h"
-#include "quirracontrol_export.h"
-
 #include <QJsonObject>
 #include <QString>
 
@@ -20,7 +18,7 @@ namespace quirra {
  * a fraction where a whole number belongs or a font string QFont cannot
  * parse raises quirra::Error naming the value.
  */
-class QUIRRACONTROL_EXPORT JsonPropertyBag : public PropertyBag
+class JsonPropertyBag : public PropertyBag
 {
 public:
     JsonPropertyBag() = default;

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 #include <array>
@@ -26,7 +24,7 @@ using AddressLines = std::array<QString, 10>;
 constexpr double DefaultWidestCityLine = 3500;
 
 /** @brief How the city, state and zip line of a record came out. */
-struct QUIRRACONTROL_EXPORT CityLineFit
+struct CityLineFit
 {
     QString full;           ///< the whole line, two blanks apart; empty when the record has none
     QString printed;        ///< the line printed; empty when it was left out
@@ -58,10 +56,9 @@ struct QUIRRACONTROL_EXPORT CityLineFit
  * @return true when the spool had no further record (the reader's end mark
  * is then set), false when lines were composed.
  */
-QUIRRACONTROL_EXPORT bool ComposeAddressLines(SpoolReader &reader, TextMeasurer &measurer,
-                                              double widest, AddressLines &lines,
-                                              QString &substitute, CityLineFit *fit = nullptr,
-                                              QString *barCode = nullptr);
+bool ComposeAddressLines(SpoolReader &reader, TextMeasurer &measurer, double widest,
+                         AddressLines &lines, QString &substitute, CityLineFit *fit = nullptr,
+                         QString *barCode = nullptr);
 
 /**
  * @brief The city, state and zip line that fits in widest twips.
@@ -82,9 +79,8 @@ QUIRRACONTROL_EXPORT bool ComposeAddressLines(SpoolReader &reader, TextMeasurer 
  * @param measurer measures candidates, in twips; widths are compared in
  * whole twips (halves away from zero), as the surface's measure returns them
  */
-QUIRRACONTROL_EXPORT QString FitCityStateZip(const QString &city, const QString &state,
-                                             const QString &code, double widest,
-                                             TextMeasurer &measurer);
+QString FitCityStateZip(const QString &city, const QString &state, const QString &code,
+                        double widest, TextMeasurer &measurer);
 
 /**
  * @brief Replaces the tokens "<<name>>" in text with the values of a
@@ -99,8 +95,8 @@ QUIRRACONTROL_EXPORT QString FitCityStateZip(const QString &city, const QString 
  * occurrence instead, and the total work is capped, so no list can keep the
  * replacement going without end; an unknown token stays as written.
  */
-QUIRRACONTROL_EXPORT QString ReplaceTokens(const QString &text, const QString &list,
-                                           const QString &pairSeparator = QStringLiteral("^"),
-                                           const QString &entrySeparator = QStringLiteral("|"));
+QString ReplaceTokens(const QString &text, const QString &list,
+                      const QString &pairSeparator = QStringLiteral("^"),
+                      const QString &entrySeparator = QStringLiteral("|"));
 
 } // namespace quirra

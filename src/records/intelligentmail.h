@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QList>
 #include <QRect>
 #include <QString>
@@ -18,7 +16,7 @@ namespace quirra {
  * followed (directly, or after a dash or a blank) by a 5-, 9- or 11-digit
  * routing code; without one the record's ZIP digits are the routing code.
  */
-class QUIRRACONTROL_EXPORT IntelligentMailBarcode
+class IntelligentMailBarcode
 {
 public:
     /** @brief The four bar states, as the postal service letters them. */

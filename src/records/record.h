@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 #include <QStringList>
 
@@ -34,7 +32,7 @@ enum class RecordField : int {
 constexpr int RecordFieldCount = 11;
 
 /** @brief The eleven column names, "nm_first" to "substitute", in field order. */
-QUIRRACONTROL_EXPORT const QStringList &RecordColumnNames();
+const QStringList &RecordColumnNames();
 
 /**
  * @brief One recipient: eleven texts in fixed order.
@@ -43,7 +41,7 @@ QUIRRACONTROL_EXPORT const QStringList &RecordColumnNames();
  * with NewPiece. Fields keep their values until they are set again or the
  * record is cleared.
  */
-class QUIRRACONTROL_EXPORT Record
+class Record
 {
 public:
     /** @brief A record with all eleven fields empty. */

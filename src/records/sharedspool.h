@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
 #include "records/spoolreader.h"
 
 #include <QList>
@@ -19,7 +18,7 @@ namespace quirra {
  * Two controls in one process therefore share a spool; one active control at
  * a time is assumed. The writers stay per control (SpoolWriter).
  */
-class QUIRRACONTROL_EXPORT SharedSpool
+class SharedSpool
 {
 public:
     /** @brief The one instance of this process. */

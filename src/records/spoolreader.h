@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QByteArray>
 #include <QFile>
 #include <QString>
@@ -28,7 +26,7 @@ namespace quirra {
  * There is one reader per process (see SharedSpool); the print run reads
  * through it.
  */
-class QUIRRACONTROL_EXPORT SpoolReader
+class SpoolReader
 {
 public:
     /** @brief The ten record values read before the substitution list. */

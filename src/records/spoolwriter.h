@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QByteArray>
 #include <QFile>
 #include <QString>
@@ -33,7 +31,7 @@ class Record;
  * every YieldEvery lines and after closing, so a host feeding many records
  * stays responsive without paying for an event round per record.
  */
-class QUIRRACONTROL_EXPORT SpoolWriter
+class SpoolWriter
 {
 public:
     /** @brief NewPiece() yields after this many records. */

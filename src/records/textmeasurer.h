@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -16,7 +14,7 @@ namespace quirra {
  * interface how wide a candidate line is. The printing surface implements it
  * with real fonts at the output resolution; tests use known widths.
  */
-class QUIRRACONTROL_EXPORT TextMeasurer
+class TextMeasurer
 {
 public:
     virtual ~TextMeasurer();

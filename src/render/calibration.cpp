@@ -19,6 +19,9 @@ constexpr QRgb Grey = 0xff808080;
 constexpr int Hair = 6;       // twips: a tick's or a cross's line
 constexpr int CrossArm = 180; // twips, 1/8 in
 constexpr double TwipsPerMm = 1440.0 / 25.4;
+// twips: the square where the two rulers meet carries no numbers, so that
+// the first centimetre of one ruler does not stand on the other's ticks
+constexpr int Corner = 1000;
 
 int twips(double inches)
 {
@@ -35,6 +38,11 @@ void number(Surface &surface, const QString &text, int left, int top)
 void ruler(Surface &surface, const QRect &paper, bool across)
 {
     const int length = across ? paper.width() : paper.height();
+    // A number stands only where it fits on the paper whole: along the top
+    // it runs to the right of its tick, down the side it straddles it.
+    const auto numbered = [&](int at) {
+        return at > Corner && at + (across ? 400 : 200) <= length;
+    };
     const auto tick = [&](int at, int offset, int size) {
         const QRect r = across ? QRect(paper.left() + at, paper.top() + offset, Hair, size)
                                : QRect(paper.left() + offset, paper.top() + at, size, Hair);
@@ -43,7 +51,7 @@ void ruler(Surface &surface, const QRect &paper, bool across)
     for (int n = 0; n * 90 <= length; ++n) { // 90 twips: 1/16 in
         const int size = n % 16 == 0 ? 240 : n % 8 == 0 ? 170 : n % 4 == 0 ? 120 : n % 2 ? 60 : 90;
         tick(n * 90, 0, size);
-        if (n % 16 == 0 && n > 0)
+        if (n % 16 == 0 && numbered(n * 90))
             number(surface, QString::number(n / 16),
                    across ? paper.left() + n * 90 + 30 : paper.left() + 250,
                    across ? paper.top() + 250 : paper.top() + n * 90 - 80);
@@ -52,7 +60,7 @@ void ruler(Surface &surface, const QRect &paper, bool across)
         const int at = int(std::lround(mm * TwipsPerMm));
         const int size = mm % 10 == 0 ? 170 : mm % 5 == 0 ? 110 : 60;
         tick(at, 720 - size, size); // the millimetres hang from half an inch in
-        if (mm % 10 == 0 && mm > 0)
+        if (mm % 10 == 0 && numbered(at))
             number(surface, QString::number(mm / 10) + QStringLiteral(" cm"),
                    across ? paper.left() + at + 30 : paper.left() + 760,
                    across ? paper.top() + 480 : paper.top() + at - 80);
@@ -62,8 +70,8 @@ void ruler(Surface &surface, const QRect &paper, bool across)
 Piece scaledPiece(const PieceModel &model)
 {
     Piece piece = model.piece;
-    const float x = std::clamp(model.PrinterScaleX, 90.f, 110.f) / 100.f;
-    const float y = std::clamp(model.PrinterScaleY, 90.f, 110.f) / 100.f;
+    const float x = std::clamp(model.PrinterScaleX, PrinterScaleMin, PrinterScaleMax) / 100.f;
+    const float y = std::clamp(model.PrinterScaleY, PrinterScaleMin, PrinterScaleMax) / 100.f;
     piece.PieceMarginLeft *= x;
     piece.PiecePitchHorz *= x;
     piece.PieceMarginTop *= y;
@@ -76,7 +84,7 @@ Piece scaledPiece(const PieceModel &model)
 void solve(double x1, double x2, double e1, double e2, float &scale, float &offset,
            const char *axis)
 {
-    const double s = std::clamp(scale, 90.f, 110.f) / 100.0;
+    const double s = std::clamp(scale, PrinterScaleMin, PrinterScaleMax) / 100.0;
     double k = 1;
     if (x2 - x1 > 1e-6)
         k = 1 + (e2 - e1) / (x2 - x1);
@@ -85,14 +93,25 @@ void solve(double x1, double x2, double e1, double e2, float &scale, float &offs
                                    "the same one: give the same reading twice")
                         .arg(QLatin1String(axis)));
     const double newScale = 100.0 * s / k;
-    if (newScale < 90 || newScale > 110)
+    if (newScale < PrinterScaleMin || newScale > PrinterScaleMax)
         throw Error(QStringLiteral("the reading asks for a stretch %1 of %2 %; the scale goes from "
                                    "90 to 110 %: check the reading (inches, right and down "
                                    "positive)")
                         .arg(QLatin1String(axis))
                         .arg(newScale, 0, 'f', 1));
     const double a = k / s;
-    offset = float(offset + (x1 + e1 - k * x1) / a);
+    const double newOffset = offset + (x1 + e1 - k * x1) / a;
+    // The offsets are the strip the printer cannot reach: never less than
+    // nothing, never more than a margin.
+    if (newOffset < 0 || newOffset > PrinterOffsetMax)
+        throw Error(
+            QStringLiteral("the reading puts %1 at %2 in; it goes from 0 to %3 in: check "
+                           "the reading (inches, right and down positive) and the "
+                           "present %1")
+                .arg(QLatin1String(qstrcmp(axis, "across") == 0 ? "PrinterLeft" : "PrinterTop"))
+                .arg(newOffset, 0, 'f', 3)
+                .arg(double(PrinterOffsetMax)));
+    offset = float(newOffset);
     scale = float(newScale);
 }
 

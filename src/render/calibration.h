@@ -3,8 +3,6 @@
 #pragma once
 
 #include "model/piecemodel.h"
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -18,7 +16,14 @@ class Surface;
  * and left edges (1/16 in and 1 mm ticks, numbered) and a short
  * instruction. The surface's document is started and ended here.
  */
-QUIRRACONTROL_EXPORT void PrintCalibrationSheet(Surface &surface, const PieceModel &model);
+void PrintCalibrationSheet(Surface &surface, const PieceModel &model);
+
+/** @brief The printer's stretch (PrinterScaleX, PrinterScaleY) a run accepts, percent. */
+constexpr float PrinterScaleMin = 90.f;
+constexpr float PrinterScaleMax = 110.f;
+/** @brief The largest printer offset (PrinterLeft, PrinterTop) a calibration gives, inches: more
+ * is no printer's margin but a misread sheet. */
+constexpr float PrinterOffsetMax = 1.f;
 
 /** @brief The printer settings that make the printed crosses meet the real pieces. */
 struct PrinterCalibration
@@ -35,10 +40,10 @@ struct PrinterCalibration
  * down positive) the cross of the first piece and of the last piece of the
  * sheet lie from the real pieces' centres.
  * @throws Error when the reading cannot be right (the sheet has one piece
- * across and one reads a stretch, or the stretch leaves 90..110 %).
+ * across and one reads a stretch, the stretch leaves 90..110 %, or an
+ * offset leaves 0..1 in).
  */
-QUIRRACONTROL_EXPORT PrinterCalibration CalibrationFromReading(const PieceModel &model, double left,
-                                                               double top, double right,
-                                                               double bottom);
+PrinterCalibration CalibrationFromReading(const PieceModel &model, double left, double top,
+                                          double right, double bottom);
 
 } // namespace quirra

@@ -4,7 +4,6 @@
 
 #include "model/item.h"
 #include "model/piece.h"
-#include "quirracontrol_export.h"
 
 namespace quirra {
 
@@ -34,8 +33,7 @@ struct DrawnText
  * raised to 0 where it would fall off the page.
  * @throws Error when the piece has 0 pieces across.
  */
-QUIRRACONTROL_EXPORT ItemBox itemBoxOnSurface(const Item &item, const Piece &piece, int slot,
-                                              int surfaceMarginLeft);
+ItemBox itemBoxOnSurface(const Item &item, const Piece &piece, int slot, int surfaceMarginLeft);
 
 /**
  * @brief Draws one item of the piece in a slot: font, alignment and line
@@ -43,11 +41,9 @@ QUIRRACONTROL_EXPORT ItemBox itemBoxOnSurface(const Item &item, const Piece &pie
  * middle or bottom alignment, the frame over the whole box, then the text.
  * An invisible item leaves no trace.
  */
-QUIRRACONTROL_EXPORT void DrawItem(const Item &item, const Piece &piece, int slot,
-                                   Surface &surface);
+void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface);
 
 /** @brief DrawItem(), telling where the text went (untouched for an invisible item). */
-QUIRRACONTROL_EXPORT void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface,
-                                   DrawnText *drawn);
+void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface, DrawnText *drawn);
 
 } // namespace quirra

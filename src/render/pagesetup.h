@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QSize>
 
 namespace quirra {
@@ -19,10 +17,10 @@ class Surface;
  * refusals the run goes on with whatever the surface holds.
  * @return true when the surface took the value.
  */
-QUIRRACONTROL_EXPORT bool SetOrientationVerified(Surface &surface, int orientation);
+bool SetOrientationVerified(Surface &surface, int orientation);
 
 /** @brief The same for the paper code (1 letter, 5 legal, 20 No. 10 envelope, ...). */
-QUIRRACONTROL_EXPORT bool SetPaperSizeVerified(Surface &surface, int paperCode);
+bool SetPaperSizeVerified(Surface &surface, int paperCode);
 
 /**
  * @brief The same for a paper code that may be 256, a custom paper of
@@ -31,7 +29,6 @@ QUIRRACONTROL_EXPORT bool SetPaperSizeVerified(Surface &surface, int paperCode);
  * taken when the surface also holds that size, to within half a point. For
  * any other code customTwips is not used.
  */
-QUIRRACONTROL_EXPORT bool SetPaperSizeVerified(Surface &surface, int paperCode,
-                                               const QSize &customTwips);
+bool SetPaperSizeVerified(Surface &surface, int paperCode, const QSize &customTwips);
 
 } // namespace quirra

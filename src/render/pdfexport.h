@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 #include <functional>
@@ -28,8 +26,8 @@ struct PdfRunResult
  * handed to draw.
  * @return what the engine reports afterwards (pieces left 0)
  */
-QUIRRACONTROL_EXPORT PdfRunResult DrawToPdf(const QString &pdfPath, const PieceModel &model,
-                                            const std::function<void(Surface &)> &draw);
+PdfRunResult DrawToPdf(const QString &pdfPath, const PieceModel &model,
+                       const std::function<void(Surface &)> &draw);
 
 /**
  * @brief Prints the spool to a PDF file with the piece and layout of the
@@ -41,7 +39,6 @@ QUIRRACONTROL_EXPORT PdfRunResult DrawToPdf(const QString &pdfPath, const PieceM
  *
  * @throws Error as PrintRun::RunPrintJob does.
  */
-QUIRRACONTROL_EXPORT PdfRunResult PrintSpoolToPdf(const QString &pdfPath, PieceModel &model,
-                                                  SpoolReader &reader);
+PdfRunResult PrintSpoolToPdf(const QString &pdfPath, PieceModel &model, SpoolReader &reader);
 
 } // namespace quirra

@@ -4,7 +4,6 @@
 
 #include "model/item.h"
 #include "model/piece.h"
-#include "quirracontrol_export.h"
 #include "records/addressrules.h"
 #include "render/drawitem.h"
 #include "render/runreport.h"
@@ -18,11 +17,10 @@ namespace quirra {
  * the sheet position less the printer's offsets and the surface's left
  * margin, where it really lies (never raised to the page's edge).
  */
-QUIRRACONTROL_EXPORT QRect pieceBoxOnSurface(const Piece &piece, int slot, int surfaceMarginLeft);
+QRect pieceBoxOnSurface(const Piece &piece, int slot, int surfaceMarginLeft);
 
 /** @brief The item's box on the surface where it really lies; see itemBoxOnSurface(). */
-QUIRRACONTROL_EXPORT QRect itemBoxWhereItLies(const Item &item, const Piece &piece, int slot,
-                                              int surfaceMarginLeft);
+QRect itemBoxWhereItLies(const Item &item, const Piece &piece, int slot, int surfaceMarginLeft);
 
 /**
  * @brief Looks at each record and piece as the print run places it and
@@ -30,7 +28,7 @@ QUIRRACONTROL_EXPORT QRect itemBoxWhereItLies(const Item &item, const Piece &pie
  * note only while the report still keeps notes of its kind, so a long run
  * costs little more than counting.
  */
-class QUIRRACONTROL_EXPORT PieceChecks
+class PieceChecks
 {
 public:
     explicit PieceChecks(RunReport &report) : m_report(report) {}

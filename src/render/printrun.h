@@ -3,7 +3,6 @@
 #pragma once
 
 #include "model/piecemodel.h"
-#include "quirracontrol_export.h"
 #include "render/mailmarks.h"
 #include "render/piecechecks.h"
 #include "render/runreport.h"
@@ -34,7 +33,7 @@ class Surface;
  * come out as the user expects: run on a MeasuringSurface, it is a
  * preflight that draws nothing.
  */
-class QUIRRACONTROL_EXPORT PrintRun
+class PrintRun
 {
 public:
     /** @brief The widest city, state and code line, in twips. */

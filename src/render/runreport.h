@@ -31,10 +31,10 @@ constexpr int NoteKindCount = int(NoteKind::BarcodeInvalid) + 1;
 /** @brief One finding about one record. */
 struct QUIRRACONTROL_EXPORT Note
 {
-    NoteKind kind = NoteKind::EmptyRecord;
-    qint64 record = 0; ///< the record's number in feed order, from 1
-    QString name;      ///< the record's name line; empty when it has none
-    QString detail;    ///< what exactly, in words
+    NoteKind kind = NoteKind::EmptyRecord; ///< what was found
+    qint64 record = 0;                     ///< the record's number in feed order, from 1
+    QString name;                          ///< the record's name line; empty when it has none
+    QString detail;                        ///< what exactly, in words
 };
 
 /**

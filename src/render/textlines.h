@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -15,6 +13,6 @@ namespace quirra {
  * then the new text; an empty (or blank) old text gets no separator, so the
  * first line appended is the whole text.
  */
-QUIRRACONTROL_EXPORT QString AppendTextLine(const QString &text, const QString &line);
+QString AppendTextLine(const QString &text, const QString &line);
 
 } // namespace quirra

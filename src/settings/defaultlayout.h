@@ -3,7 +3,6 @@
 #pragma once
 
 #include "model/item.h"
-#include "quirracontrol_export.h"
 
 namespace quirra {
 
@@ -16,8 +15,7 @@ namespace quirra {
  * corners; an item that would touch or overlap the address is hidden. Items
  * that already have text keep it; the typeface becomes "Arial".
  */
-QUIRRACONTROL_EXPORT void DefaultLayout(float pieceHeight, float pieceWidth, Item &address,
-                                        Item &returnItem, Item &stamp, Item &message1,
-                                        Item &message2);
+void DefaultLayout(float pieceHeight, float pieceWidth, Item &address, Item &returnItem,
+                   Item &stamp, Item &message1, Item &message2);
 
 } // namespace quirra

@@ -127,6 +127,21 @@ QString SystemDirectory()
     return WithTrailingSlash(QStringLiteral(QUIRRA_SOURCE_DATADIR));
 }
 
+QString TranslationsDirectory()
+{
+    const QString here = folderOfThisCode();
+    const QStringList candidates{
+        here.isEmpty() ? QString()
+                       : QDir::cleanPath(here + QLatin1Char('/') +
+                                         QStringLiteral(QUIRRA_RELATIVE_TRANSLATIONSDIR)),
+        QStringLiteral(QUIRRA_INSTALL_TRANSLATIONSDIR)};
+    for (const QString &folder : candidates) {
+        if (!folder.isEmpty() && QFileInfo(folder).isDir())
+            return folder;
+    }
+    return QString();
+}
+
 QString PaperCatalogueFile()
 {
     const QString configured = qEnvironmentVariable("QUIRRA_PAPER_CATALOGUE");

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -19,13 +17,13 @@ namespace quirra {
  *
  * @throws Error when no file can be created there.
  */
-QUIRRACONTROL_EXPORT QString MakeTempFileName(const QString &prefix = QString());
+QString MakeTempFileName(const QString &prefix = QString());
 
 /**
  * @brief What an error (errno code) in the temporary directory dir means for
  * the user: a missing directory and a full one are named as such.
  */
-QUIRRACONTROL_EXPORT QString TemporaryDirectoryProblem(const QString &dir, int code);
+QString TemporaryDirectoryProblem(const QString &dir, int code);
 
 /**
  * @brief The folder of the catalogue files, always ending in "/".
@@ -35,20 +33,28 @@ QUIRRACONTROL_EXPORT QString TemporaryDirectoryProblem(const QString &dir, int c
  * prefix compiled in); else the source tree's data folder for a program run
  * from the build tree.
  */
-QUIRRACONTROL_EXPORT QString SystemDirectory();
+QString SystemDirectory();
 
 /**
  * @brief The file the paper size list is read from: QUIRRA_PAPER_CATALOGUE
  * when set, else the master catalogue in SystemDirectory(). A setting of its
  * own, since a site may keep its paper sizes apart from the catalogue.
  */
-QUIRRACONTROL_EXPORT QString PaperCatalogueFile();
+QString PaperCatalogueFile();
+
+/**
+ * @brief The folder of the library's compiled translations
+ * (quirracontrol_de.qm ...): share/quirracontrol/translations beside the
+ * library, as installed and as the build tree mirrors it; else the installed
+ * prefix compiled in; else empty (the texts stay English).
+ */
+QString TranslationsDirectory();
 
 /** @brief The path with "/" appended unless it already ends in one. */
-QUIRRACONTROL_EXPORT QString WithTrailingSlash(const QString &path);
+QString WithTrailingSlash(const QString &path);
 
 /** @brief True when the file can be opened for reading. */
-QUIRRACONTROL_EXPORT bool FileExists(const QString &path);
+bool FileExists(const QString &path);
 
 /**
  * @brief Deletes the file and waits, processing events, until it is gone.
@@ -56,6 +62,6 @@ QUIRRACONTROL_EXPORT bool FileExists(const QString &path);
  * Errors are ignored. The wait gives up after a few seconds with a warning
  * in the log, so a file that cannot be removed never hangs the program.
  */
-QUIRRACONTROL_EXPORT void DeleteFileAndWait(const QString &path);
+void DeleteFileAndWait(const QString &path);
 
 } // namespace quirra

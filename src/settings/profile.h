@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QByteArray>
 #include <QHash>
 #include <QString>
@@ -25,7 +23,7 @@ namespace quirra {
  * QSettings is no substitute: it splits values at commas, and catalogue
  * records are comma-separated text.
  */
-class QUIRRACONTROL_EXPORT ProfileFile
+class ProfileFile
 {
 public:
     /** @brief Parses the text of a settings file (UTF-8). */

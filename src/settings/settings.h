@@ -2,24 +2,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 #include <QStringList>
 
 namespace quirra {
 
 /** @brief One value through the profile-string reader, cut at 254 characters. */
-QUIRRACONTROL_EXPORT QString ReadSettingRaw(const QString &file, const QString &section,
-                                            const QString &key, const QString &defaultValue);
+QString ReadSettingRaw(const QString &file, const QString &section, const QString &key,
+                       const QString &defaultValue);
 
 /** @brief The value, or the empty text when it is missing. */
-QUIRRACONTROL_EXPORT QString ReadSetting(const QString &file, const QString &section,
-                                         const QString &key);
+QString ReadSetting(const QString &file, const QString &section, const QString &key);
 
 /** @brief The value untrimmed, or defaultValue when the value is empty or blank. */
-QUIRRACONTROL_EXPORT QString ReadSettingOr(const QString &file, const QString &section,
-                                           const QString &key, const QString &defaultValue);
+QString ReadSettingOr(const QString &file, const QString &section, const QString &key,
+                      const QString &defaultValue);
 
 /**
  * @brief Reads the indexed keys key(1), key(2), ... into slots.
@@ -32,29 +29,29 @@ QUIRRACONTROL_EXPORT QString ReadSettingOr(const QString &file, const QString &s
  * @return the one-based index of the last slot whose value was present, 0
  * when none.
  */
-QUIRRACONTROL_EXPORT int ReadSettingList(const QString &file, const QString &section,
-                                         const QString &key, QStringList &slots);
+int ReadSettingList(const QString &file, const QString &section, const QString &key,
+                    QStringList &slots);
 
 /** @brief The empty text for the marker "`", else the text itself. */
-QUIRRACONTROL_EXPORT QString EmptyMarkerToEmpty(const QString &text);
+QString EmptyMarkerToEmpty(const QString &text);
 
 /** @brief True for TRUE, T, YES, Y, ON, -1 and 1 in any case with blanks around; else false. */
-QUIRRACONTROL_EXPORT bool ParseBoolean(const QString &text);
+bool ParseBoolean(const QString &text);
 
 /** @brief The decimal number in text ("." as the point), 0 when it is not one. */
-QUIRRACONTROL_EXPORT double ParseDouble(const QString &text);
+double ParseDouble(const QString &text);
 
 /** @brief ParseDouble, as a single-precision number. */
-QUIRRACONTROL_EXPORT float ParseSingle(const QString &text);
+float ParseSingle(const QString &text);
 
 /**
  * @brief The number in text as a 16-bit integer, halves rounded to even; 0
  * when the text is not numeric.
  * @throws Error when the number does not fit in 16 bits.
  */
-QUIRRACONTROL_EXPORT qint16 ParseInteger(const QString &text);
+qint16 ParseInteger(const QString &text);
 
 /** @brief True when text reads as a number (blanks around it allowed). */
-QUIRRACONTROL_EXPORT bool IsNumeric(const QString &text);
+bool IsNumeric(const QString &text);
 
 } // namespace quirra

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -13,7 +11,7 @@ namespace quirra {
  * double precision. scale is the layout editor's display scale: display
  * twips per twip of the real piece.
  */
-QUIRRACONTROL_EXPORT double InchesToDisplayTwips(double inches, float scale);
+double InchesToDisplayTwips(double inches, float scale);
 
 /**
  * @brief value ÷ scale ÷ 1440 as inches, formatted "#0.##" ("2." for two
@@ -22,13 +20,13 @@ QUIRRACONTROL_EXPORT double InchesToDisplayTwips(double inches, float scale);
  * A scale that is not a positive number is taken as 1 (with a warning in
  * the log), so a field never shows an infinite length.
  */
-QUIRRACONTROL_EXPORT QString DisplayTwipsToText(double displayTwips, float scale);
+QString DisplayTwipsToText(double displayTwips, float scale);
 
 /** @brief b when a <= b, else a: on equal values the second argument. */
-QUIRRACONTROL_EXPORT float Larger(float a, float b);
+float Larger(float a, float b);
 
 /** @brief b when a >= b, else a: on equal values the second argument. */
-QUIRRACONTROL_EXPORT float Smaller(float a, float b);
+float Smaller(float a, float b);
 
 /**
  * @brief Formats a number by one of the patterns the forms use.
@@ -40,6 +38,6 @@ QUIRRACONTROL_EXPORT float Smaller(float a, float b);
  * from zero on the number's 15 significant digits, as the forms always showed
  * it.
  */
-QUIRRACONTROL_EXPORT QString FormatNumber(double value, const QString &pattern);
+QString FormatNumber(double value, const QString &pattern);
 
 } // namespace quirra

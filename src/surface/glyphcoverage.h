@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QString>
 
 namespace quirra {
@@ -19,6 +17,6 @@ namespace quirra {
  * of the process, so a run of many records asks the fonts once per
  * character. Needs a QGuiApplication; call it from the GUI thread.
  */
-QUIRRACONTROL_EXPORT QString UndrawableCharacters(const QString &text);
+QString UndrawableCharacters(const QString &text);
 
 } // namespace quirra

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
 #include "surface/pageengine.h"
 
 namespace quirra {
@@ -15,7 +14,7 @@ namespace quirra {
  *
  * Documents always start without error; pages are counted, not kept.
  */
-class QUIRRACONTROL_EXPORT MeasuringSurface : public PageEngine
+class MeasuringSurface : public PageEngine
 {
 public:
     MeasuringSurface() = default;

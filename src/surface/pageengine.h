@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
 #include "surface/surface.h"
 
 #include <QSizeF>
@@ -32,7 +31,7 @@ class PrintTarget;
  *
  * Fonts need a QGuiApplication (the offscreen platform will do).
  */
-class QUIRRACONTROL_EXPORT PageEngine : public Surface
+class PageEngine : public Surface
 {
 public:
     PageEngine();

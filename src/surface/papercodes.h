@@ -3,8 +3,6 @@
 #pragma once
 
 #include "model/papersizes.h"
-#include "quirracontrol_export.h"
-
 #include <QPageLayout>
 #include <QPageSize>
 
@@ -21,7 +19,7 @@ namespace quirra {
  * no paper has. Sizes are always given upright (the shorter side across);
  * orientation is a separate setting.
  */
-QUIRRACONTROL_EXPORT QPageSize pageSizeForPaperCode(int code);
+QPageSize pageSizeForPaperCode(int code);
 
 /**
  * @brief A paper of exactly widthTwips x heightTwips (twips, 1440 to the
@@ -29,25 +27,25 @@ QUIRRACONTROL_EXPORT QPageSize pageSizeForPaperCode(int code);
  * has that size to the point, else a custom paper. Invalid when either side is
  * not positive.
  */
-QUIRRACONTROL_EXPORT QPageSize pageSizeForTwips(int widthTwips, int heightTwips);
+QPageSize pageSizeForTwips(int widthTwips, int heightTwips);
 
 /**
  * @brief The paper setPaperSize() takes for a code: pageSizeForPaperCode(),
  * or for CustomPaperCode the custom size in twips (pageSizeForTwips()).
  */
-QUIRRACONTROL_EXPORT QPageSize pageSizeForPaper(int code, const QSize &customTwips);
+QPageSize pageSizeForPaper(int code, const QSize &customTwips);
 
 /** @brief The paper of a page layout as it is oriented, in twips. */
-QUIRRACONTROL_EXPORT QSizeF paperTwips(const QPageLayout &layout);
+QSizeF paperTwips(const QPageLayout &layout);
 
 /** @brief A paper's size in whole twips, upright (the shorter side first). */
-QUIRRACONTROL_EXPORT QSize uprightTwips(const QPageSize &size);
+QSize uprightTwips(const QPageSize &size);
 
 /**
  * @brief The paper code of a paper: the first code whose paper has the same
  * size (to within half a point, in either orientation), or CustomPaperCode
  * when no code has it.
  */
-QUIRRACONTROL_EXPORT int paperCodeForPageSize(const QPageSize &size);
+int paperCodeForPageSize(const QPageSize &size);
 
 } // namespace quirra

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
 #include "surface/printtarget.h"
 
 #include <QString>
@@ -19,7 +18,7 @@ namespace quirra {
  * A PDF page reaches the paper's edge, so every piece lands where it lies on
  * the real sheet. An aborted document leaves no file behind.
  */
-class QUIRRACONTROL_EXPORT PdfTarget : public PrintTarget
+class PdfTarget : public PrintTarget
 {
 public:
     explicit PdfTarget(const QString &fileName = QString());

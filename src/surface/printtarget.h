@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
-
 #include <QPageLayout>
 #include <QString>
 
@@ -20,7 +18,7 @@ namespace quirra {
  * paper's top-left corner; the engine itself moves everything by the
  * printable origin.
  */
-class QUIRRACONTROL_EXPORT PrintTarget
+class PrintTarget
 {
 public:
     virtual ~PrintTarget();

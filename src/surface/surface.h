@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "quirracontrol_export.h"
 #include "records/textmeasurer.h"
 
 #include <QColor>
@@ -40,7 +39,7 @@ enum class SurfaceAction {
  * the document starts: in preview it keeps every page to show later; in print
  * it sends each page to the output as soon as it is finished and keeps none.
  */
-class QUIRRACONTROL_EXPORT Surface : public TextMeasurer
+class Surface : public TextMeasurer
 {
 public:
     ~Surface() override;

@@ -10,6 +10,7 @@
 #include "properties/jsonpropertybag.h"
 
 #include <QDir>
+#include <QImage>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -82,6 +83,10 @@ private Q_SLOTS:
     void progressOnRequestOnly();
     void previewWithoutDisplay();
     void piecesListsTheDatabase();
+    void calibrationSheet_data();
+    void calibrationSheet();
+    void manPageListsEveryOption_data();
+    void manPageListsEveryOption();
 
 private:
     Run quirra(const QStringList &arguments, const QByteArray &input = {});
@@ -561,6 +566,124 @@ void TestCli::piecesListsTheDatabase()
     QVERIFY2(all.out.count(QLatin1Char('\n')) > 1000, qPrintable(all.out.left(200)));
     QCOMPARE(one.out, QStringLiteral("Laser/InkJet Products\tAvery\tAvery L7163\t3.90139 x 1.5 in"
                                      "\t2 x 7\tA4 (210 x 297 mm)\tMailing labels\n"));
+}
+
+void TestCli::calibrationSheet_data()
+{
+    QTest::addColumn<QString>("piece");
+    QTest::addColumn<QSizeF>("paper");  // points
+    QTest::addColumn<QRectF>("pieces"); // the first piece's centre and the pitch, inches
+    QTest::addColumn<QSize>("grid");
+    QTest::addColumn<QStringList>("measured"); // a reading, the settings it gives
+    // The sheets' real geometry. A reading 1 % too wide over the 5.5 in
+    // between the outer crosses, and one 0.6 % too tall over 9 in.
+    QTest::newRow("letter-30-up") << "5160 - Address Labels" << QSizeF(612, 792)
+                                  << QRectF(1.5, 1.0, 2.75, 1.0) << QSize(3, 10)
+                                  << QStringList{
+                                         "0,0.1,0.055,0.1",
+                                         "--set PrinterLeft=0.235 --set PrinterTop=0.350 "
+                                         "--set PrinterScaleX=99.01 --set PrinterScaleY=100.00\n"};
+    QTest::newRow("a4-21-up") << "L7160 - Address Labels" << QSizeF(595.3, 841.9)
+                              << QRectF(1.5339, 1.3465, 2.6, 1.5) << QSize(3, 7)
+                              << QStringList{
+                                     "-0.05,0,-0.05,0.06",
+                                     "--set PrinterLeft=0.200 --set PrinterTop=0.241 "
+                                     "--set PrinterScaleX=100.00 --set PrinterScaleY=99.34\n"};
+}
+
+void TestCli::calibrationSheet()
+{
+    QFETCH(QString, piece);
+    QFETCH(QSizeF, paper);
+    QFETCH(QRectF, pieces);
+    QFETCH(QSize, grid);
+    QFETCH(QStringList, measured);
+    const QString pdf = out(QStringLiteral("calibration.pdf"));
+    const Run run = quirra({"calibrate", "--piece", piece, "--pdf", pdf});
+    QVERIFY2(run.status == 0, qPrintable(run.err));
+    const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
+    QVERIFY(sizes.size() == 1 && qAbs(sizes[0].width() - paper.width()) < 1 &&
+            qAbs(sizes[0].height() - paper.height()) < 1);
+
+    // A ruler number stands at its tick, n inches or n cm from the paper's
+    // left edge (across the top) or top edge (down the side), whole on the
+    // paper and covering no other word; each ruler has both kinds.
+    const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
+    QMap<QString, int> count;
+    for (int i = 0; i < words.size(); ++i) {
+        const QRectF box = words[i].box;
+        QVERIFY2(QRectF(QPointF(), paper).contains(box), qPrintable(words[i].text));
+        for (int j = i + 1; j < words.size(); ++j)
+            QVERIFY2(!box.intersects(words[j].box), qPrintable(words[i].text + words[j].text));
+        bool number = false;
+        const int n = words[i].text.toInt(&number);
+        if (!number || (box.top() > 40 && box.left() > 60))
+            continue; // the instruction
+        const bool cm = i + 1 < words.size() && words[i + 1].text == QLatin1String("cm");
+        const bool across = box.top() < 40;
+        QVERIFY2(qAbs((across ? box.left() : box.center().y()) - n * (cm ? 72 / 2.54 : 72)) < 3,
+                 qPrintable(words[i].text));
+        ++count[QLatin1String(across ? "across " : "down ") + QLatin1String(cm ? "cm" : "in")];
+    }
+    QCOMPARE(count.size(), 4);
+    for (int numbers : std::as_const(count))
+        QVERIFY(numbers >= 6);
+
+    // A cross at every real piece's centre (the printer's offsets cancel on
+    // a PDF), plain paper a quarter pitch to its right.
+    constexpr int Dpi = 150;
+    QCOMPARE(QProcess::execute("pdftoppm", {"-gray", "-r", "150", "-singlefile", pdf, out("s")}),
+             0);
+    const QImage image(out("s.pgm"));
+    const auto darkest = [&](double x, double y) {
+        int value = 255;
+        for (int dy = -2; dy <= 2; ++dy)
+            for (int dx = -2; dx <= 2; ++dx)
+                value = std::min(value, qGray(image.pixel(int(x * Dpi) + dx, int(y * Dpi) + dy)));
+        return value;
+    };
+    for (int slot = 0; slot < grid.width() * grid.height(); ++slot) {
+        const double x = pieces.x() + slot % grid.width() * pieces.width();
+        const double y = pieces.y() + slot / grid.width() * pieces.height();
+        QVERIFY2(darkest(x, y) < 160 && darkest(x + pieces.width() / 4, y) > 230,
+                 qPrintable(QString::number(slot + 1)));
+    }
+
+    const Run settings = quirra({"calibrate", "--piece", piece, "--measured", measured[0]});
+    QCOMPARE(settings.out, measured[1]);
+}
+
+// Every command the usage names, and every option its help lists, has its
+// entry in the manual page.
+void TestCli::manPageListsEveryOption_data()
+{
+    QTest::addColumn<QString>("command");
+    static const QRegularExpression named(QStringLiteral(R"(quirra ([a-z]+) )"));
+    for (auto it = named.globalMatch(runQuirra(QDir::tempPath(), {"--help"}).out); it.hasNext();) {
+        const QString command = it.next().captured(1);
+        QTest::newRow(qPrintable(command)) << command;
+    }
+}
+
+void TestCli::manPageListsEveryOption()
+{
+    QFETCH(QString, command);
+    QFile file(QStringLiteral(QUIRRA_SOURCE_ROOT "/doc/quirra.1"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString page = QString::fromUtf8(file.readAll());
+    QVERIFY(page.contains(QLatin1String(".SS ") + command));
+    const Run help = quirra({command, "--help"});
+    static const QRegularExpression option(QStringLiteral(R"(^  (?:-\w, )?--([\w-]+))"),
+                                           QRegularExpression::MultilineOption);
+    int listed = 0;
+    for (auto it = option.globalMatch(help.out); it.hasNext(); ++listed) {
+        const QString name = it.next().captured(1);
+        if (name == QLatin1String("help-all"))
+            continue; // Qt's own
+        QVERIFY2(page.contains(QLatin1String("\\-\\-") + QString(name).replace('-', "\\-")),
+                 qPrintable(name));
+    }
+    QVERIFY(listed > 2);
 }
 
 QTEST_MAIN(TestCli)

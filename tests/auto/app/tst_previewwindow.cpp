@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "hostrecorder.h"
 #include "modaldriver.h"
 #include "pdfprobe.h"
 #include "previewwindow.h"
@@ -11,7 +12,11 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPrinter>
+#include <QRadioButton>
+#include <QSpinBox>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -29,6 +34,8 @@ private Q_SLOTS:
     void closingStopsTheFeed();
     void designActionsRefreshWhenAccepted_data();
     void designActionsRefreshWhenAccepted();
+    void printButtons_data();
+    void printButtons();
 
 private:
     void feed(PreviewWindow &window);
@@ -150,6 +157,88 @@ void TestPreviewWindow::designActionsRefreshWhenAccepted()
     QVERIFY(!driver.watchdogFired());
     QCOMPARE(driver.actionsRun(), 1);
     QCOMPARE(window.control()->surface()->previewPage(), refreshed ? 1 : 3);
+}
+
+void TestPreviewWindow::printButtons_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>(
+        "answer");                      // in the print dialog: "cancel", "print", pages "2-3"; none
+    QTest::addColumn<int>("hostFirst"); // SetPrintPages(hostFirst, 0) before the preview
+    QTest::addColumn<QString>("printer"); // a queue to print on instead of a PDF file
+    QTest::addColumn<QStringList>(
+        "outcome"); // last names on the pages printed, the host's messages
+
+    const QStringList none, missing = {"Ptr.error = 2"}, okafor = {"Okafor"};
+    QTest::newRow("page-at-once") << "mc_p_pg"
+                                  << "" << 0 << "" << okafor;
+    QTest::newRow("page-dialog-cancel") << "mc_p_pg"
+                                        << "cancel" << 0 << "" << none;
+    QTest::newRow("page-dialog-print") << "mc_p_pg"
+                                       << "print" << 0 << "" << okafor;
+    QTest::newRow("all-at-once") << "mc_p_all"
+                                 << "" << 0 << ""
+                                 << QStringList{"Holloway", "Okafor", "Ångström", "Wu"};
+    QTest::newRow("all-dialog-cancel") << "mc_p_all"
+                                       << "cancel" << 0 << "" << none;
+    QTest::newRow("all-dialog-pages") << "mc_p_all"
+                                      << "2-3" << 0 << "" << QStringList{"Okafor", "Ångström"};
+    QTest::newRow("all-dialog-pages-of-the-host-range")
+        << "mc_p_all"
+        << "2-3" << 2 << "" << QStringList{"Ångström", "Wu"};
+    // A failed "Pr Pg" reaches the host as a failed "Pr All" does.
+    QTest::newRow("page-no-such-printer") << "mc_p_pg"
+                                          << "" << 0 << "no-such-queue" << missing;
+    QTest::newRow("all-no-such-printer") << "mc_p_all"
+                                         << "" << 0 << "no-such-queue" << missing;
+}
+
+void TestPreviewWindow::printButtons()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, answer);
+    QFETCH(int, hostFirst);
+    QFETCH(QString, printer);
+    QFETCH(QStringList, outcome);
+    HostRecorder host;
+    PreviewWindow window;
+    QVERIFY(showActive(&window));
+    Quirra *control = window.control();
+    control->PrintDialogOnPrint(!answer.isEmpty());
+    control->SetPrintPages(hostFirst, 0);
+    feed(window);
+    const QString pdf = m_dir->filePath(QStringLiteral("out.pdf"));
+    if (printer.isEmpty())
+        control->printer()->setOutputFileName(pdf);
+    else
+        control->surface()->setPrinterName(printer);
+    click(&window, "mc_next"); // "Pr Pg" prints the second page shown
+
+    ModalDriver driver;
+    driver.onModal(QStringLiteral("print_dialog"), [&](QDialog *shown) {
+        if (answer == QLatin1String("cancel"))
+            return ModalDriver::close(shown, QStringLiteral("escape"));
+        // To the PDF file, also where the system has printers: the last of them.
+        auto *printers = shown->findChild<QComboBox *>(QStringLiteral("printers"));
+        printers->setCurrentIndex(printers->count() - 1);
+        shown->findChild<QLineEdit *>(QStringLiteral("filename"))->setText(pdf);
+        if (answer.contains(QLatin1Char('-'))) {
+            shown->findChild<QRadioButton *>(QStringLiteral("printRange"))->click();
+            shown->findChild<QSpinBox *>(QStringLiteral("to"))->setValue(answer.right(1).toInt());
+            shown->findChild<QSpinBox *>(QStringLiteral("from"))->setValue(answer.left(1).toInt());
+        }
+        ModalDriver::close(shown, QStringLiteral("return"));
+    });
+    click(&window, qPrintable(button));
+
+    QVERIFY(!driver.watchdogFired());
+    QCOMPARE(driver.actionsRun(), answer.isEmpty() ? 0 : 1);
+    QStringList names;
+    for (const pdfprobe::Word &word : pdfprobe::words(pdf)) {
+        if (QStringList{"Holloway", "Okafor", "Ångström", "Wu"}.contains(word.text))
+            names.append(word.text);
+    }
+    QCOMPARE(names + host.messages, outcome);
 }
 
 QTEST_MAIN(TestPreviewWindow)

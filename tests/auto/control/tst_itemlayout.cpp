@@ -30,7 +30,7 @@ QStringList applyOrder()
                        "PieceHeight",  "PieceWidth",       "PiecePitchHorz", "PiecePitchVert",
                        "PrinterLeft",  "PrinterTop"} +
            itemNames({"Address", "Return", "Message1", "Message2", "Stamp"}) +
-           QStringList{"PageWidth", "PageHeight"};
+           QStringList{"PageWidth", "PageHeight", "PrinterScaleX", "PrinterScaleY"};
 }
 
 QString text(const ItemLayout &page, const char *label)
@@ -58,6 +58,8 @@ private Q_SLOTS:
     void doubleClickEditsAndMarksChanged();
     void tooLargeAPieceIsRefused();
     void sheetAppliesAndClearsTheMark();
+    void calibrationFields_data();
+    void calibrationFields();
 };
 
 void TestItemLayout::applyWritesInOrder_data()
@@ -287,6 +289,39 @@ void TestItemLayout::sheetAppliesAndClearsTheMark()
     QVERIFY(!driver.watchdogFired());
     QCOMPARE(applied.size(), 1);
     QCOMPARE(control.PieceName(), QStringLiteral("Size 10 - Envelope"));
+}
+
+void TestItemLayout::calibrationFields_data()
+{
+    QTest::addColumn<QStringList>("edit"); // property, what is typed, the note (none: taken)
+    QTest::addColumn<float>("applied");
+    QTest::newRow("left-offset") << QStringList{"PrinterLeft", "0.125", ""} << 0.125f;
+    QTest::newRow("vertical-scale") << QStringList{"PrinterScaleY", "101.5", ""} << 101.5f;
+    QTest::newRow("scale-above-the-range")
+        << QStringList{"PrinterScaleX", "120", "Horizontal scale goes from 90 to 110 %"} << 100.f;
+    QTest::newRow("offset-not-a-number")
+        << QStringList{"PrinterTop", "1/4", "Top offset goes from 0 to 1 in"} << 0.25f;
+}
+
+void TestItemLayout::calibrationFields()
+{
+    QFETCH(QStringList, edit);
+    QFETCH(float, applied);
+    Quirra control;
+    ItemLayout page;
+    page.setSelectedControls({&control});
+    auto *box = page.findChild<QLineEdit *>("txt" + edit[0]);
+    QVERIFY(box);
+    box->selectAll();
+    QTest::keyClicks(box, edit[1]);
+    QTest::keyClick(box, Qt::Key_Return);
+
+    const QString note = text(page, "lblCalibrationNote");
+    QVERIFY2(edit[2].isEmpty() ? note.isEmpty() : note.contains(edit[2]), qPrintable(note));
+    QCOMPARE(box->text().toFloat(), applied); // a refused value gives way to the old one
+    QCOMPARE(page.isChanged(), edit[2].isEmpty());
+    page.applyChanges();
+    QCOMPARE(control.property(qPrintable(edit[0])).toFloat(), applied);
 }
 
 QTEST_MAIN(TestItemLayout)

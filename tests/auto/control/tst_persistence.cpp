@@ -10,6 +10,7 @@
 #include "hostrecorder.h"
 #include "model/error.h"
 #include "model/piecemodel.h"
+#include "properties/defaultset.h"
 #include "publishedproperties.h"
 #include "records/sharedspool.h"
 
@@ -32,8 +33,9 @@ QStringList savedNames()
     QStringList names;
     for (const PublishedProperty &property : SavedProperties)
         names.append(QLatin1String(property.name));
-    return names + QStringList{"PageWidth",     "PageHeight",    "AddressBarcode", "PieceStartSlot",
-                               "PieceOutlines", "PrinterScaleX", "PrinterScaleY"};
+    return names + QStringList{"PageWidth",      "PageHeight",        "AddressBarcode",
+                               "PieceStartSlot", "PieceOutlines",     "PrinterScaleX",
+                               "PrinterScaleY",  "PrintDialogOnPrint"};
 }
 
 // Remembers what the control asks for; fails the names it is told to fail.
@@ -106,7 +108,7 @@ private Q_SLOTS:
         Quirra control;
         QSignalSpy spy(&control, &Quirra::propertyChanged);
         control.InitProperties();
-        QCOMPARE(spy.size(), 91 + 74);
+        QCOMPARE(spy.size(), 92 + 74);
         for (int i = 0; i < 74; ++i) // what PieceName announces besides itself
             expected.append(spy.at(expected.size()).at(0).toString());
         expected.append(QStringLiteral("EnvelopeOrientation"));
@@ -124,12 +126,12 @@ private Q_SLOTS:
                 expected.append(item + field);
         }
         expected +=
-            QStringList{"PreviewZoom",   "PieceMarginLeft", "PieceMarginTop", "PieceHeight",
-                        "PieceWidth",    "PiecePitchHorz",  "PiecePitchVert", "PrinterLeft",
-                        "PrinterTop",    "PieceNumAcross",  "PieceNumDown",   "PieceOrientation",
-                        "PageSizeNum",   "PageSize",        "IsCustom",       "PageWidth",
-                        "PageHeight",    "AddressBarcode",  "PieceStartSlot", "PieceOutlines",
-                        "PrinterScaleX", "PrinterScaleY"};
+            QStringList{"PreviewZoom",   "PieceMarginLeft", "PieceMarginTop",    "PieceHeight",
+                        "PieceWidth",    "PiecePitchHorz",  "PiecePitchVert",    "PrinterLeft",
+                        "PrinterTop",    "PieceNumAcross",  "PieceNumDown",      "PieceOrientation",
+                        "PageSizeNum",   "PageSize",        "IsCustom",          "PageWidth",
+                        "PageHeight",    "AddressBarcode",  "PieceStartSlot",    "PieceOutlines",
+                        "PrinterScaleX", "PrinterScaleY",   "PrintDialogOnPrint"};
         QStringList names;
         for (const QList<QVariant> &arguments : spy)
             names.append(arguments.at(0).toString());
@@ -268,7 +270,7 @@ private Q_SLOTS:
         QCOMPARE(control.PreviewZoom(), short(30));
         QCOMPARE(control.BoarderInside(), short(60));
         QCOMPARE(control.PieceNumDown(), control.defaultSet().piece.PieceNumDown);
-        QCOMPARE(bag.reads.size(), 91);
+        QCOMPARE(bag.reads.size(), 92);
     }
 
     void fontsDefaultToTheInheritedFont()

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "pane/previewpane.h"
 
+#include "modaldriver.h"
 #include "nowindowleft.h"
-#include "pdfprobe.h"
 #include "spoolfixture.h"
 
 #include "catalogue/pieceloader.h"
@@ -13,10 +13,8 @@
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
-#include <QPrinter>
+#include <QScrollBar>
 #include <QSignalSpy>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 
@@ -25,13 +23,16 @@ using namespace quirra;
 namespace {
 const QStringList Paging = {"mc_first", "mc_prev", "mc_next", "mc_last"};
 
-// A real preview run of records address labels, three to a page.
-void preview(PreviewPane &pane, int records)
+// A real preview run of records pieces; labels go three to a page.
+void preview(PreviewPane &pane, int records,
+             const QString &piece = QStringLiteral("5160 - Address Labels"))
 {
     PieceModel &model = PieceModel::shared();
-    QVERIFY(LoadPieceByName(QStringLiteral("5160 - Address Labels"), model));
-    model.piece.PieceNumAcross = 3;
-    model.piece.PieceNumDown = 1;
+    QVERIFY(LoadPieceByName(piece, model));
+    if (model.piece.PieceNumAcross * model.piece.PieceNumDown > 1) {
+        model.piece.PieceNumAcross = 3;
+        model.piece.PieceNumDown = 1;
+    }
     fixture::newSpool();
     fixture::feed(fixture::numbered(records));
     pane.surface()->setPreview(true);
@@ -60,9 +61,12 @@ private Q_SLOTS:
     }
     void paging_data();
     void paging();
-    void printPageOnShow();
     void layout_data();
     void layout();
+    void zoom_data();
+    void zoom();
+    void fit_data();
+    void fit();
 };
 
 void TestPreviewPane::paging_data()
@@ -114,27 +118,6 @@ void TestPreviewPane::paging()
     QCOMPARE(printAll.count(), int(clicks.count("mc_p_all")));
 }
 
-void TestPreviewPane::printPageOnShow()
-{
-    if (QStandardPaths::findExecutable(QStringLiteral("pdfinfo")).isEmpty())
-        QSKIP("pdfinfo (poppler-utils) is not installed");
-    QTemporaryDir dir;
-    const QString pdf = dir.filePath(QStringLiteral("page.pdf"));
-    PreviewPane pane;
-    pane.show();
-    preview(pane, 7);
-    pane.surface()->printer()->setOutputFileName(pdf);
-    click(pane, "mc_last");
-    click(pane, "mc_p_pg");
-
-    QCOMPARE(pdfprobe::pageSizes(pdf).size(), 1);
-    QStringList words;
-    for (const pdfprobe::Word &w : pdfprobe::words(pdf))
-        words.append(w.text);
-    QVERIFY2(words.contains("Name7") && !words.contains("Name1"), qPrintable(words.join(' ')));
-    QCOMPARE(pane.focusWidget(), pane.findChild<QWidget *>("mc_prev"));
-}
-
 void TestPreviewPane::layout_data()
 {
     QTest::addColumn<QSize>("size");
@@ -182,6 +165,109 @@ void TestPreviewPane::layout()
     if (!paging)
         QCOMPARE(label->x(),
                  PaneLayout::pixelsFromTwips(twips.boarderInside(), pane.logicalDpiX()));
+}
+
+void TestPreviewPane::zoom_data()
+{
+    QTest::addColumn<int>("start");
+    QTest::addColumn<QList<int>>("input"); // wheel turns in eighths of a degree; keys: ±1 each
+    QTest::addColumn<bool>("wheel");
+    QTest::addColumn<int>("zoom");
+
+    const int step = PreviewPane::ZoomStep;
+    QTest::newRow("wheel-down-two-notches") << 30 << QList<int>{-240} << true << 30 - 2 * step;
+    QTest::newRow("touchpad-turns-add-up") << 30 << QList<int>{90, 90, 60} << true << 30 + 2 * step;
+    QTest::newRow("wheel-down-stops-at-10") << 15 << QList<int>{-120, -120} << true << 10;
+    QTest::newRow("wheel-up-keeps-the-spot") << 200 << QList<int>{120} << true << 200 + step;
+    QTest::newRow("ctrl-plus-and-equal")
+        << 30 << QList<int>{Qt::Key_Plus, Qt::Key_Equal} << false << 30 + 2 * step;
+    QTest::newRow("ctrl-minus") << 30 << QList<int>{Qt::Key_Minus} << false << 30 - step;
+    QTest::newRow("ctrl-plus-stops-at-1000")
+        << 995 << QList<int>{Qt::Key_Plus, Qt::Key_Plus} << false << 1000;
+}
+
+void TestPreviewPane::zoom()
+{
+    QFETCH(int, start);
+    QFETCH(QList<int>, input);
+    QFETCH(bool, wheel);
+    QFETCH(int, zoom);
+    PreviewPane pane;
+    QVERIFY(showActive(&pane));
+    preview(pane, 7);
+    PrintSurface *surface = pane.surface();
+    surface->setZoom(start);
+    // Over the page, two thirds of the way across and down the view.
+    const QPoint pointer(surface->viewport()->width() * 2 / 3,
+                         surface->viewport()->height() * 2 / 3);
+    const QPointF spot = QPointF(pointer - surface->pageRect().topLeft()) / start;
+    QSignalSpy zoomed(&pane, &PreviewPane::zoomChanged);
+    const auto turnWheel = [&](int angle, Qt::KeyboardModifiers modifiers) {
+        QWheelEvent event(pointer, surface->viewport()->mapToGlobal(pointer), QPoint(),
+                          QPoint(0, angle), Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(surface->viewport(), &event);
+    };
+
+    for (const int turn : input) {
+        if (wheel)
+            turnWheel(turn, Qt::ControlModifier);
+        else // to the button with the focus, as a person's keys go
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key(turn), Qt::ControlModifier);
+    }
+    QCOMPARE(surface->zoom(), zoom);
+    QCOMPARE(zoomed.isEmpty() ? 0 : zoomed.last().at(0).toInt(), zoom);
+    if (start >= 200) { // the page scrolls: the spot under the pointer stays, within a pixel
+        const QPointF moved =
+            (QPointF(pointer - surface->pageRect().topLeft()) / zoom - spot) * zoom;
+        QVERIFY2(moved.manhattanLength() <= 2,
+                 qPrintable(QString("%1 %2").arg(moved.x()).arg(moved.y())));
+    }
+    // Without Ctrl the wheel scrolls the page and leaves the zoom.
+    turnWheel(-120, Qt::NoModifier);
+    QCOMPARE(surface->zoom(), zoom);
+}
+
+void TestPreviewPane::fit_data()
+{
+    QTest::addColumn<QString>("piece");
+    QTest::addColumn<QSize>("paneSize");
+    QTest::addColumn<bool>("width"); // fit the width, else the whole page
+    QTest::addColumn<bool>("down");  // the fitted page scrolls down
+
+    const QString sheet = QStringLiteral("5160 - Address Labels");
+    const QString envelope = QStringLiteral("Size 10 - Envelope");
+    QTest::newRow("sheet-page") << sheet << QSize(600, 450) << false << false;
+    QTest::newRow("sheet-width-scrolls-down") << sheet << QSize(600, 450) << true << true;
+    QTest::newRow("envelope-page-tall-pane") << envelope << QSize(400, 700) << false << false;
+    QTest::newRow("envelope-width") << envelope << QSize(900, 500) << true << false;
+}
+
+void TestPreviewPane::fit()
+{
+    QFETCH(QString, piece);
+    QFETCH(QSize, paneSize);
+    QFETCH(bool, width);
+    QFETCH(bool, down);
+    PreviewPane pane;
+    pane.resize(paneSize);
+    QVERIFY(showActive(&pane));
+    preview(pane, 1, piece);
+    PrintSurface *surface = pane.surface();
+    const int fitted = PreviewPane::fittingZoom(*surface, width ? PreviewPane::Fit::Width
+                                                                : PreviewPane::Fit::Page);
+    // The scroll bars come and go after the zoom, as events.
+    const auto scrollsAt = [surface](int zoom) {
+        surface->setZoom(zoom);
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        return qMakePair(surface->horizontalScrollBar()->maximum() > 0,
+                         surface->verticalScrollBar()->maximum() > 0);
+    };
+
+    // Fitted, nothing scrolls across; a percent more and the page does not fit.
+    QCOMPARE(scrollsAt(fitted), qMakePair(false, down));
+    const auto larger = scrollsAt(fitted + 1);
+    QVERIFY(larger.first || (!width && larger.second));
 }
 
 QTEST_MAIN(TestPreviewPane)

@@ -116,8 +116,11 @@ void TestDesignerPlugin::widgetBoxOffersTheControl()
     QCOMPARE(m_plugin->group(), QStringLiteral("QuirraControl"));
     QVERIFY(!m_plugin->icon().pixmap(32).isNull());
     QVERIFY(m_plugin->domXml().contains(QLatin1String("class=\"Quirra\"")));
-    QVERIFY2(QFile::exists(QStringLiteral(QUIRRA_SOURCE_ROOT "/src/") + m_plugin->includeFile()),
-             qPrintable(m_plugin->includeFile()));
+    const QString header = m_plugin->includeFile();
+    QVERIFY2(
+        header.startsWith(u'<') && header.endsWith(u'>') &&
+            QFile::exists(QStringLiteral(QUIRRA_PUBLIC_INCLUDE "/") + header.mid(1).chopped(1)),
+        qPrintable(header));
     QWidget parent;
     QVERIFY(qobject_cast<Quirra *>(m_plugin->createWidget(&parent)));
 

@@ -4,7 +4,6 @@
 #include "spoolfixture.h"
 
 #include "model/error.h"
-#include "render/calibration.h"
 #include "render/drawitem.h"
 #include "render/printrun.h"
 
@@ -27,8 +26,6 @@ private Q_SLOTS:
     void pagination_data();
     void pagination();
     void pageRangeDrawsItsPagesOnly();
-    void calibrationFromReading_data();
-    void calibrationFromReading();
     void tokensAndTemplates();
     void verticalOffset_data();
     void verticalOffset();
@@ -243,34 +240,6 @@ void TestPrintRun::pageRangeDrawsItsPagesOnly()
     QCOMPARE(surface.count(QStringLiteral("action 4")), 0);
     QCOMPARE(surface.count(QStringLiteral("box [Name7 ")), 1);
     QCOMPARE(surface.count(QStringLiteral("box [Name6 ")) + surface.count("box [Name13 "), 0);
-}
-
-void TestPrintRun::calibrationFromReading_data()
-{
-    QTest::addColumn<QRectF>("reading");  // left, top, right, bottom misses in inches
-    QTest::addColumn<QRectF>("expected"); // PrinterLeft, PrinterTop, scale x, scale y
-    // Crosses 0.5 in from the corner and 2.5 in further (useLabelSheet(2, 2)).
-    QTest::newRow("shifted") << QRectF(0.1, -0.05, 0.1, -0.05) << QRectF(0.35, 0.2, 100, 100);
-    QTest::newRow("stretched-one-percent")
-        << QRectF(0.005, 0.005, 0.03, 0.0175) << QRectF(0.25, 0.25, 100 / 1.01, 100 / 1.01);
-}
-
-void TestPrintRun::calibrationFromReading()
-{
-    QFETCH(QRectF, reading);
-    QFETCH(QRectF, expected);
-    useLabelSheet(2, 2);
-    Piece &piece = PieceModel::shared().piece;
-    piece.PieceWidth = 0;
-    piece.PieceHeight = 0;
-    piece.PiecePitchVert = 1.25f;
-    piece.PrinterLeft = piece.PrinterTop = 0.25f;
-    const PrinterCalibration c = CalibrationFromReading(
-        PieceModel::shared(), reading.x(), reading.y(), reading.width(), reading.height());
-    QVERIFY2(qAbs(c.left - expected.x()) < 1e-4 && qAbs(c.top - expected.y()) < 1e-4,
-             qPrintable(QStringLiteral("%1 %2").arg(c.left).arg(c.top)));
-    QVERIFY2(qAbs(c.scaleX - expected.width()) < 1e-3 && qAbs(c.scaleY - expected.height()) < 1e-3,
-             qPrintable(QStringLiteral("%1 %2").arg(c.scaleX).arg(c.scaleY)));
 }
 
 void TestPrintRun::tokensAndTemplates()
