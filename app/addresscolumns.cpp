@@ -39,11 +39,13 @@ const QHash<QString, AddressField> &fieldNames()
 
 QString describeProblem(const QString &value)
 {
-    if (value.contains(QLatin1Char('"')))
-        return Cli::tr("holds a double quote");
-    if (value.contains(QLatin1Char('\r')) || value.contains(QLatin1Char('\n')))
-        return Cli::tr("holds a line break");
-    return QString();
+    bool lineBreak = false;
+    for (const QChar c : value) {
+        if (c == u'"')
+            return Cli::tr("holds a double quote");
+        lineBreak = lineBreak || c == u'\r' || c == u'\n';
+    }
+    return lineBreak ? Cli::tr("holds a line break") : QString();
 }
 
 } // namespace

@@ -67,7 +67,7 @@ bool CsvReader::appendField(QStringList &fields, QByteArray &field)
                         .arg(fields.size() + 1));
     }
     fields.append(std::move(text));
-    field.clear();
+    field.resize(0); // keeps its room for the next field
     return true;
 }
 
@@ -142,6 +142,15 @@ bool CsvReader::readRow(QStringList &fields)
             quoted = true;
         } else {
             field.append(char(c));
+            // The rest of an unquoted field at once: a quote inside it is
+            // text, so only a comma or a line end stops it.
+            const char *from = m_buffer.constData() + m_pos;
+            const char *to = m_buffer.constData() + m_buffer.size();
+            const char *stop = from;
+            while (stop < to && *stop != ',' && *stop != '\r' && *stop != '\n')
+                ++stop;
+            field.append(from, stop - from);
+            m_pos += stop - from;
         }
         if (field.size() > MaxFieldBytes) {
             return fail(Cli::tr("column %1: a field longer than %2 bytes; is this a CSV "

@@ -76,8 +76,13 @@ bool pdfIsWhole(QFile &file)
     const qint64 table = tail.mid(at + 9, tail.size() - 5 - at - 9).trimmed().toLongLong(&ok);
     if (!ok || table <= 0 || table >= size)
         return false;
-    const QByteArray bytes = readAt(table, size - table); // the table and the trailer
-    if (!bytes.startsWith("xref"))
+    // The table is read line by line through a handle of its own: it holds
+    // twenty bytes an object, megabytes for a long run.
+    QFile xref(file.fileName());
+    if (!xref.open(QIODevice::ReadOnly) || !xref.seek(table))
+        return false;
+    auto nextLine = [&]() { return xref.readLine(256).trimmed(); };
+    if (!nextLine().startsWith("xref"))
         return false;
     // Each object is looked for at its offset, in the file's order, through
     // a window that moves on through the file.
@@ -91,15 +96,6 @@ bool pdfIsWhole(QFile &file)
         }
         return window.mid(offset - windowAt, start.size()) == start;
     };
-    qsizetype line = bytes.indexOf('\n') + 1;
-    auto nextLine = [&]() {
-        const qsizetype end = bytes.indexOf('\n', line);
-        if (line <= 0 || end < 0)
-            return QByteArray();
-        const QByteArray text = bytes.mid(line, end - line).trimmed();
-        line = end + 1;
-        return text;
-    };
     std::vector<std::pair<qint64, qint64>> objects; // offset, object number
     // Subsections: "first count", then count lines "offset generation n|f".
     for (QByteArray head = nextLine(); !head.startsWith("trailer"); head = nextLine()) {
@@ -111,6 +107,9 @@ bool pdfIsWhole(QFile &file)
         const qint64 count = fields[1].toLongLong(&countOk);
         if (!firstOk || !countOk || count < 0)
             return false;
+        // An entry takes 18 bytes or more: a count the table cannot hold
+        // reserves no more than it can.
+        objects.reserve(objects.size() + size_t(std::min(count, (size - table) / 18)));
         for (qint64 i = 0; i < count; ++i, ++object) {
             const QByteArray entry = nextLine();
             if (entry.size() < 18)

@@ -4,6 +4,8 @@
 
 #include "settings/strings.h"
 
+#include <QStringEncoder>
+
 namespace quirra {
 
 namespace {
@@ -79,12 +81,18 @@ QString Record::spoolLine() const
 
 void Record::appendSpoolLine(QByteArray &out) const
 {
+    // Encoded straight into out, with no text of its own per value.
+    QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
     for (int i = 0; i < RecordFieldCount; ++i) {
         if (i > 0) {
             out.append(',');
         }
         out.append('"');
-        out.append(m_values[i].toUtf8());
+        const QString &v = m_values[i];
+        const qsizetype at = out.size();
+        out.resize(at + encoder.requiredSpace(v.size()));
+        const char *end = encoder.appendToBuffer(out.data() + at, v);
+        out.truncate(end - out.constData());
         if (cityTakesComma(m_values, i)) {
             out.append(',');
         }
@@ -95,6 +103,16 @@ void Record::appendSpoolLine(QByteArray &out) const
 
 QString Record::spoolProblem() const
 {
+    // One look at every character first: nearly every record is clean.
+    bool clean = true;
+    for (const QString &v : m_values) {
+        for (const QChar c : v) {
+            const char16_t u = c.unicode();
+            clean = clean && u != u'"' && u != u'\n' && u != u'\r';
+        }
+    }
+    if (clean)
+        return QString();
     for (int i = 0; i < RecordFieldCount; ++i) {
         const QString &v = m_values[i];
         if (v.contains(QLatin1Char('"'))) {

@@ -4,6 +4,7 @@
 
 #include "records/logging_p.h"
 #include "records/record.h"
+#include "records/spoolwriter.h"
 
 #include <cstring>
 
@@ -193,6 +194,8 @@ bool SpoolReader::readValue(QString &value)
 bool SpoolReader::OpenSpoolForReading()
 {
     close();
+    // Lines still held by a writer belong to the spool too.
+    SpoolWriter::flushAll();
     m_file.setFileName(m_path);
     if (m_path.isEmpty() || !m_file.open(QIODevice::ReadOnly)) {
         qCWarning(lcRecords).noquote()

@@ -12,25 +12,40 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
+#include <utility>
+#include <vector>
+
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace quirra {
 
 namespace {
 
-// A line is rarely longer than this; the buffer is reused for every line.
-constexpr qsizetype BufferSize = 4 * 1024;
+// Room on the disk is set aside this much at a time, past the end of the file.
+constexpr qint64 ReserveStep = 1024 * 1024;
+
+// Every writer of the process, for flushAll(); the control lives on one thread.
+std::vector<SpoolWriter *> &allWriters()
+{
+    static std::vector<SpoolWriter *> writers;
+    return writers;
+}
 
 } // namespace
 
 SpoolWriter::SpoolWriter() : m_yield(&SpoolWriter::processPendingEvents)
 {
-    m_buffer.reserve(BufferSize + 4096);
+    m_buffer.reserve(BatchBytes + 4096);
+    allWriters().push_back(this);
 }
 
 SpoolWriter::~SpoolWriter()
 {
+    auto &writers = allWriters();
+    writers.erase(std::remove(writers.begin(), writers.end(), this), writers.end());
     if (!m_open) {
         return;
     }
@@ -45,6 +60,19 @@ void SpoolWriter::processPendingEvents()
 {
     if (QCoreApplication::instance()) {
         QCoreApplication::processEvents();
+    }
+}
+
+void SpoolWriter::flushAll()
+{
+    for (SpoolWriter *writer : allWriters()) {
+        if (!writer->m_open || writer->m_buffer.isEmpty())
+            continue;
+        try {
+            writer->writeBuffer();
+        } catch (const Error &error) {
+            writer->m_pendingError = error.message();
+        }
     }
 }
 
@@ -79,6 +107,47 @@ void SpoolWriter::openSpool(QIODevice::OpenMode mode)
     }
     m_buffer.clear();
     m_open = true;
+    m_offset = m_file.size();
+    m_reserved = m_offset;
+    m_canReserve = true;
+}
+
+bool SpoolWriter::reserveBatch()
+{
+    // Once the file has room on the disk, writing into it cannot run out of
+    // space: the line that does not fit fails here, in its own NewPiece.
+    const qint64 end = m_offset + m_buffer.size();
+    if (end <= m_reserved || !m_canReserve)
+        return true;
+    const int fd = m_file.handle();
+    for (const qint64 want : {std::max(end, m_reserved + ReserveStep), end}) {
+        int result;
+        do {
+            result = ::fallocate(fd, FALLOC_FL_KEEP_SIZE, m_reserved, want - m_reserved);
+        } while (result != 0 && errno == EINTR);
+        if (result == 0) {
+            m_reserved = want;
+            return true;
+        }
+        if (errno != ENOSPC && errno != EDQUOT) {
+            // A file system that sets no room aside: each line is written
+            // through, and a full disk fails the write itself.
+            m_canReserve = false;
+            return true;
+        }
+    }
+    return false;
+}
+
+void SpoolWriter::failWith(int code)
+{
+    const QString path = m_file.fileName();
+    m_file.close();
+    m_open = false;
+    m_buffer.clear();
+    const QString folder = QFileInfo(path).absolutePath();
+    throw Error(QStringLiteral("Cannot write the record spool \"%1\": %2")
+                    .arg(path, TemporaryDirectoryProblem(folder, code)));
 }
 
 void SpoolWriter::writeBuffer()
@@ -102,15 +171,10 @@ void SpoolWriter::writeBuffer()
         data += written;
         left -= written;
     }
+    if (code != 0)
+        failWith(code);
+    m_offset += m_buffer.size();
     m_buffer.clear();
-    if (code != 0) {
-        const QString path = m_file.fileName();
-        m_file.close();
-        m_open = false;
-        const QString folder = QFileInfo(path).absolutePath();
-        throw Error(QStringLiteral("Cannot write the record spool \"%1\": %2")
-                        .arg(path, TemporaryDirectoryProblem(folder, code)));
-    }
 }
 
 void SpoolWriter::closeFile()
@@ -125,6 +189,7 @@ void SpoolWriter::closeFile()
 void SpoolWriter::CreateSpool()
 {
     openSpool(QIODevice::WriteOnly | QIODevice::Truncate);
+    m_pendingError.clear(); // its records are gone with the old document
     m_buffer.append(Record::spoolHeaderLine().toUtf8());
     m_buffer.append("\r\n", 2);
     // Written at once, so a folder that takes no data fails here, at the
@@ -141,8 +206,17 @@ void SpoolWriter::StartDoc()
     }
 }
 
+void SpoolWriter::raisePending()
+{
+    if (Q_UNLIKELY(!m_pendingError.isEmpty())) {
+        const QString message = std::exchange(m_pendingError, QString());
+        throw Error(message);
+    }
+}
+
 void SpoolWriter::NewPiece(const Record &record)
 {
+    raisePending();
     if (!m_open) {
         if (m_started) {
             openSpool(QIODevice::WriteOnly | QIODevice::Append);
@@ -154,10 +228,19 @@ void SpoolWriter::NewPiece(const Record &record)
     if (Q_UNLIKELY(!problem.isEmpty())) {
         qCWarning(lcRecords).noquote() << problem;
     }
-    // Written through: a full disk fails the record that did not fit.
+    const qsizetype before = m_buffer.size();
     record.appendSpoolLine(m_buffer);
-    writeBuffer();
+    if (!reserveBatch()) {
+        // The lines before it have their room; this one fails.
+        const int code = errno;
+        m_buffer.truncate(before);
+        writeBuffer();
+        failWith(code);
+    }
+    if (!m_canReserve || m_buffer.size() >= BatchBytes)
+        writeBuffer();
     if (++m_sinceYield >= YieldEvery) {
+        writeBuffer();
         yieldOnce();
     }
 }
@@ -167,6 +250,7 @@ void SpoolWriter::EndDoc()
     if (m_open) {
         closeFile();
     }
+    raisePending();
     yieldOnce();
 }
 

@@ -20,9 +20,12 @@ class Record;
  * UTF-8 text with CR LF line ends: a header line of the eleven quoted column
  * names, then one line of eleven quoted values per record.
  *
- * Each line is written to the file by the NewPiece() call that makes it,
- * with one system call, so a write that fails (a full temporary directory)
- * is raised by that call, and no record is kept in memory.
+ * Each NewPiece() makes room on the disk for its line before it returns,
+ * so a full temporary directory is raised by the call whose line does not
+ * fit. The lines themselves go to the file in batches: at every yield, when
+ * a batch passes BatchBytes, at EndDoc(), and before any spool reader of the
+ * process opens the file (see flushAll()). Where the file system cannot
+ * set room aside, each line is written through by its own call.
  *
  * The writer yields to event processing after creating the file, after
  * every YieldEvery lines and after closing, so a host feeding many records
@@ -33,6 +36,9 @@ class SpoolWriter
 public:
     /** @brief NewPiece() yields after this many records. */
     static constexpr int YieldEvery = 256;
+
+    /** @brief Lines are written once a batch holds this many bytes. */
+    static constexpr qsizetype BatchBytes = 64 * 1024;
 
     /** @brief Called where the writer yields; an empty hook does nothing. */
     using YieldHook = std::function<void()>;
@@ -88,10 +94,20 @@ public:
      */
     static void processPendingEvents();
 
+    /**
+     * @brief Writes the lines every writer of the process holds, so that a
+     * reader opening the spool finds every record made so far. A writer that
+     * fails here keeps its error for its own next call.
+     */
+    static void flushAll();
+
 private:
     void CreateSpool();
     void openSpool(QIODevice::OpenMode mode);
     void writeBuffer();
+    bool reserveBatch();
+    void raisePending();
+    [[noreturn]] void failWith(int code);
     void closeFile();
     void yieldOnce();
 
@@ -101,6 +117,10 @@ private:
     bool m_open = false;
     bool m_started = false;
     int m_sinceYield = 0;
+    qint64 m_offset = 0;   // bytes in the file, the batch not counted
+    qint64 m_reserved = 0; // the file's room on the disk, from its start
+    bool m_canReserve = true;
+    QString m_pendingError; // a failure of flushAll(), raised by the next call
 };
 
 } // namespace quirra

@@ -32,6 +32,37 @@ QStringList TextBlock::splitLines(const QString &text)
     return lines;
 }
 
+namespace {
+
+// The lines of text (as splitLines() gives them) joined by line separators,
+// in one pass. False when a line before the last ends in blanks: a separator
+// would leave its blanks out of its width and so shift it when it is centred
+// or set right, so such lines are laid out one by one.
+bool joinLines(const QString &text, QString &joined)
+{
+    const qsizetype n = text.size();
+    joined.reserve(n);
+    qsizetype lineStart = 0;
+    for (qsizetype i = 0; i < n; ++i) {
+        const QChar c = text.at(i);
+        if (c != u'\r' && c != u'\n') {
+            joined.append(c);
+            continue;
+        }
+        if (c == u'\r' && i + 1 < n && text.at(i + 1) == u'\n')
+            ++i;
+        if (i + 1 == n)
+            break; // "A\r" is one line, as a printer ends a line at its return
+        if (joined.size() > lineStart && joined.back().isSpace())
+            return false;
+        joined.append(QChar::LineSeparator);
+        lineStart = joined.size();
+    }
+    return true;
+}
+
+} // namespace
+
 TextBlock::TextBlock(const QString &text, const QFont &font, double lineHeight, double width,
                      bool wrap, Qt::Alignment alignment, int spacingPercent)
 {
@@ -44,7 +75,6 @@ TextBlock::TextBlock(const QString &text, const QFont &font, double lineHeight, 
     option.setAlignment(alignment);
     option.setWrapMode(wrap ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
 
-    const QStringList paragraphs = splitLines(text);
     const auto layOutParagraph = [&](const QString &paragraph) {
         auto layout = std::make_unique<QTextLayout>(paragraph, font);
         layout->setTextOption(option);
@@ -67,19 +97,19 @@ TextBlock::TextBlock(const QString &text, const QFont &font, double lineHeight, 
     };
     // Unwrapped lines (an address) go into one layout, each ended by a line
     // separator: one shaping pass and one allocation instead of one per line.
-    // A line that ends in blanks keeps a layout of its own, since a
-    // separator would leave its blanks out of its width and so shift it when
-    // it is centred or set right.
-    bool oneLayout = !wrap && paragraphs.size() > 1;
-    for (qsizetype i = 0; oneLayout && i + 1 < paragraphs.size(); ++i)
-        oneLayout = paragraphs.at(i).isEmpty() || !paragraphs.at(i).back().isSpace();
-    if (oneLayout) {
-        layOutParagraph(paragraphs.join(QChar::LineSeparator));
-    } else {
-        m_paragraphs.reserve(paragraphs.size());
-        for (const QString &paragraph : paragraphs)
-            layOutParagraph(paragraph);
+    if (!wrap) {
+        QString joined;
+        if (joinLines(text, joined)) {
+            if (!text.isEmpty()) // a lone line break is one empty line
+                layOutParagraph(joined);
+            m_height = m_lineCount * pitch;
+            return;
+        }
     }
+    const QStringList paragraphs = splitLines(text);
+    m_paragraphs.reserve(paragraphs.size());
+    for (const QString &paragraph : paragraphs)
+        layOutParagraph(paragraph);
     m_height = m_lineCount * pitch;
 }
 

@@ -211,21 +211,32 @@ std::shared_ptr<const TextBlock> TextFormatter::layOut(const QString &text, doub
                                                        Qt::Alignment alignment, int spacingPercent)
 {
     BlockKey key{m_key, text, width, wrap, int(alignment), spacingPercent};
-    // An item is laid out to measure it and at once again to draw it: the
-    // second asks for the block just made, without hashing its text again.
-    if (m_last && key == m_lastKey)
-        return m_last;
-    if (auto *cached = m_blocks.object(key)) {
-        m_lastKey = std::move(key);
-        m_last = *cached;
-        return m_last;
+    // An item is laid out to measure it and at once again to draw it (with
+    // its frame, an empty block, drawn between): the second asks for a block
+    // just made, without hashing its text again.
+    for (Recent &recent : m_recent) {
+        if (recent.block && recent.key == key)
+            return recent.block;
     }
-    const FontEntry &entry = currentFont();
-    auto block = std::make_shared<const TextBlock>(text, entry.font, entry.lineHeight, width, wrap,
-                                                   alignment, spacingPercent);
-    m_blocks.insert(key, new std::shared_ptr<const TextBlock>(block));
-    m_lastKey = std::move(key);
-    m_last = block;
+    const size_t hash = qHash(key);
+    std::shared_ptr<const TextBlock> block;
+    if (auto *cached = m_blocks.object(key)) {
+        block = *cached;
+    } else {
+        const FontEntry &entry = currentFont();
+        block = std::make_shared<const TextBlock>(text, entry.font, entry.lineHeight, width, wrap,
+                                                  alignment, spacingPercent);
+        // Only a text that comes back is kept: the return address and the
+        // messages are, each label's own address is not, so it leaves no
+        // cache entry to evict.
+        size_t &seen = m_seen[hash % m_seen.size()];
+        if (seen == hash)
+            m_blocks.insert(key, new std::shared_ptr<const TextBlock>(block));
+        else
+            seen = hash;
+    }
+    m_recent[1] = std::move(m_recent[0]);
+    m_recent[0] = Recent{std::move(key), block};
     return block;
 }
 

@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QString>
 
+#include <array>
 #include <memory>
 
 namespace quirra {
@@ -106,8 +107,13 @@ private:
     QHash<FontKey, FontEntry> m_fonts;
     QCache<BlockKey, std::shared_ptr<const TextBlock>> m_blocks;
     QCache<WidthKey, double> m_widths;
-    BlockKey m_lastKey{};
-    std::shared_ptr<const TextBlock> m_last;
+    struct Recent
+    {
+        BlockKey key{};
+        std::shared_ptr<const TextBlock> block;
+    };
+    std::array<Recent, 2> m_recent;    // the last block made or found first
+    std::array<size_t, 1024> m_seen{}; // hashes of blocks made once, by hash
 };
 
 size_t qHash(const TextFormatter::FontKey &key, size_t seed = 0);
