@@ -102,36 +102,25 @@ void TestPropertyAssignment::refuses_data()
 {
     QTest::addColumn<QString>("argument");
     QTest::addColumn<QString>("error");
+    const auto row = [](const char *tag, const QString &assignment, const QString &message) {
+        QTest::newRow(tag) << assignment << message;
+    };
 
-    QTest::newRow("unknown-name") << "Bottom=1"
-                                  << "--set Bottom: the control has no property \"Bottom\"";
-    QTest::newRow("wrong-case-suggests") << "horzalign=1"
-                                         << "did you mean HorzAlign?";
-    QTest::newRow("qobject-property-not-reachable") << "objectName=x"
-                                                    << "no property \"objectName\"";
-    QTest::newRow("read-only") << "Fixed=x"
-                               << "--set Fixed: the property cannot be set";
-    QTest::newRow("short-too-big") << "Border=32768"
-                                   << "Border takes a whole number from -32768 to 32767";
-    QTest::newRow("short-fraction") << "Border=1.5"
-                                    << "Border takes a whole number";
-    QTest::newRow("float-word") << "Top=high"
-                                << "Top takes a number with a full stop";
-    QTest::newRow("float-infinite") << "Top=inf"
-                                    << "Top takes a number";
-    QTest::newRow("float-beyond-single") << "Top=1e39"
-                                         << "Top takes a number";
-    QTest::newRow("bool-yes") << "Visible=yes"
-                              << "Visible takes true or false (or 1 or 0)";
-    QTest::newRow("enum-unknown-number")
-        << "HorzAlign=5"
-        << "HorzAlign takes one of haLeft (0), haCenter (1), haRight (2)";
-    QTest::newRow("enum-other-enums-key") << "Orientation=haLeft"
-                                          << "Orientation takes one of eoPortrait (0)";
-    QTest::newRow("font-empty") << "Font="
-                                << "Font takes a font";
-    QTest::newRow("font-size-zero") << "Font=Liberation Sans,0"
-                                    << "Font takes a font";
+    row("unknown-name", "Bottom=1", "--set Bottom: the control has no property \"Bottom\"");
+    row("wrong-case-suggests", "horzalign=1", "did you mean HorzAlign?");
+    row("qobject-property-not-reachable", "objectName=x", "no property \"objectName\"");
+    row("read-only", "Fixed=x", "--set Fixed: the property cannot be set");
+    row("short-too-big", "Border=32768", "Border takes a whole number from -32768 to 32767");
+    row("short-fraction", "Border=1.5", "Border takes a whole number");
+    row("float-word", "Top=high", "Top takes a number with a full stop");
+    row("float-infinite", "Top=inf", "Top takes a number");
+    row("float-beyond-single", "Top=1e39", "Top takes a number");
+    row("bool-yes", "Visible=yes", "Visible takes true or false (or 1 or 0)");
+    row("enum-unknown-number", "HorzAlign=5",
+        "HorzAlign takes one of haLeft (0), haCenter (1), haRight (2)");
+    row("enum-other-enums-key", "Orientation=haLeft", "Orientation takes one of eoPortrait (0)");
+    row("font-empty", "Font=", "Font takes a font");
+    row("font-size-zero", "Font=Liberation Sans,0", "Font takes a font");
 }
 
 void TestPropertyAssignment::refuses()

@@ -50,36 +50,22 @@ void TestCatalogue::readPieceSpec_data()
     QTest::addColumn<QString>("numbers");
     QTest::addColumn<QString>("pageDesc");
 
-    QTest::newRow("complete") << "Acme 30-up"
-                              << "2.625 1 8.5 11 0.1875 0.5 2.75 1 3 10"
-                              << "Letter (8 1/2 x 11 in)";
-    QTest::newRow("key-ignores-case") << "ACME 30-UP"
-                                      << "2.625 1 8.5 11 0.1875 0.5 2.75 1 3 10"
-                                      << "Letter (8 1/2 x 11 in)";
-    QTest::newRow("capital-x-does-not-split") << "Capital X"
-                                              << "0 0 8.5 11 0.1875 0.5 2.75 1 3 10"
-                                              << "Letter";
-    QTest::newRow("missing-fields-are-zero") << "Short Record"
-                                             << "4 2 0 0 0 0 0 0 0 0"
-                                             << "";
-    QTest::newRow("blanks-round-numbers") << "Spaced Numbers"
-                                          << "4 2 8.5 11 0.25 0.5 4 2 2 5"
-                                          << "Page";
-    QTest::newRow("text-is-no-number") << "Not Numbers"
-                                       << "0 0 8.5 11 0 0 0 2 0 10"
-                                       << "Letter";
-    QTest::newRow("count-over-16-bits") << "Huge Count"
-                                        << "2 1 8.5 11 0 0 2 1 0 2"
-                                        << "Letter";
-    QTest::newRow("fields-after-seventh-ignored") << "Extra Fields"
-                                                  << "3.5 1 4 1 0 0 3.5 1 1 1"
-                                                  << "Wide";
-    QTest::newRow("cut-at-254-ends-description")
-        << "Too Long"
-        << "2 1 8.5 11 0 0 2 1 1 1" << QString(254 - 45, u'P');
-    QTest::newRow("missing-piece") << "No Such Piece"
-                                   << "0 0 0 0 0 0 0 0 0 0"
-                                   << "";
+    const auto row = [](const char *tag, const QString &name, const QString &numbers,
+                        const QString &pageDesc) {
+        QTest::newRow(tag) << name << numbers << pageDesc;
+    };
+    const QString letter = QStringLiteral("Letter (8 1/2 x 11 in)");
+    row("complete", "Acme 30-up", "2.625 1 8.5 11 0.1875 0.5 2.75 1 3 10", letter);
+    row("key-ignores-case", "ACME 30-UP", "2.625 1 8.5 11 0.1875 0.5 2.75 1 3 10", letter);
+    row("capital-x-does-not-split", "Capital X", "0 0 8.5 11 0.1875 0.5 2.75 1 3 10", "Letter");
+    row("missing-fields-are-zero", "Short Record", "4 2 0 0 0 0 0 0 0 0", "");
+    row("blanks-round-numbers", "Spaced Numbers", "4 2 8.5 11 0.25 0.5 4 2 2 5", "Page");
+    row("text-is-no-number", "Not Numbers", "0 0 8.5 11 0 0 0 2 0 10", "Letter");
+    row("count-over-16-bits", "Huge Count", "2 1 8.5 11 0 0 2 1 0 2", "Letter");
+    row("fields-after-seventh-ignored", "Extra Fields", "3.5 1 4 1 0 0 3.5 1 1 1", "Wide");
+    row("cut-at-254-ends-description", "Too Long", "2 1 8.5 11 0 0 2 1 1 1",
+        QString(254 - 45, u'P'));
+    row("missing-piece", "No Such Piece", "0 0 0 0 0 0 0 0 0 0", "");
 }
 
 void TestCatalogue::readPieceSpec()

@@ -224,70 +224,34 @@ void TestAddressRules::replaceTokens_data()
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("expected");
     QTest::addColumn<QString>("separator"); // between entries
+    const auto row = [](const char *tag, const QString &text, const QString &list,
+                        const QString &expected, const QString &separator = QStringLiteral("|")) {
+        QTest::newRow(tag) << text << list << expected << separator;
+    };
 
-    QTest::newRow("token-replaced") << "Dear <<salut>>,"
-                                    << "salut^Sir|x^y"
-                                    << "Dear Sir,"
-                                    << "|";
-    QTest::newRow("token-twice-replaced-twice") << "<<n>> and <<n>>"
-                                                << "n^Ann"
-                                                << "Ann and Ann"
-                                                << "|";
-    QTest::newRow("name-case-counts") << "Dear <<Salut>>,"
-                                      << "salut^Sir"
-                                      << "Dear <<Salut>>,"
-                                      << "|";
-    QTest::newRow("entry-without-caret-skipped") << "<<s>>"
-                                                 << "s|s^Sir"
-                                                 << "Sir"
-                                                 << "|";
-    QTest::newRow("value-blanks-kept-name-blanks-count") << "<<s>>,"
-                                                         << "s^ Sir | s^x"
-                                                         << " Sir ,"
-                                                         << "|";
-    QTest::newRow("empty-name-and-value") << "x<<>>y<<a>>"
-                                          << "^z|a^"
-                                          << "xzy"
-                                          << "|";
-    QTest::newRow("later-entry-replaces-earlier-value") << "<<a>>"
-                                                        << "a^<<b>>|b^B"
-                                                        << "B"
-                                                        << "|";
-    QTest::newRow("earlier-entry-not-applied-again") << "<<a>>"
-                                                     << "b^B|a^<<b>>"
-                                                     << "<<b>>"
-                                                     << "|";
-    QTest::newRow("blank-entries-between") << "<<a>><<b>>"
-                                           << "a^1|  |b^2|"
-                                           << "12"
-                                           << "|";
+    row("token-replaced", "Dear <<salut>>,", "salut^Sir|x^y", "Dear Sir,");
+    row("token-twice-replaced-twice", "<<n>> and <<n>>", "n^Ann", "Ann and Ann");
+    row("name-case-counts", "Dear <<Salut>>,", "salut^Sir", "Dear <<Salut>>,");
+    row("entry-without-caret-skipped", "<<s>>", "s|s^Sir", "Sir");
+    row("value-blanks-kept-name-blanks-count", "<<s>>,", "s^ Sir | s^x", " Sir ,");
+    row("empty-name-and-value", "x<<>>y<<a>>", "^z|a^", "xzy");
+    row("later-entry-replaces-earlier-value", "<<a>>", "a^<<b>>|b^B", "B");
+    row("earlier-entry-not-applied-again", "<<a>>", "b^B|a^<<b>>", "<<b>>");
+    row("blank-entries-between", "<<a>><<b>>", "a^1|  |b^2|", "12");
     // Replacing the inner token completes a new one, which goes in turn.
-    QTest::newRow("replacement-completes-a-new-token") << "<<<<a>>a>>"
-                                                       << "a^"
-                                                       << ""
-                                                       << "|";
-    QTest::newRow("self-referencing-value-once-per-occurrence") << "<<a>>-<<a>>"
-                                                                << "a^x<<a>>"
-                                                                << "x<<a>>-x<<a>>"
-                                                                << "|";
+    row("replacement-completes-a-new-token", "<<<<a>>a>>", "a^", "");
+    row("self-referencing-value-once-per-occurrence", "<<a>>-<<a>>", "a^x<<a>>", "x<<a>>-x<<a>>");
     // Lists as long as a CSV file of as many columns gives: walking one costs
     // milliseconds, copying its rest for every entry ten seconds and more.
     const QString many = manyEntries(200000, QStringLiteral("|"));
-    QTest::newRow("token-of-the-last-of-200000-entries")
-        << "Dear <<c199999>>" << many << "Dear v199999"
-        << "|";
-    QTest::newRow("tokens-of-first-and-middle-entries")
-        << "<<c0>>-<<c100000>>" << many << "v0-v100000"
-        << "|";
-    QTest::newRow("two-character-separator")
-        << "<<c7>><<c99999>>" << manyEntries(100000, QStringLiteral(";;")) << "v7v99999"
-        << ";;";
-    QTest::newRow("200000-entries-without-pair-separator")
-        << "<<x>>" << QString(200000, QLatin1Char('|')) + QStringLiteral("x^y") << "y"
-        << "|";
-    QTest::newRow("blank-rest-ends-the-list")
-        << "<<a>>" << QStringLiteral("a^1|") + QString(100000, QLatin1Char(' ')) << "1"
-        << "|";
+    row("token-of-the-last-of-200000-entries", "Dear <<c199999>>", many, "Dear v199999");
+    row("tokens-of-first-and-middle-entries", "<<c0>>-<<c100000>>", many, "v0-v100000");
+    row("two-character-separator", "<<c7>><<c99999>>", manyEntries(100000, QStringLiteral(";;")),
+        "v7v99999", ";;");
+    row("200000-entries-without-pair-separator", "<<x>>",
+        QString(200000, QLatin1Char('|')) + QStringLiteral("x^y"), "y");
+    row("blank-rest-ends-the-list", "<<a>>",
+        QStringLiteral("a^1|") + QString(100000, QLatin1Char(' ')), "1");
 }
 
 void TestAddressRules::replaceTokens()

@@ -26,34 +26,25 @@ void TestUnits::formatNumber_data()
     QTest::addColumn<double>("value");
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QString>("expected");
+    const auto row = [](const char *tag, double value, const QString &format,
+                        const QString &expected) {
+        QTest::newRow(tag) << value << format << expected;
+    };
 
-    QTest::newRow("whole-number-keeps-point") << 2.0 << "#0.##"
-                                              << "2.";
-    QTest::newRow("half-away-on-15-digits") << 2.675 << "#0.##"
-                                            << "2.68";
-    QTest::newRow("negative-half-away") << -2.675 << "#0.##"
-                                        << "-2.68";
-    QTest::newRow("rounds-to-zero-without-minus") << -0.001 << "#0.##"
-                                                  << "0.";
-    QTest::newRow("carry-into-a-new-digit") << 9.999 << "#0.##"
-                                            << "10.";
-    QTest::newRow("hash-drops-leading-zero") << 0.5 << "#.##"
-                                             << ".5";
-    QTest::newRow("fixed-decimals-padded") << 2.0 << "0.00"
-                                           << "2.00";
-    QTest::newRow("fixed-decimals-rounded") << 0.125 << "0.00"
-                                            << "0.13";
-    QTest::newRow("whole-half-away") << -2.5 << "#0"
-                                     << "-3";
-    QTest::newRow("tiny-number") << 1e-20 << "#0.##"
-                                 << "0.";
+    row("whole-number-keeps-point", 2.0, "#0.##", "2.");
+    row("half-away-on-15-digits", 2.675, "#0.##", "2.68");
+    row("negative-half-away", -2.675, "#0.##", "-2.68");
+    row("rounds-to-zero-without-minus", -0.001, "#0.##", "0.");
+    row("carry-into-a-new-digit", 9.999, "#0.##", "10.");
+    row("hash-drops-leading-zero", 0.5, "#.##", ".5");
+    row("fixed-decimals-padded", 2.0, "0.00", "2.00");
+    row("fixed-decimals-rounded", 0.125, "0.00", "0.13");
+    row("whole-half-away", -2.5, "#0", "-3");
+    row("tiny-number", 1e-20, "#0.##", "0.");
     // Nothing but the half just past the last decimal shown.
-    QTest::newRow("half-past-the-last-decimal-rounds-up") << 0.005 << "#0.##"
-                                                          << "0.01";
-    QTest::newRow("below-half-past-the-last-decimal") << 0.0049 << "#0.##"
-                                                      << "0.";
-    QTest::newRow("text-around-kept") << 2.0 << "0.00 in"
-                                      << "2.00 in";
+    row("half-past-the-last-decimal-rounds-up", 0.005, "#0.##", "0.01");
+    row("below-half-past-the-last-decimal", 0.0049, "#0.##", "0.");
+    row("text-around-kept", 2.0, "0.00 in", "2.00 in");
 }
 
 void TestUnits::formatNumber()
