@@ -120,21 +120,15 @@ void TestPreviewWindow::designActionsRefreshWhenAccepted_data()
     QTest::addColumn<QString>("dialog");
     QTest::addColumn<QString>("button");
     QTest::addColumn<bool>("refreshed");
-    QTest::newRow("layout-ok") << "edit_layout_act"
-                               << "piece_layout_edit_form"
-                               << "ok_btn" << true;
-    QTest::newRow("layout-cancel") << "edit_layout_act"
-                                   << "piece_layout_edit_form"
-                                   << "cancel_btn" << false;
-    QTest::newRow("properties-ok") << "properties_act"
-                                   << "property_sheet"
-                                   << "ok_btn" << true;
-    QTest::newRow("properties-cancel") << "properties_act"
-                                       << "property_sheet"
-                                       << "cancel_btn" << false;
-    QTest::newRow("about") << "about_act"
-                           << "about_box"
-                           << "ok_btn" << false;
+    const auto row = [](const char *tag, const QString &action, const QString &dialog,
+                        const QString &button, bool refreshed) {
+        QTest::newRow(tag) << action << dialog << button << refreshed;
+    };
+    row("layout-ok", "edit_layout_act", "piece_layout_edit_form", "ok_btn", true);
+    row("layout-cancel", "edit_layout_act", "piece_layout_edit_form", "cancel_btn", false);
+    row("properties-ok", "properties_act", "property_sheet", "ok_btn", true);
+    row("properties-cancel", "properties_act", "property_sheet", "cancel_btn", false);
+    row("about", "about_act", "about_box", "ok_btn", false);
 }
 
 void TestPreviewWindow::designActionsRefreshWhenAccepted()

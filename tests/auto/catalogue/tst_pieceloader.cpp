@@ -214,15 +214,13 @@ void TestPieceLoader::generatorRefusesBadFacts_data()
     QTest::addColumn<QString>("column");
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("message");
-    QTest::newRow("comma-in-a-product") << "product"
-                                        << "Labels, large"
-                                        << "cannot carry";
-    QTest::newRow("pieces-past-the-sheet") << "sheet_w_in"
-                                           << "8"
-                                           << "past the sheet";
-    QTest::newRow("no-pieces-across") << "across"
-                                      << "0"
-                                      << "not a count";
+    const auto row = [](const char *tag, const QString &column, const QString &value,
+                        const QString &message) {
+        QTest::newRow(tag) << column << value << message;
+    };
+    row("comma-in-a-product", "product", "Labels, large", "cannot carry");
+    row("pieces-past-the-sheet", "sheet_w_in", "8", "past the sheet");
+    row("no-pieces-across", "across", "0", "not a count");
 }
 
 void TestPieceLoader::generatorRefusesBadFacts()

@@ -128,24 +128,16 @@ void TestItemLayout::itemInformation_data()
     QTest::addColumn<QString>("shownName");
     QTest::addColumn<float>("top");
     QTest::addColumn<QString>("shownTop");
-    QTest::newRow("thousandths-rounded") << "lblAdd"
-                                         << "Address"
-                                         << "Address" << 1.23456f << "1.235";
-    QTest::newRow("half-down-to-even") << "lblRet"
-                                       << "Return"
-                                       << "Return" << 1.0625f << "1.062";
-    QTest::newRow("half-up-to-even") << "lblM1"
-                                     << "Message1"
-                                     << "Message 1" << 1.1875f << "1.188";
-    QTest::newRow("whole-inch-bare") << "lblM2"
-                                     << "Message2"
-                                     << "Message 2" << 2.0f << "2";
-    QTest::newRow("negative") << "lblStamp"
-                              << "Stamp"
-                              << "Stamp" << -0.25f << "-0.25";
-    QTest::newRow("past-16-bits") << "lblStamp"
-                                  << "Stamp"
-                                  << "Stamp" << 40.0f << "Overflow";
+    const auto row = [](const char *tag, const QString &label, const QString &item,
+                        const QString &shownName, float top, const QString &shownTop) {
+        QTest::newRow(tag) << label << item << shownName << top << shownTop;
+    };
+    row("thousandths-rounded", "lblAdd", "Address", "Address", 1.23456f, "1.235");
+    row("half-down-to-even", "lblRet", "Return", "Return", 1.0625f, "1.062");
+    row("half-up-to-even", "lblM1", "Message1", "Message 1", 1.1875f, "1.188");
+    row("whole-inch-bare", "lblM2", "Message2", "Message 2", 2.0f, "2");
+    row("negative", "lblStamp", "Stamp", "Stamp", -0.25f, "-0.25");
+    row("past-16-bits", "lblStamp", "Stamp", "Stamp", 40.0f, "Overflow");
 }
 
 void TestItemLayout::itemInformation()
