@@ -202,35 +202,28 @@ void TestPageEngine::textPlacement_data()
     const QStringList foxLines{"The quick brown fox jumps over", "the lazy dog and keeps running",
                                "far away"};
     const QString hello = QStringLiteral("Hello world");
-    QTest::newRow("left-at-the-box-corner")
-        << hello << 0 << true << QPoint() << QPoint() << QPoint() << QStringList{hello} << "L";
-    QTest::newRow("printable-origin-moves-everything")
-        << hello << 0 << true << QPoint(360, 720) << QPoint() << QPoint() << QStringList{hello}
-        << "L";
-    QTest::newRow("margins-and-indent-move-the-text")
-        << hello << 0 << true << QPoint(360, 360) << QPoint(720, 288) << QPoint(432, 0)
-        << QStringList{hello} << "L";
-    QTest::newRow("centred") << hello << 1 << true << QPoint() << QPoint() << QPoint()
-                             << QStringList{hello} << "C";
-    QTest::newRow("centred-between-indents") << hello << 1 << true << QPoint() << QPoint()
-                                             << QPoint(720, 0) << QStringList{hello} << "C";
-    QTest::newRow("right") << hello << 2 << true << QPoint(250, 0) << QPoint() << QPoint()
-                           << QStringList{hello} << "R";
-    QTest::newRow("right-short-of-the-indent") << hello << 2 << true << QPoint() << QPoint()
-                                               << QPoint(0, 576) << QStringList{hello} << "R";
-    QTest::newRow("wrap-breaks-at-words")
-        << fox << 0 << true << QPoint() << QPoint() << QPoint() << foxLines << "LLL";
-    QTest::newRow("justified-but-the-last-line")
-        << fox << 9 << true << QPoint() << QPoint() << QPoint() << foxLines << "BBL";
-    QTest::newRow("justified-paragraphs-end-unstretched")
-        << QStringLiteral("The quick brown fox jumps over the lazy dog\rand stops") << 9 << true
-        << QPoint() << QPoint() << QPoint()
-        << QStringList{"The quick brown fox jumps over", "the lazy dog", "and stops"} << "BLL";
-    QTest::newRow("cr-lf-cr-and-lf-all-break")
-        << QStringLiteral("One\r\nTwo\rThree\nFour") << 2 << true << QPoint() << QPoint()
-        << QPoint() << QStringList{"One", "Two", "Three", "Four"} << "RRRR";
-    QTest::newRow("unwrapped-long-line-starts-at-the-left")
-        << fox << 1 << false << QPoint() << QPoint() << QPoint() << QStringList{fox} << "L";
+    const auto row = [](const char *tag, const QString &text, int align, const QStringList &lines,
+                        const QString &edges, QPoint origin = {}, QPoint margins = {},
+                        QPoint indents = {}, bool wrap = true) {
+        QTest::newRow(tag) << text << align << wrap << origin << margins << indents << lines
+                           << edges;
+    };
+    row("left-at-the-box-corner", hello, 0, {hello}, "L");
+    row("printable-origin-moves-everything", hello, 0, {hello}, "L", QPoint(360, 720));
+    row("margins-and-indent-move-the-text", hello, 0, {hello}, "L", QPoint(360, 360),
+        QPoint(720, 288), QPoint(432, 0));
+    row("centred", hello, 1, {hello}, "C");
+    row("centred-between-indents", hello, 1, {hello}, "C", {}, {}, QPoint(720, 0));
+    row("right", hello, 2, {hello}, "R", QPoint(250, 0));
+    row("right-short-of-the-indent", hello, 2, {hello}, "R", {}, {}, QPoint(0, 576));
+    row("wrap-breaks-at-words", fox, 0, foxLines, "LLL");
+    row("justified-but-the-last-line", fox, 9, foxLines, "BBL");
+    row("justified-paragraphs-end-unstretched",
+        QStringLiteral("The quick brown fox jumps over the lazy dog\rand stops"), 9,
+        {"The quick brown fox jumps over", "the lazy dog", "and stops"}, "BLL");
+    row("cr-lf-cr-and-lf-all-break", QStringLiteral("One\r\nTwo\rThree\nFour"), 2,
+        {"One", "Two", "Three", "Four"}, "RRRR");
+    row("unwrapped-long-line-starts-at-the-left", fox, 1, {fox}, "L", {}, {}, {}, false);
 }
 
 void TestPageEngine::textPlacement()
@@ -270,12 +263,8 @@ void TestPageEngine::textPlacement()
     const double top = (origin.y() + margins.y() + area.y()) / 20.0;
     for (int i = 0; i < printed.size(); ++i) {
         const auto &l = printed[i];
-        const QString where = QStringLiteral("line %1: %2..%3 pt in %4..%5 pt")
-                                  .arg(i)
-                                  .arg(l.left)
-                                  .arg(l.right)
-                                  .arg(left)
-                                  .arg(right);
+        const QString where =
+            QString::asprintf("line %d: %g..%g pt in %g..%g pt", i, l.left, l.right, left, right);
         QVERIFY2(qAbs(l.top - (top + i * arialLine10 / 20.0)) < quarterPoint, qPrintable(where));
         const QChar edge = edges.at(i);
         if (edge == u'L' || edge == u'B')
@@ -298,25 +287,22 @@ void TestPageEngine::textHeight_data()
     QTest::addColumn<bool>("wrap"); // in a box 2 inches wide
     QTest::addColumn<int>("twips");
 
-    const QString fox = QStringLiteral("The quick brown fox jumps over the lazy dog");
-    QTest::newRow("one-line") << QStringLiteral("Alpha") << 10.0 << 100 << false << arialLine10;
-    QTest::newRow("two-lines") << QStringLiteral("Alpha\rBeta") << 10.0 << 100 << false
-                               << 2 * arialLine10;
-    QTest::newRow("three-lines") << QStringLiteral("A\rB\rC") << 10.0 << 100 << false
-                                 << 3 * arialLine10;
-    QTest::newRow("three-lines-at-80-percent")
-        << QStringLiteral("A\rB\rC") << 10.0 << 80 << false << 552;
-    QTest::newRow("cr-lf-is-one-break") << QStringLiteral("A\r\nB") << 10.0 << 100 << false << 460;
-    QTest::newRow("break-at-the-end-adds-no-line")
-        << QStringLiteral("A\r") << 10.0 << 100 << false << 230;
-    QTest::newRow("cr-lf-at-the-end-adds-no-line")
-        << QStringLiteral("A\r\n") << 10.0 << 100 << false << 230;
-    QTest::newRow("blank-line-between-counts")
-        << QStringLiteral("A\r\rB") << 10.0 << 100 << false << 690;
-    QTest::newRow("empty-text-has-no-height") << QString() << 10.0 << 100 << false << 0;
-    QTest::newRow("wrapping-adds-a-line") << fox << 10.0 << 100 << true << 460;
-    QTest::newRow("kerned-line-trailing-blanks")
-        << QStringLiteral("AVAWAY Tö Wavy  OH  43604   ") << 10.0 << 100 << false << arialLine10;
+    const auto row = [](const char *tag, const QString &text, int twips, int spacing = 100,
+                        bool wrap = false) {
+        QTest::newRow(tag) << text << 10.0 << spacing << wrap << twips;
+    };
+    row("one-line", "Alpha", arialLine10);
+    row("two-lines", "Alpha\rBeta", 2 * arialLine10);
+    row("three-lines", "A\rB\rC", 3 * arialLine10);
+    row("three-lines-at-80-percent", "A\rB\rC", 552, 80);
+    row("cr-lf-is-one-break", "A\r\nB", 460);
+    row("break-at-the-end-adds-no-line", "A\r", 230);
+    row("cr-lf-at-the-end-adds-no-line", "A\r\n", 230);
+    row("blank-line-between-counts", "A\r\rB", 690);
+    row("empty-text-has-no-height", QString(), 0);
+    row("wrapping-adds-a-line", "The quick brown fox jumps over the lazy dog", 460, 100, true);
+    row("kerned-line-trailing-blanks", QString::fromUtf8("AVAWAY Tö Wavy  OH  43604   "),
+        arialLine10);
 }
 
 void TestPageEngine::textHeight()
@@ -538,12 +524,8 @@ void TestPageEngine::previewAndPdfBreakAlike()
         const int top = int(144 + (i + 0.4) * pitch), bottom = int(144 + (i + 0.75) * pitch);
         const auto a = inkSpan(preview, top, bottom), b = inkSpan(printed, top, bottom);
         QVERIFY2(qAbs(a.first - b.first) <= 2 && qAbs(a.second - b.second) <= 2,
-                 qPrintable(QStringLiteral("line %1: preview %2..%3, pdf %4..%5")
-                                .arg(i)
-                                .arg(a.first)
-                                .arg(a.second)
-                                .arg(b.first)
-                                .arg(b.second)));
+                 qPrintable(QString::asprintf("line %d: preview %d..%d, pdf %d..%d", i, a.first,
+                                              a.second, b.first, b.second)));
         lines += a.first >= 0 ? 1 : 0;
     }
     QVERIFY(lines >= 2);
