@@ -37,23 +37,17 @@ void TestSpoolWriter::documentStates_data()
     QTest::addColumn<QString>("calls");
     QTest::addColumn<QString>("records");
     QTest::addColumn<bool>("header");
+    const auto row = [](const char *tag, const QString &calls, const QString &records,
+                        bool header) { QTest::newRow(tag) << calls << records << header; };
 
-    QTest::newRow("three-records") << "S123E"
-                                   << "123" << true;
-    QTest::newRow("new-piece-without-start-doc-creates-header") << "1E"
-                                                                << "1" << true;
-    QTest::newRow("start-doc-twice-keeps-records") << "S1S2E"
-                                                   << "12" << true;
-    QTest::newRow("end-doc-then-new-piece-appends") << "S1E2E"
-                                                    << "12" << true;
-    QTest::newRow("start-doc-after-end-doc-truncates") << "S1ES2E"
-                                                       << "2" << true;
-    QTest::newRow("end-doc-without-document") << "E"
-                                              << "" << false;
-    QTest::newRow("destroyed-while-open-keeps-lines") << "S12"
-                                                      << "12" << true;
-    QTest::newRow("removed-file-made-again-owner-only") << "XS1E"
-                                                        << "1" << true;
+    row("three-records", "S123E", "123", true);
+    row("new-piece-without-start-doc-creates-header", "1E", "1", true);
+    row("start-doc-twice-keeps-records", "S1S2E", "12", true);
+    row("end-doc-then-new-piece-appends", "S1E2E", "12", true);
+    row("start-doc-after-end-doc-truncates", "S1ES2E", "2", true);
+    row("end-doc-without-document", "E", "", false);
+    row("destroyed-while-open-keeps-lines", "S12", "12", true);
+    row("removed-file-made-again-owner-only", "XS1E", "1", true);
 }
 
 void TestSpoolWriter::documentStates()
@@ -137,14 +131,10 @@ void TestSpoolWriter::failuresNameTheFile_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("reason");
 
-    QTest::newRow("folder-removed")
-        << QDir::tempPath() + QStringLiteral("/gone/s.tmp") << "No such file";
-    if (QFileInfo::exists(QStringLiteral("/dev/full"))) {
-        QTest::newRow("disk-full") << "/dev/full"
-                                   << "No space";
-    }
-    QTest::newRow("no-spool-made") << ""
-                                   << "no spool file";
+    QTest::newRow("folder-removed") << QDir::tempPath() + "/gone/s.tmp" << QString("No such file");
+    if (QFileInfo::exists(QStringLiteral("/dev/full")))
+        QTest::newRow("disk-full") << QString("/dev/full") << QString("No space");
+    QTest::newRow("no-spool-made") << QString("") << QString("no spool file");
 }
 
 void TestSpoolWriter::failuresNameTheFile()
