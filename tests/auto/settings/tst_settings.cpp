@@ -8,7 +8,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <climits>
+
 using namespace quirra;
+
+namespace {
+constexpr int Overflow = INT_MIN;
+}
 
 class TestSettings : public QObject
 {
@@ -22,9 +28,6 @@ private Q_SLOTS:
     void parseBoolean();
     void parseNumbers_data();
     void parseNumbers();
-    void parseIntegerOverflowThrows_data();
-    void parseIntegerOverflowThrows();
-    void singleOverflowIsNotANumber();
 
 private:
     QString write(const QByteArray &content)
@@ -103,19 +106,31 @@ void TestSettings::parseNumbers_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("numeric");
     QTest::addColumn<double>("number");
-    QTest::addColumn<int>("integer");
+    QTest::addColumn<float>("single");
+    QTest::addColumn<int>("integer"); // Overflow: ParseInteger throws
+    // single: NaN when it is the number as a float.
+    const auto row = [](const char *tag, const QString &text, bool numeric, double number,
+                        int integer, float single = qQNaN()) {
+        QTest::newRow(tag) << text << numeric << number << (qIsNaN(single) ? float(number) : single)
+                           << integer;
+    };
 
-    QTest::newRow("point-alone") << "." << false << 0.0 << 0;
-    QTest::newRow("empty") << "" << false << 0.0 << 0;
-    QTest::newRow("decimal-with-blanks") << " 1.5 " << true << 1.5 << 2;
-    QTest::newRow("halves-round-to-even-down") << "2.5" << true << 2.5 << 2;
-    QTest::newRow("negative-half-to-even") << "-2.5" << true << -2.5 << -2;
-    QTest::newRow("plus-sign-and-exponent") << "+1e2" << true << 100.0 << 100;
-    QTest::newRow("smallest-16-bit") << "-32768.4" << true << -32768.4 << -32768;
-    QTest::newRow("comma-is-not-a-point") << "1,5" << false << 0.0 << 0;
-    QTest::newRow("trailing-unit") << "1.5in" << false << 0.0 << 0;
-    QTest::newRow("infinity-word") << "inf" << false << 0.0 << 0;
-    QTest::newRow("beyond-double") << "1e999" << false << 0.0 << 0;
+    row("point-alone", ".", false, 0.0, 0);
+    row("empty", "", false, 0.0, 0);
+    row("decimal-with-blanks", " 1.5 ", true, 1.5, 2);
+    row("halves-round-to-even-down", "2.5", true, 2.5, 2);
+    row("negative-half-to-even", "-2.5", true, -2.5, -2);
+    row("plus-sign-and-exponent", "+1e2", true, 100.0, 100);
+    row("smallest-16-bit", "-32768.4", true, -32768.4, -32768);
+    row("comma-is-not-a-point", "1,5", false, 0.0, 0);
+    row("trailing-unit", "1.5in", false, 0.0, 0);
+    row("infinity-word", "inf", false, 0.0, 0);
+    row("beyond-double", "1e999", false, 0.0, 0);
+    row("one-past-the-top", "32768", true, 32768.0, Overflow);
+    row("one-past-the-bottom", "-32769", true, -32769.0, Overflow);
+    row("half-rounds-past-the-top", "32767.5", true, 32767.5, Overflow);
+    row("beyond-single-is-no-single", "1e39", true, 1e39, Overflow, 0.0f);
+    row("far-beyond-64-bits", "1e300", true, 1e300, Overflow, 0.0f);
 }
 
 void TestSettings::parseNumbers()
@@ -123,31 +138,15 @@ void TestSettings::parseNumbers()
     QFETCH(QString, text);
     QFETCH(bool, numeric);
     QFETCH(double, number);
+    QFETCH(float, single);
     QFETCH(int, integer);
     QCOMPARE(IsNumeric(text), numeric);
     QCOMPARE(ParseDouble(text), number);
-    QCOMPARE(ParseSingle(text), float(number));
-    QCOMPARE(int(ParseInteger(text)), integer);
-}
-
-void TestSettings::parseIntegerOverflowThrows_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("one-past-the-top") << "32768";
-    QTest::newRow("one-past-the-bottom") << "-32769";
-    QTest::newRow("half-rounds-past-the-top") << "32767.5";
-    QTest::newRow("far-beyond-64-bits") << "1e300";
-}
-
-void TestSettings::parseIntegerOverflowThrows()
-{
-    QFETCH(QString, text);
-    QVERIFY_THROWS_EXCEPTION(Error, ParseInteger(text));
-}
-
-void TestSettings::singleOverflowIsNotANumber()
-{
-    QCOMPARE(ParseSingle(QStringLiteral("1e39")), 0.0f);
+    QCOMPARE(ParseSingle(text), single);
+    if (integer == Overflow)
+        QVERIFY_THROWS_EXCEPTION(Error, ParseInteger(text));
+    else
+        QCOMPARE(int(ParseInteger(text)), integer);
 }
 
 QTEST_GUILESS_MAIN(TestSettings)
