@@ -27,37 +27,27 @@ class TestCheck : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_dir->isValid());
+    }
     void check_data();
     void check();
     void print_data();
     void print();
 
 private:
-    Run quirra(const QStringList &arguments);
-    QString write(const QString &name, const QByteArray &bytes);
+    Run quirra(const QStringList &arguments) { return runQuirra(m_dir->path(), arguments); }
+    QString write(const QString &name, const QByteArray &bytes)
+    {
+        QFile file(m_dir->filePath(name));
+        const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+        return written ? file.fileName() : QString();
+    }
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-void TestCheck::init()
-{
-    m_dir = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_dir->isValid());
-}
-
-QString TestCheck::write(const QString &name, const QByteArray &bytes)
-{
-    QFile file(m_dir->filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        return QString();
-    return file.fileName();
-}
-
-Run TestCheck::quirra(const QStringList &arguments)
-{
-    return runQuirra(m_dir->path(), arguments);
-}
 
 void TestCheck::check_data()
 {
