@@ -65,20 +65,21 @@ void TestPieceLoader::loadPieceByName_data()
     QTest::addColumn<QString>("layout"); // across x down, paper code, orientation
     QTest::addColumn<QString>("pageSize");
     QTest::addColumn<bool>("othersVisible");
+    const auto row = [](const char *tag, const QString &name, bool found, const QString &layout,
+                        const QString &pageSize, bool othersVisible) {
+        QTest::newRow(tag) << name << found << layout << pageSize << othersVisible;
+    };
 
     const QString no10 = QStringLiteral("4 1/8 x 9 1/2");
-    QTest::newRow("no10-envelope") << "Size 10 - Envelope" << true << "1x1 20 1" << no10 << true;
-    QTest::newRow("5160-letter-labels") << "5160 - Address Labels" << true << "3x10 1 0"
-                                        << "Letter (8 1/2 x 11 in.)" << false;
-    QTest::newRow("unknown-falls-back-keeping-name")
-        << "No Such Piece" << false << "1x1 20 1" << no10 << true;
-    QTest::newRow("name-ignores-case")
-        << "size 10 - envelope" << true << "1x1 20 1" << no10 << true;
-    QTest::newRow("c6-envelope-is-c6-paper") << "C6 - Envelope" << true << "1x1 31 1"
-                                             << "C6 (114 x 162 mm = 4.49 x 6.38 in.)" << true;
-    QTest::newRow("widest-continuous-row-is-a-custom-page")
-        << "4-Up 3 1/2 x 15/16 - Pin-Fed Address Labels" << true << "4x1 256 1"
-        << "Continuous 14.8 in. wide" << false;
+    row("no10-envelope", "Size 10 - Envelope", true, "1x1 20 1", no10, true);
+    row("5160-letter-labels", "5160 - Address Labels", true, "3x10 1 0", "Letter (8 1/2 x 11 in.)",
+        false);
+    row("unknown-falls-back-keeping-name", "No Such Piece", false, "1x1 20 1", no10, true);
+    row("name-ignores-case", "size 10 - envelope", true, "1x1 20 1", no10, true);
+    row("c6-envelope-is-c6-paper", "C6 - Envelope", true, "1x1 31 1",
+        "C6 (114 x 162 mm = 4.49 x 6.38 in.)", true);
+    row("widest-continuous-row-is-a-custom-page", "4-Up 3 1/2 x 15/16 - Pin-Fed Address Labels",
+        true, "4x1 256 1", "Continuous 14.8 in. wide", false);
 }
 
 void TestPieceLoader::loadPieceByName()
@@ -95,11 +96,8 @@ void TestPieceLoader::loadPieceByName()
     QCOMPARE(LoadPieceByName(name, m), found);
     const Piece &p = m.piece;
     QCOMPARE(p.PieceName, name);
-    QCOMPARE(QStringLiteral("%1x%2 %3 %4")
-                 .arg(p.PieceNumAcross)
-                 .arg(p.PieceNumDown)
-                 .arg(p.PageSizeNum)
-                 .arg(p.PieceOrientation),
+    QCOMPARE(QString::asprintf("%dx%d %d %d", p.PieceNumAcross, p.PieceNumDown, p.PageSizeNum,
+                               p.PieceOrientation),
              layout);
     QCOMPARE(p.PageSize, pageSize);
     QCOMPARE(p.IsCustom, qint16(0));

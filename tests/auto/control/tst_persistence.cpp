@@ -206,25 +206,23 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QJsonValue>("saved");
         QTest::addColumn<QVariant>("expected"); // invalid: the inherited font
-        QTest::newRow("button-height-clamped")
-            << "ButtonMaxHeight" << QJsonValue(1000) << QVariant(400);
-        QTest::newRow("text-for-a-number")
-            << "ButtonMaxHeight" << QJsonValue("tall") << QVariant(240);
-        QTest::newRow("fraction-for-a-count") << "PieceNumDown" << QJsonValue(2.5) << QVariant(1);
-        QTest::newRow("count-beyond-16-bits")
-            << "PieceNumAcross" << QJsonValue(70000) << QVariant(1);
-        QTest::newRow("text-for-a-flag") << "AddressVisible" << QJsonValue("yes") << QVariant(true);
-        QTest::newRow("number-for-a-text")
-            << "Message1Text" << QJsonValue(5) << QVariant(QString());
-        QTest::newRow("null-for-a-text") << "StampText" << QJsonValue() << QVariant(QString());
-        QTest::newRow("text-for-a-length") << "PrinterLeft" << QJsonValue("wide") << QVariant(0.25);
-        QTest::newRow("length-beyond-float")
-            << "PrinterLeft" << QJsonValue(1e300) << QVariant(0.25);
-        QTest::newRow("name-for-an-enumeration")
-            << "EnvelopeOrientation" << QJsonValue("portrait") << QVariant(1);
-        QTest::newRow("saved-portrait") << "EnvelopeOrientation" << QJsonValue(0) << QVariant(0);
-        QTest::newRow("number-for-a-font") << "AddressFont" << QJsonValue(12) << QVariant();
-        QTest::newRow("empty-font") << "AddressFont" << QJsonValue("") << QVariant();
+        const auto row = [](const char *tag, const QString &name, const QJsonValue &saved,
+                            const QVariant &expected) {
+            QTest::newRow(tag) << name << saved << expected;
+        };
+        row("button-height-clamped", "ButtonMaxHeight", QJsonValue(1000), QVariant(400));
+        row("text-for-a-number", "ButtonMaxHeight", QJsonValue("tall"), QVariant(240));
+        row("fraction-for-a-count", "PieceNumDown", QJsonValue(2.5), QVariant(1));
+        row("count-beyond-16-bits", "PieceNumAcross", QJsonValue(70000), QVariant(1));
+        row("text-for-a-flag", "AddressVisible", QJsonValue("yes"), QVariant(true));
+        row("number-for-a-text", "Message1Text", QJsonValue(5), QVariant(QString()));
+        row("null-for-a-text", "StampText", QJsonValue(), QVariant(QString()));
+        row("text-for-a-length", "PrinterLeft", QJsonValue("wide"), QVariant(0.25));
+        row("length-beyond-float", "PrinterLeft", QJsonValue(1e300), QVariant(0.25));
+        row("name-for-an-enumeration", "EnvelopeOrientation", QJsonValue("portrait"), QVariant(1));
+        row("saved-portrait", "EnvelopeOrientation", QJsonValue(0), QVariant(0));
+        row("number-for-a-font", "AddressFont", QJsonValue(12), QVariant());
+        row("empty-font", "AddressFont", QJsonValue(""), QVariant());
     }
 
     void readValues()

@@ -90,23 +90,21 @@ void TestSpoolWriter::linesOnDisk_data()
     QTest::addColumn<QByteArray>("line"); // the values, each in quotes, comma-separated
     QTest::addColumn<QString>("warning");
 
-    QTest::newRow("city-and-state-get-comma")
-        << "John;Q;Public;12 Main;;Springfield;IL;62704"
-        << QByteArray("John|Q|Public|12 Main||Springfield,|IL|62704|||") << "";
-    QTest::newRow("no-state-city-unchanged")
-        << ";;;;;Springfield;;62704" << QByteArray("|||||Springfield||62704|||") << "";
-    QTest::newRow("no-city-no-comma") << ";;;;;;IL" << QByteArray("||||||IL||||") << "";
-    QTest::newRow("setters-trim-blanks-only")
-        << "  John ;\tQ;;;;;;;;;a^1, b^2 " << QByteArray("John|\tQ|||||||||a^1, b^2") << "";
-    QTest::newRow("utf8-accents") << QString::fromUtf8("Zoë;;;;;Málaga;MA")
-                                  << QByteArray("Zo\xc3\xab|||||M\xc3\xa1laga,|MA||||") << "";
-    QTest::newRow("quote-written-as-is-warned")
-        << "Ann;;The \"Old\" Mill" << QByteArray("Ann||The \"Old\" Mill||||||||")
-        << "nm_last.*double quote";
-    QTest::newRow("line-break-warned")
-        << ";;;1 Elm\nSt" << QByteArray("|||1 Elm\nSt|||||||") << "addr_1.*line break";
-    QTest::newRow("values-past-the-last-column-dropped")
-        << "a;;;;;;;;;;s;past;past" << QByteArray("a||||||||||s") << "";
+    const auto row = [](const char *tag, const QString &record, const QByteArray &line,
+                        const QString &warning = QString()) {
+        QTest::newRow(tag) << record << line << warning;
+    };
+    row("city-and-state-get-comma", "John;Q;Public;12 Main;;Springfield;IL;62704",
+        "John|Q|Public|12 Main||Springfield,|IL|62704|||");
+    row("no-state-city-unchanged", ";;;;;Springfield;;62704", "|||||Springfield||62704|||");
+    row("no-city-no-comma", ";;;;;;IL", "||||||IL||||");
+    row("setters-trim-blanks-only", "  John ;\tQ;;;;;;;;;a^1, b^2 ", "John|\tQ|||||||||a^1, b^2");
+    row("utf8-accents", QString::fromUtf8("Zoë;;;;;Málaga;MA"),
+        "Zo\xc3\xab|||||M\xc3\xa1laga,|MA||||");
+    row("quote-written-as-is-warned", "Ann;;The \"Old\" Mill", "Ann||The \"Old\" Mill||||||||",
+        "nm_last.*double quote");
+    row("line-break-warned", ";;;1 Elm\nSt", "|||1 Elm\nSt|||||||", "addr_1.*line break");
+    row("values-past-the-last-column-dropped", "a;;;;;;;;;;s;past;past", "a||||||||||s");
 }
 
 void TestSpoolWriter::linesOnDisk()
