@@ -25,7 +25,6 @@ private Q_SLOTS:
     void printerErrorShowsOneMessage();
     void pagination_data();
     void pagination();
-    void pageRangeDrawsItsPagesOnly();
     void tokensAndTemplates();
     void verticalOffset_data();
     void verticalOffset();
@@ -223,21 +222,6 @@ void TestPrintRun::pagination()
     }
     QCOMPARE(boxes, lastPageBoxes);
     QVERIFY(!modelWritten);
-}
-
-void TestPrintRun::pageRangeDrawsItsPagesOnly()
-{
-    useLabelSheet(3, 2);
-    fixture::feed(fixture::numbered(14)); // pages of 6, 6 and 2
-    RecordingSurface surface;
-    PrintRun run(PieceModel::shared(), SharedSpool::instance().reader());
-    run.setPageRange({2, 2});
-    run.RunPrintJob(surface);
-    QCOMPARE(run.piecesDrawn(), qint64(6));
-    QCOMPARE(surface.pageCount(), 1);
-    QCOMPARE(surface.count(QStringLiteral("action 4")), 0);
-    QCOMPARE(surface.count(QStringLiteral("box [Name7 ")), 1);
-    QCOMPARE(surface.count(QStringLiteral("box [Name6 ")) + surface.count("box [Name13 "), 0);
 }
 
 void TestPrintRun::tokensAndTemplates()
