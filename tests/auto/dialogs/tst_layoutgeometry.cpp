@@ -26,10 +26,8 @@ class TestLayoutGeometry : public QObject
 private Q_SLOTS:
     void fitScale_data();
     void fitScale();
-    void dragged_data();
-    void dragged();
-    void resized_data();
-    void resized();
+    void moved_data();
+    void moved();
     void completed_data();
     void completed();
 };
@@ -72,73 +70,65 @@ void TestLayoutGeometry::fitScale()
     QCOMPARE(LayoutGeometry::fitScale(width, height, screenWidth, screenHeight), scale);
 }
 
-void TestLayoutGeometry::dragged_data()
+void TestLayoutGeometry::moved_data()
 {
     QTest::addColumn<LayoutGeometry>("piece");
+    QTest::addColumn<int>("handle"); // 0: the box is dragged, pressed at 150, 150
     QTest::addColumn<QRectF>("box");
-    QTest::addColumn<QPointF>("mouse"); // relative to the box, pressed at 150, 150
-    QTest::addColumn<QPointF>("topLeft");
-
-    QTest::newRow("halves-round-to-even")
-        << Envelope << Address << QPointF(150.5, 151.5) << QPointF(3120, 1262);
-    QTest::newRow("past-bottom-keeps-50-inside")
-        << Envelope << Address << QPointF(150, 900) << QPointF(3120, 1840);
-    QTest::newRow("exactly-at-keep-out-stays")
-        << Envelope << Address << QPointF(150 + 1510, 150 - 1210) << QPointF(4630, 50);
-    // A 1795-wide item on a 1890-wide label: the far edge comes last and wins.
-    QTest::newRow("too-big-gives-up-the-near-edge")
-        << LayoutGeometry(1890, 720) << QRectF(63, 24, 1795, 684) << QPointF(0, 0)
-        << QPointF(45, -14);
-}
-
-void TestLayoutGeometry::dragged()
-{
-    QFETCH(LayoutGeometry, piece);
-    QFETCH(QRectF, box);
-    QFETCH(QPointF, mouse);
-    QFETCH(QPointF, topLeft);
-
-    QCOMPARE(piece.dragged(box, mouse, QPointF(150, 150)), topLeft);
-}
-
-void TestLayoutGeometry::resized_data()
-{
-    QTest::addColumn<int>("handle");
-    QTest::addColumn<QRectF>("box");
-    QTest::addColumn<QPointF>("mouse"); // relative to the handle's corner
+    QTest::addColumn<QPointF>("mouse"); // relative to the press or to the handle's corner
     QTest::addColumn<QRectF>("result");
 
-    QTest::newRow("box-rounded-first") << 5 << QRectF(3119.6, 1260.4, 2160.5, 1080)
+    QTest::newRow("halves-round-to-even")
+        << Envelope << 0 << Address << QPointF(150.5, 151.5) << QRectF(3120, 1262, 2160, 1080);
+    QTest::newRow("past-bottom-keeps-50-inside")
+        << Envelope << 0 << Address << QPointF(150, 900) << QRectF(3120, 1840, 2160, 1080);
+    QTest::newRow("exactly-at-keep-out-stays")
+        << Envelope << 0 << Address << QPointF(150 + 1510, 150 - 1210)
+        << QRectF(4630, 50, 2160, 1080);
+    // A 1795-wide item on a 1890-wide label: the far edge comes last and wins.
+    QTest::newRow("too-big-gives-up-the-near-edge")
+        << LayoutGeometry(1890, 720) << 0 << QRectF(63, 24, 1795, 684) << QPointF(0, 0)
+        << QRectF(45, -14, 1795, 684);
+    QTest::newRow("box-rounded-first") << Envelope << 5 << QRectF(3119.6, 1260.4, 2160.5, 1080)
                                        << QPointF(15, 0) << QRectF(3120, 1260, 2175, 1080);
     // Left and top may touch the keep-out line; width and height must stay above 50.
     QTest::newRow("left-reaches-keep-out")
-        << 4 << Address << QPointF(-3070, 0) << QRectF(50, 1260, 5230, 1080);
-    QTest::newRow("left-past-keep-out-stays") << 4 << Address << QPointF(-3071, 0) << Address;
+        << Envelope << 4 << Address << QPointF(-3070, 0) << QRectF(50, 1260, 5230, 1080);
+    QTest::newRow("left-past-keep-out-stays")
+        << Envelope << 4 << Address << QPointF(-3071, 0) << Address;
     QTest::newRow("left-leaves-just-over-50")
-        << 4 << Address << QPointF(2109, 0) << QRectF(5229, 1260, 51, 1080);
-    QTest::newRow("left-leaving-50-stays") << 4 << Address << QPointF(2110, 0) << Address;
+        << Envelope << 4 << Address << QPointF(2109, 0) << QRectF(5229, 1260, 51, 1080);
+    QTest::newRow("left-leaving-50-stays")
+        << Envelope << 4 << Address << QPointF(2110, 0) << Address;
     QTest::newRow("top-reaches-keep-out")
-        << 2 << Address << QPointF(0, -1210) << QRectF(3120, 50, 2160, 2290);
+        << Envelope << 2 << Address << QPointF(0, -1210) << QRectF(3120, 50, 2160, 2290);
     // Right and bottom must stay short of the keep-out line.
     QTest::newRow("right-just-inside")
-        << 8 << Address << QPointF(1509, 0) << QRectF(3120, 1260, 3669, 1080);
-    QTest::newRow("right-at-keep-out-stays") << 8 << Address << QPointF(1510, 0) << Address;
-    QTest::newRow("bottom-at-keep-out-stays") << 6 << Address << QPointF(0, 580) << Address;
+        << Envelope << 8 << Address << QPointF(1509, 0) << QRectF(3120, 1260, 3669, 1080);
+    QTest::newRow("right-at-keep-out-stays")
+        << Envelope << 8 << Address << QPointF(1510, 0) << Address;
+    QTest::newRow("bottom-at-keep-out-stays")
+        << Envelope << 6 << Address << QPointF(0, 580) << Address;
     QTest::newRow("bottom-shrinks-to-51")
-        << 7 << Address << QPointF(0, -1029) << QRectF(3120, 1260, 2160, 51);
-    QTest::newRow("bottom-shrinking-to-50-stays") << 7 << Address << QPointF(0, -1030) << Address;
+        << Envelope << 7 << Address << QPointF(0, -1029) << QRectF(3120, 1260, 2160, 51);
+    QTest::newRow("bottom-shrinking-to-50-stays")
+        << Envelope << 7 << Address << QPointF(0, -1030) << Address;
     QTest::newRow("one-direction-stops-other-goes")
-        << 3 << Address << QPointF(1510, -100) << QRectF(3120, 1160, 2160, 1180);
+        << Envelope << 3 << Address << QPointF(1510, -100) << QRectF(3120, 1160, 2160, 1180);
 }
 
-void TestLayoutGeometry::resized()
+void TestLayoutGeometry::moved()
 {
+    QFETCH(LayoutGeometry, piece);
     QFETCH(int, handle);
     QFETCH(QRectF, box);
     QFETCH(QPointF, mouse);
     QFETCH(QRectF, result);
 
-    QCOMPARE(Envelope.resized(handle, box, mouse), result);
+    if (handle == 0)
+        QCOMPARE(QRectF(piece.dragged(box, mouse, QPointF(150, 150)), box.size()), result);
+    else
+        QCOMPARE(piece.resized(handle, box, mouse), result);
 }
 
 void TestLayoutGeometry::completed_data()
