@@ -102,7 +102,7 @@ void TestTemplateReader::shapesAndAliases()
   <Template brand="Acme" part="A1" equiv="R1"/>
   <Template brand="Acme" part="R1" size="A4" _description="Round stickers">
     <Meta category="label"/><Meta category="round-label"/>
-    <Label-round id="0" radius="2cm"><Layout nx="4" ny="6" x0="10mm" y0="12mm" dx="50mm" dy="45mm"/></Label-round>
+    <Label-round id="0" radius="1.905cm"><Layout nx="4" ny="6" x0="10mm" y0="12mm" dx="50mm" dy="45mm"/></Label-round>
   </Template>
   <Template brand="Acme" part="CD1" size="Other" width="51pc" height="792" description="Business CD">
     <Label-cd id="0" radius="1.5in" hole="0.5in" width="3.5in" height="2.5in"><Layout nx="2" ny="4" x0="36pt" y0="0.5in" dx="4in" dy="2.6in"/></Label-cd>
@@ -142,12 +142,12 @@ void TestTemplateReader::shapesAndAliases()
     QCOMPARE(alias.group, QStringLiteral("Acme"));
     QCOMPARE(alias.shape, LabelShape::Round);
     QVERIFY(alias.metric);
-    QCOMPARE(alias.sizeText, QStringLiteral("40 x 40 mm"));
+    QCOMPARE(alias.sizeText, QStringLiteral("38.1 x 38.1 mm")); // a tenth of a millimetre shows
     const PieceSpec &round = alias.sheet;
     QCOMPARE(round.Name, QStringLiteral("Acme A1"));
     QCOMPARE(round.NumAcross, 4);
     QCOMPARE(round.NumDown, 6);
-    QCOMPARE(round.LabelWidth, float(40 / 25.4));
+    QCOMPARE(round.LabelWidth, float(38.1 / 25.4));
     QCOMPARE(round.MarginSide, float(10 / 25.4));
     QCOMPARE(round.MarginTop, float(12 / 25.4));
     QCOMPARE(round.PitchHorz, float(50 / 25.4));

@@ -366,10 +366,8 @@ private Q_SLOTS:
         QCOMPARE(pdfprobe::pageSizes(pdf), QList<QSizeF>(3, QSizeF(684, 297)));
         const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
         for (int page = 1; page <= 3; ++page) {
-            const auto it = std::find_if(words.begin(), words.end(), [&](const auto &word) {
-                return word.page == page && word.text == names[page - 1];
-            });
-            QVERIFY2(it != words.end(), qPrintable(names[page - 1]));
+            const pdfprobe::Word *it = pdfprobe::find(words, names[page - 1], page);
+            QVERIFY2(it, qPrintable(names[page - 1]));
             // On the envelope where the layout puts it, whatever the printer cannot reach.
             QVERIFY2(qAbs(it->box.left() - control.AddressLeft() * 72) < 2.0,
                      qPrintable(QString::number(it->box.left())));

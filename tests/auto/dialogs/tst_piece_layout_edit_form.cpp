@@ -10,6 +10,7 @@
 #include "hostrecorder.h"
 
 #include "modaldriver.h"
+#include "nowindowleft.h"
 #include "settings/defaultlayout.h"
 #include "settings/units.h"
 #include <optional>
@@ -159,8 +160,7 @@ void TestPieceLayoutEditForm::init()
 void TestPieceLayoutEditForm::cleanup()
 {
     m_host.reset();
-    QVERIFY(!QApplication::activeModalWidget());
-    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
+    verifyNoWindowLeft();
 }
 
 void TestPieceLayoutEditForm::mouseLayout_data()
