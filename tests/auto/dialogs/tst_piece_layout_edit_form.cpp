@@ -518,6 +518,8 @@ void TestPieceLayoutEditForm::display_data()
 
     QTest::newRow("hiding-selected-selects-first-visible")
         << QList<int>{1} << "01111" << 2 << QSize(1440, 792);
+    QTest::newRow("only-the-last-left-is-selected")
+        << QList<int>{1, 2, 3, 4} << "00001" << 5 << QSize(1080, 360);
     QTest::newRow("hiding-all-selects-none")
         << QList<int>{1, 2, 3, 4, 5} << "00000" << 0 << QSize();
     QTest::newRow("shown-again-is-at-least-700")
