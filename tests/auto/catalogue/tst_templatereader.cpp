@@ -5,7 +5,6 @@
 
 #include <QBuffer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -227,36 +226,18 @@ void TestTemplateReader::installedDatabase()
     const QString folder = QStringLiteral("/usr/share/libglabels-3.0/templates");
     if (!QDir(folder).exists(QStringLiteral("paper-sizes.xml")))
         QSKIP("the template database (Debian glabels-data) is not installed");
-    QElapsedTimer timer;
-    timer.start();
     const TemplateReadResult result = readTemplateFolder(folder);
-    const qint64 readIn = timer.elapsed();
-    timer.restart();
-    const Catalogue catalogue(QStringLiteral(QUIRRA_SOURCE_ROOT "/data"), {folder});
-    qInfo("the whole catalogue, %lld pieces, in %lld ms", qint64(catalogue.names().size()),
-          timer.elapsed());
-    qInfo("%lld templates in %lld ms; %lld skipped with a warning, %d non-uniform sheets",
-          qint64(result.templates.size()), readIn, qint64(result.warnings.size()),
-          result.skippedNonUniform);
     QVERIFY(result.templates.size() > 1000);
 
-    auto find = [&](const QString &name) {
-        for (const LabelTemplate &t : result.templates)
-            if (t.name() == name)
-                return t;
-        return LabelTemplate();
-    };
-    const LabelTemplate letter = find(QStringLiteral("Avery 5160"));
-    QCOMPARE(letter.paperId, QStringLiteral("US-Letter"));
-    QCOMPARE(letter.across, 3);
-    QCOMPARE(letter.down, 10);
-    QCOMPARE(letter.labelWidth, 2.625);
-    QCOMPARE(letter.pitchHorz, 2.78125);
-    const LabelTemplate a4 = find(QStringLiteral("Avery L7163"));
-    QCOMPARE(a4.aliasOf, QStringLiteral("7163"));
-    QCOMPARE(a4.paperId, QStringLiteral("A4"));
-    QCOMPARE(a4.across * a4.down, 14);
-    QVERIFY(qAbs(a4.pageWidth - 210 / 25.4) < 1e-9);
+    const auto letter =
+        std::find_if(result.templates.begin(), result.templates.end(),
+                     [](const LabelTemplate &t) { return t.name() == u"Avery 5160"; });
+    QVERIFY(letter != result.templates.end());
+    QCOMPARE(letter->paperId, QStringLiteral("US-Letter"));
+    QCOMPARE(letter->across, 3);
+    QCOMPARE(letter->down, 10);
+    QCOMPARE(letter->labelWidth, 2.625);
+    QCOMPARE(letter->pitchHorz, 2.78125);
 }
 
 QTEST_GUILESS_MAIN(TestTemplateReader)
