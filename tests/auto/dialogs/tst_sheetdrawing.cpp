@@ -82,13 +82,15 @@ void TestSheetDrawing::layout()
     }
     QCOMPARE(off, offPage);
     QStringList texts;
-    for (const SheetDrawing::Mark &m : d.marks())
+    for (const SheetDrawing::Mark &m : d.marks()) {
         texts.append(m.text);
+        all |= m.textRect;
+    }
     QCOMPARE(texts, marks);
     if (d.isEmpty())
         return;
 
-    // The page keeps its proportions, everything stays in the area, and
+    // The page keeps its proportions, everything (marks too) stays in the area, and
     // the pieces stand a pitch apart from the margins.
     QVERIFY(qAbs(d.paper().width() / d.paper().height() - entry.PageWidth / entry.PageHeight) <
             1e-6);
