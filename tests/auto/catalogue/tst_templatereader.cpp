@@ -104,7 +104,7 @@ void TestTemplateReader::shapesAndAliases()
     <Label-round id="0" radius="1.905cm"><Layout nx="4" ny="6" x0="10mm" y0="12mm" dx="50mm" dy="45mm"/></Label-round>
   </Template>
   <Template brand="Acme" part="CD1" size="Other" width="51pc" height="792" description="Business CD">
-    <Label-cd id="0" radius="1.5in" hole="0.5in" width="3.5in" height="2.5in"><Layout nx="2" ny="4" x0="36pt" y0="0.5in" dx="4in" dy="2.6in"/></Label-cd>
+    <Label-cd id="0" radius="1.5in" hole="0.5in" width="3.5in"><Layout nx="2" ny="3" x0="36pt" y0="0.5in" dx="4in" dy="3.1in"/></Label-cd>
   </Template>
   <Template brand="Acme" part="E1" size="US-Letter" _description="Ovals">
     <Label-ellipse id="0" width="3in" height="2in"><Layout nx="1" ny="5" x0="1in" y0="0.5in" dy="2in"/></Label-ellipse>
@@ -156,8 +156,8 @@ void TestTemplateReader::shapesAndAliases()
     const CatalogueEntry &cd = *catalogue->entry(QStringLiteral("Acme CD1"));
     QCOMPARE(cd.shape, LabelShape::Cd);
     QVERIFY(!cd.metric);
-    QCOMPARE(cd.sheet.LabelWidth, 3.5f); // cut off at the sides: its own width bounds it
-    QCOMPARE(cd.sheet.LabelHeight, 2.5f);
+    QCOMPARE(cd.sheet.LabelWidth, 3.5f);  // cut off at the sides: its own width bounds it
+    QCOMPARE(cd.sheet.LabelHeight, 3.0f); // no height given: the disc's
     QCOMPARE(cd.sheet.PageWidth, 8.5f);
     QCOMPARE(cd.sheet.PageHeight, 11.0f);
     QCOMPARE(cd.sheet.MarginSide, 0.5f);
