@@ -16,6 +16,7 @@
 #include "records/record.h"
 #include "records/sharedspool.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
@@ -340,6 +341,26 @@ private Q_SLOTS:
         expected[column] = QStringLiteral("Value of it"); // without its blanks
         QCOMPARE(spooled(&headers),
                  (QList<QStringList>{expected, QStringList(RecordFieldCount, QString())}));
+    }
+
+    void pagingArrowsPointTheirWay()
+    {
+        // A triangle is heaviest at its base, away from its tip.
+        Quirra control;
+        for (const auto &[name, toLeft] : {std::pair{"mc_first", true},
+                                           {"mc_prev", true},
+                                           {"mc_next", false},
+                                           {"mc_last", false}}) {
+            const QImage icon = control.findChild<QAbstractButton *>(QLatin1String(name))
+                                    ->icon()
+                                    .pixmap(32)
+                                    .toImage();
+            int left = 0, right = 0;
+            for (int y = 0; y < icon.height(); ++y)
+                for (int x = 0; x < icon.width(); ++x)
+                    (2 * x < icon.width() ? left : right) += qAlpha(icon.pixel(x, y));
+            QVERIFY2((left < right) == toLeft, name);
+        }
     }
 
     void printToPdf_data()
