@@ -71,6 +71,15 @@ inline QList<Word> words(const QString &file)
     return result;
 }
 
+/** The first word of that text (on that page, if one is given); nullptr when there is none. */
+inline const Word *find(const QList<Word> &words, const QString &text, int page = 0)
+{
+    const auto it = std::find_if(words.begin(), words.end(), [&](const Word &w) {
+        return w.text == text && (page == 0 || w.page == page);
+    });
+    return it == words.end() ? nullptr : &*it;
+}
+
 /** Words grouped into lines by page and top edge, top to bottom. */
 inline QList<Line> lines(const QString &file)
 {

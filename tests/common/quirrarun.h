@@ -16,11 +16,13 @@ struct QuirraRun
     QString err;
 };
 
-inline QuirraRun runQuirra(const QString &folder, const QStringList &arguments,
-                           const QByteArray &input = {})
+inline QuirraRun
+runQuirra(const QString &folder, const QStringList &arguments, const QByteArray &input = {},
+          const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment())
 {
     QProcess process;
     process.setWorkingDirectory(folder);
+    process.setProcessEnvironment(environment);
     process.start(QStringLiteral(QUIRRA_BINARY), arguments);
     QuirraRun run;
     if (!process.waitForStarted(30000))
@@ -28,7 +30,7 @@ inline QuirraRun runQuirra(const QString &folder, const QStringList &arguments,
     if (!input.isEmpty())
         process.write(input);
     process.closeWriteChannel(); // standard input is a pipe at its end, never a terminal
-    if (!process.waitForFinished(120000)) {
+    if (!process.waitForFinished(150000)) {
         process.kill();
         process.waitForFinished();
         run.err = QStringLiteral("<did not finish>");

@@ -5,7 +5,6 @@
 
 #include <QBuffer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -102,10 +101,10 @@ void TestTemplateReader::shapesAndAliases()
   <Template brand="Acme" part="A1" equiv="R1"/>
   <Template brand="Acme" part="R1" size="A4" _description="Round stickers">
     <Meta category="label"/><Meta category="round-label"/>
-    <Label-round id="0" radius="2cm"><Layout nx="4" ny="6" x0="10mm" y0="12mm" dx="50mm" dy="45mm"/></Label-round>
+    <Label-round id="0" radius="1.905cm"><Layout nx="4" ny="6" x0="10mm" y0="12mm" dx="50mm" dy="45mm"/></Label-round>
   </Template>
   <Template brand="Acme" part="CD1" size="Other" width="51pc" height="792" description="Business CD">
-    <Label-cd id="0" radius="1.5in" hole="0.5in" width="3.5in" height="2.5in"><Layout nx="2" ny="4" x0="36pt" y0="0.5in" dx="4in" dy="2.6in"/></Label-cd>
+    <Label-cd id="0" radius="1.5in" hole="0.5in" width="3.5in"><Layout nx="2" ny="3" x0="36pt" y0="0.5in" dx="4in" dy="3.1in"/></Label-cd>
   </Template>
   <Template brand="Acme" part="E1" size="US-Letter" _description="Ovals">
     <Label-ellipse id="0" width="3in" height="2in"><Layout nx="1" ny="5" x0="1in" y0="0.5in" dy="2in"/></Label-ellipse>
@@ -142,12 +141,12 @@ void TestTemplateReader::shapesAndAliases()
     QCOMPARE(alias.group, QStringLiteral("Acme"));
     QCOMPARE(alias.shape, LabelShape::Round);
     QVERIFY(alias.metric);
-    QCOMPARE(alias.sizeText, QStringLiteral("40 x 40 mm"));
+    QCOMPARE(alias.sizeText, QStringLiteral("38.1 x 38.1 mm")); // a tenth of a millimetre shows
     const PieceSpec &round = alias.sheet;
     QCOMPARE(round.Name, QStringLiteral("Acme A1"));
     QCOMPARE(round.NumAcross, 4);
     QCOMPARE(round.NumDown, 6);
-    QCOMPARE(round.LabelWidth, float(40 / 25.4));
+    QCOMPARE(round.LabelWidth, float(38.1 / 25.4));
     QCOMPARE(round.MarginSide, float(10 / 25.4));
     QCOMPARE(round.MarginTop, float(12 / 25.4));
     QCOMPARE(round.PitchHorz, float(50 / 25.4));
@@ -157,8 +156,8 @@ void TestTemplateReader::shapesAndAliases()
     const CatalogueEntry &cd = *catalogue->entry(QStringLiteral("Acme CD1"));
     QCOMPARE(cd.shape, LabelShape::Cd);
     QVERIFY(!cd.metric);
-    QCOMPARE(cd.sheet.LabelWidth, 3.5f); // cut off at the sides: its own width bounds it
-    QCOMPARE(cd.sheet.LabelHeight, 2.5f);
+    QCOMPARE(cd.sheet.LabelWidth, 3.5f);  // cut off at the sides: its own width bounds it
+    QCOMPARE(cd.sheet.LabelHeight, 3.0f); // no height given: the disc's
     QCOMPARE(cd.sheet.PageWidth, 8.5f);
     QCOMPARE(cd.sheet.PageHeight, 11.0f);
     QCOMPARE(cd.sheet.MarginSide, 0.5f);
@@ -227,36 +226,18 @@ void TestTemplateReader::installedDatabase()
     const QString folder = QStringLiteral("/usr/share/libglabels-3.0/templates");
     if (!QDir(folder).exists(QStringLiteral("paper-sizes.xml")))
         QSKIP("the template database (Debian glabels-data) is not installed");
-    QElapsedTimer timer;
-    timer.start();
     const TemplateReadResult result = readTemplateFolder(folder);
-    const qint64 readIn = timer.elapsed();
-    timer.restart();
-    const Catalogue catalogue(QStringLiteral(QUIRRA_SOURCE_ROOT "/data"), {folder});
-    qInfo("the whole catalogue, %lld pieces, in %lld ms", qint64(catalogue.names().size()),
-          timer.elapsed());
-    qInfo("%lld templates in %lld ms; %lld skipped with a warning, %d non-uniform sheets",
-          qint64(result.templates.size()), readIn, qint64(result.warnings.size()),
-          result.skippedNonUniform);
     QVERIFY(result.templates.size() > 1000);
 
-    auto find = [&](const QString &name) {
-        for (const LabelTemplate &t : result.templates)
-            if (t.name() == name)
-                return t;
-        return LabelTemplate();
-    };
-    const LabelTemplate letter = find(QStringLiteral("Avery 5160"));
-    QCOMPARE(letter.paperId, QStringLiteral("US-Letter"));
-    QCOMPARE(letter.across, 3);
-    QCOMPARE(letter.down, 10);
-    QCOMPARE(letter.labelWidth, 2.625);
-    QCOMPARE(letter.pitchHorz, 2.78125);
-    const LabelTemplate a4 = find(QStringLiteral("Avery L7163"));
-    QCOMPARE(a4.aliasOf, QStringLiteral("7163"));
-    QCOMPARE(a4.paperId, QStringLiteral("A4"));
-    QCOMPARE(a4.across * a4.down, 14);
-    QVERIFY(qAbs(a4.pageWidth - 210 / 25.4) < 1e-9);
+    const auto letter =
+        std::find_if(result.templates.begin(), result.templates.end(),
+                     [](const LabelTemplate &t) { return t.name() == u"Avery 5160"; });
+    QVERIFY(letter != result.templates.end());
+    QCOMPARE(letter->paperId, QStringLiteral("US-Letter"));
+    QCOMPARE(letter->across, 3);
+    QCOMPARE(letter->down, 10);
+    QCOMPARE(letter->labelWidth, 2.625);
+    QCOMPARE(letter->pitchHorz, 2.78125);
 }
 
 QTEST_GUILESS_MAIN(TestTemplateReader)

@@ -16,6 +16,7 @@
 #include "records/record.h"
 #include "records/sharedspool.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
@@ -342,6 +343,26 @@ private Q_SLOTS:
                  (QList<QStringList>{expected, QStringList(RecordFieldCount, QString())}));
     }
 
+    void pagingArrowsPointTheirWay()
+    {
+        // A triangle is heaviest at its base, away from its tip.
+        Quirra control;
+        for (const auto &[name, toLeft] : {std::pair{"mc_first", true},
+                                           {"mc_prev", true},
+                                           {"mc_next", false},
+                                           {"mc_last", false}}) {
+            const QImage icon = control.findChild<QAbstractButton *>(QLatin1String(name))
+                                    ->icon()
+                                    .pixmap(32)
+                                    .toImage();
+            int left = 0, right = 0;
+            for (int y = 0; y < icon.height(); ++y)
+                for (int x = 0; x < icon.width(); ++x)
+                    (2 * x < icon.width() ? left : right) += qAlpha(icon.pixel(x, y));
+            QVERIFY2((left < right) == toLeft, name);
+        }
+    }
+
     void printToPdf_data()
     {
         QTest::addColumn<float>("printerOffset");
@@ -366,10 +387,8 @@ private Q_SLOTS:
         QCOMPARE(pdfprobe::pageSizes(pdf), QList<QSizeF>(3, QSizeF(684, 297)));
         const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
         for (int page = 1; page <= 3; ++page) {
-            const auto it = std::find_if(words.begin(), words.end(), [&](const auto &word) {
-                return word.page == page && word.text == names[page - 1];
-            });
-            QVERIFY2(it != words.end(), qPrintable(names[page - 1]));
+            const pdfprobe::Word *it = pdfprobe::find(words, names[page - 1], page);
+            QVERIFY2(it, qPrintable(names[page - 1]));
             // On the envelope where the layout puts it, whatever the printer cannot reach.
             QVERIFY2(qAbs(it->box.left() - control.AddressLeft() * 72) < 2.0,
                      qPrintable(QString::number(it->box.left())));

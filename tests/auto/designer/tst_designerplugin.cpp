@@ -5,14 +5,12 @@
 // finds it in its plugin folder, opens the example form with a Quirra on it
 // and edits the control through the plugin's property sheet and task menu.
 #include "control/quirra.h"
+#include "controlsteps.h"
 #include "modaldriver.h"
 
-#include <QAbstractButton>
 #include <QAction>
-#include <QComboBox>
 #include <QFile>
 #include <QFileInfo>
-#include <QListWidget>
 #include <QPluginLoader>
 #include <QUndoStack>
 #include <QtDesigner/QDesignerComponents>
@@ -231,16 +229,8 @@ void TestDesignerPlugin::acceptedDialogIsOneUndoStep()
 
     ModalDriver driver;
     driver.onModal(QStringLiteral("piece_select_form"), [](QDialog *shown) {
-        auto *products = shown->findChild<QComboBox *>(QStringLiteral("product_cbo"));
-        QVERIFY(products);
-        products->setCurrentIndex(products->findText(QStringLiteral("Envelopes")));
-        auto *list = shown->findChild<QListWidget *>(QStringLiteral("piece_lst"));
-        QVERIFY(list);
-        const auto found = list->findItems(QStringLiteral("Size 10 - Envelope"), Qt::MatchExactly);
-        QVERIFY(!found.isEmpty());
-        list->setCurrentItem(found.first());
-        QTest::mouseClick(shown->findChild<QAbstractButton *>(QStringLiteral("ok_btn")),
-                          Qt::LeftButton);
+        steps::pickPiece(shown, QStringLiteral("Envelopes"), QStringLiteral("Size 10 - Envelope"));
+        steps::click(shown, "ok_btn");
     });
     taskMenu(m_quirra)->taskActions().at(0)->trigger();
     QVERIFY(!driver.watchdogFired());

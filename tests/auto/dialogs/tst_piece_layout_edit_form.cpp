@@ -10,6 +10,7 @@
 #include "hostrecorder.h"
 
 #include "modaldriver.h"
+#include "nowindowleft.h"
 #include "settings/defaultlayout.h"
 #include "settings/units.h"
 #include <optional>
@@ -159,8 +160,7 @@ void TestPieceLayoutEditForm::init()
 void TestPieceLayoutEditForm::cleanup()
 {
     m_host.reset();
-    QVERIFY(!QApplication::activeModalWidget());
-    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
+    verifyNoWindowLeft();
 }
 
 void TestPieceLayoutEditForm::mouseLayout_data()
@@ -518,6 +518,8 @@ void TestPieceLayoutEditForm::display_data()
 
     QTest::newRow("hiding-selected-selects-first-visible")
         << QList<int>{1} << "01111" << 2 << QSize(1440, 792);
+    QTest::newRow("only-the-last-left-is-selected")
+        << QList<int>{1, 2, 3, 4} << "00001" << 5 << QSize(1080, 360);
     QTest::newRow("hiding-all-selects-none")
         << QList<int>{1, 2, 3, 4, 5} << "00000" << 0 << QSize();
     QTest::newRow("shown-again-is-at-least-700")

@@ -4,6 +4,7 @@
 #include "dialogs/sheetpreview.h"
 
 #include "modaldriver.h"
+#include "nowindowleft.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -64,7 +65,7 @@ class TestPieceSelectForm : public QObject
 
 private Q_SLOTS:
     void init();
-    void cleanup();
+    void cleanup() { verifyNoWindowLeft(); }
     void openOnName_data();
     void openOnName();
     void emptyNameWaitsForActivation();
@@ -82,12 +83,6 @@ void TestPieceSelectForm::init()
 {
     qputenv("QUIRRA_SYSTEM_DIR", QUIRRA_TEST_DATA "/");
     qputenv("QUIRRA_PAPER_CATALOGUE", "");
-}
-
-void TestPieceSelectForm::cleanup()
-{
-    QVERIFY(!QApplication::activeModalWidget());
-    QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
 void TestPieceSelectForm::openOnName_data()
@@ -213,6 +208,14 @@ void TestPieceSelectForm::clickingPiece()
     QCOMPARE((QStringList{f.text("type_txt"), f.text("size_txt"), f.text("page_size_txt"),
                           f.text("layout_txt")}),
              (QStringList{"Address Labels", "2.625 x 1", "Letter (8 1/2 x 11 in)", "3 x 10"}));
+    // The thumbnail draws the pieces down to the sheet's last row.
+    const QImage thumbnail =
+        f.form.findChild<SheetPreview *>(QStringLiteral("sheet_preview"))->grab().toImage();
+    bool lastRow = false;
+    for (int x = 0; x < thumbnail.width(); ++x)
+        lastRow = lastRow ||
+                  thumbnail.pixelColor(x, thumbnail.height() * 9 / 10) == QColor(232, 240, 250);
+    QVERIFY(lastRow);
 
     const QRect row = f.pieces->visualItemRect(f.pieces->item(3));
     QTest::mouseClick(f.pieces->viewport(), Qt::LeftButton, {}, row.center());

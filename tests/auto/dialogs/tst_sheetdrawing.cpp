@@ -82,13 +82,15 @@ void TestSheetDrawing::layout()
     }
     QCOMPARE(off, offPage);
     QStringList texts;
-    for (const SheetDrawing::Mark &m : d.marks())
+    for (const SheetDrawing::Mark &m : d.marks()) {
         texts.append(m.text);
+        all |= m.textRect;
+    }
     QCOMPARE(texts, marks);
     if (d.isEmpty())
         return;
 
-    // The page keeps its proportions, everything stays in the area, and
+    // The page keeps its proportions, everything (marks too) stays in the area, and
     // the pieces stand a pitch apart from the margins.
     QVERIFY(qAbs(d.paper().width() / d.paper().height() - entry.PageWidth / entry.PageHeight) <
             1e-6);
@@ -110,13 +112,17 @@ void TestSheetDrawing::layout()
 void TestSheetDrawing::labelsKeepApart()
 {
     // In a small preview the margins' labels are longer than their lengths
-    // and must move off the labels of the sizes beside them, not out of view.
+    // and must move off the labels of the sizes beside them, not out of view:
+    // the top margin's finds room above; the side margin's finds none and is
+    // left out.
     const SheetDrawing d = draw(Labels30, QSizeF(200, 240));
-    for (const auto &[margin, size] : {std::pair{"top_margin_view", "label_ht_view"},
-                                       std::pair{"side_margin_view", "label_wd_view"}}) {
+    for (const auto &[margin, size, shown] :
+         {std::tuple{"top_margin_view", "label_ht_view", true},
+          std::tuple{"side_margin_view", "label_wd_view", false}}) {
         const SheetDrawing::Mark *a = d.mark(QLatin1String(margin));
         const SheetDrawing::Mark *b = d.mark(QLatin1String(size));
         QVERIFY(a && b);
+        QCOMPARE(!a->textRect.isEmpty(), shown);
         QVERIFY2(!a->textRect.intersects(b->textRect), margin);
         QVERIFY2(a->textRect.left() >= 0 && a->textRect.top() >= 0, margin);
     }

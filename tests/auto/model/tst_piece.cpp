@@ -18,7 +18,6 @@ private Q_SLOTS:
     void derivePageSetup();
     void slotPlacement_data();
     void slotPlacement();
-    void zeroAcrossIsADivisionError();
     void sharedModelIsOneForTheProcess();
     void int16Overflow_data();
     void int16Overflow();
@@ -116,18 +115,6 @@ void TestPiece::slotPlacement()
     QTEST(place.column, "column");
     QTEST(int(place.top), "top");
     QTEST(int(place.left), "left");
-}
-
-void TestPiece::zeroAcrossIsADivisionError()
-{
-    Piece p;
-    p.PieceNumAcross = 0;
-    try {
-        placeOfSlot(p, 1);
-        QFAIL("no error for a piece with 0 across");
-    } catch (const Error &e) {
-        QVERIFY2(e.message().contains(QLatin1String("PieceNumAcross")), e.what());
-    }
 }
 
 void TestPiece::sharedModelIsOneForTheProcess()

@@ -15,7 +15,6 @@ private Q_SLOTS:
     void encodes();
     void refuses_data();
     void refuses();
-    void barsKeepThePostalDimensions();
 };
 
 void TestIntelligentMail::encodes_data()
@@ -103,47 +102,6 @@ void TestIntelligentMail::refuses()
     QVERIFY(!code.isValid());
     QVERIFY2(code.error().contains(why), qPrintable(code.error()));
     QVERIFY(code.bars().isEmpty());
-}
-
-void TestIntelligentMail::barsKeepThePostalDimensions()
-{
-    const IntelligentMailBarcode code(QStringLiteral("01234567094987654321-01234567891"), {});
-    const QPoint origin(1000, 2000);
-    const QList<QRect> rects = code.barRects(origin);
-    QCOMPARE(rects.size(), IntelligentMailBarcode::BarCount);
-
-    // The whole code is 2.667 to 3.225 in long, 20 to 24 bars to the inch.
-    const int length = rects.last().right() + 1 - rects.first().left();
-    QCOMPARE(length, IntelligentMailBarcode::widthTwips());
-    QVERIFY(length >= 2.667 * 1440 && length <= 3.225 * 1440);
-    const double perInch = (IntelligentMailBarcode::BarCount - 1) * 1440.0 /
-                           (rects.last().left() - rects.first().left());
-    QVERIFY(perInch >= 20 && perInch <= 24);
-
-    const int full = IntelligentMailBarcode::heightTwips();
-    QVERIFY(full >= 0.125 * 1440 && full <= 0.165 * 1440);
-    for (int i = 0; i < rects.size(); ++i) {
-        const QRect &bar = rects.at(i);
-        QVERIFY(bar.width() >= 0.015 * 1440 && bar.width() <= 0.025 * 1440);
-        const int top = bar.top() - origin.y(), bottom = bar.bottom() + 1 - origin.y();
-        switch (code.bars().at(i).toLatin1()) {
-        case IntelligentMailBarcode::Full:
-            QCOMPARE(top, 0);
-            QCOMPARE(bottom, full);
-            break;
-        case IntelligentMailBarcode::Ascender:
-            QCOMPARE(top, 0);
-            QVERIFY(bottom >= 0.085 * 1440 && bottom <= 0.115 * 1440);
-            break;
-        case IntelligentMailBarcode::Descender:
-            QCOMPARE(bottom, full);
-            QVERIFY(full - top >= 0.085 * 1440 && full - top <= 0.115 * 1440);
-            break;
-        default:
-            QVERIFY(bar.height() >= 0.039 * 1440 && bar.height() <= 0.057 * 1440);
-            QCOMPARE(top + bottom, full); // the tracker sits in the middle
-        }
-    }
 }
 
 QTEST_GUILESS_MAIN(TestIntelligentMail)

@@ -145,6 +145,9 @@ void TestPreflight::notes_data()
     QTest::newRow("undrawable-characters")
         << Envelope << int(None) << person("Bob", QStringLiteral("Roe\u0378"))
         << kinds({NoteKind::UndrawableCharacters}) << 2 << 1 << "U+0378";
+    QTest::newRow("accented-letters-are-drawn")
+        << Envelope << int(None) << person("Zoë", QStringLiteral("Ångström")) << QList<int>() << 0
+        << 0 << QString();
     QTest::newRow("empty-record") << Envelope << int(None) << QStringList(8, QString())
                                   << kinds({NoteKind::EmptyRecord}) << 2 << 1
                                   << "no name and no address";

@@ -4,6 +4,7 @@
 #include "settings/files.h"
 
 #include <QCoreApplication>
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -11,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <cerrno>
 
 using namespace quirra;
 
@@ -21,6 +23,7 @@ class TestFiles : public QObject
 private Q_SLOTS:
     void makeTempFileName_data();
     void makeTempFileName();
+    void temporaryFolderProblems();
     void catalogueLocations();
     void deleteFileAndWait();
 
@@ -72,6 +75,19 @@ void TestFiles::makeTempFileName()
     QCOMPARE(info.size(), 0);
     // Read and write for the owner only: the spool holds people's addresses.
     QCOMPARE(int(info.permissions() & 0x7077), int(QFile::ReadOwner | QFile::WriteOwner));
+}
+
+void TestFiles::temporaryFolderProblems()
+{
+    // What the user can do about it depends on why the folder took no file.
+    for (const auto &[code, advice] : {std::pair{ENOSPC, "is full (No space left on device): free"},
+                                       {EDQUOT, "is full (Disk quota exceeded): free"},
+                                       {ENOTDIR, "is missing (Not a directory): create it"},
+                                       {EACCES, "Cannot create a temporary file in"}}) {
+        const QString text = TemporaryDirectoryProblem(QStringLiteral("/tmp/q"), code);
+        QVERIFY2(text.contains(QLatin1String(advice)) && text.contains(QLatin1String("/tmp/q")),
+                 qPrintable(text));
+    }
 }
 
 void TestFiles::catalogueLocations()

@@ -364,6 +364,14 @@ void TestPageEngine::headerAndFooter_data()
         << QStringList{"Page 5", "body", "Page 6", "body"};
     QTest::newRow("footer-below-the-body") << QString() << QStringLiteral("Sheet %d") << 1
                                            << QStringList{"body", "Sheet 1", "body", "Sheet 2"};
+    // Wider than the margins leave: one line from the left margin, never a second.
+    const QString wide =
+        QStringLiteral("Page %d of the spring mailing to all the members and friends of "
+                       "the Westbury Garden Society");
+    QTest::newRow("wide-header-stays-one-line")
+        << wide << QString() << 1
+        << QStringList{QString(wide).replace("%d", "1"), "body", QString(wide).replace("%d", "2"),
+                       "body"};
 }
 
 void TestPageEngine::headerAndFooter()
@@ -378,7 +386,8 @@ void TestPageEngine::headerAndFooter()
         [&](PageEngine &e) {
             e.setMarginTop(margin);
             e.setMarginBottom(margin);
-            e.setMarginLeft(1440);
+            e.setMarginLeft(2880);
+            e.setMarginRight(2880);
             e.setHeader(header);
             e.setFooter(footer);
             e.setFirstPageNumber(firstNumber);
@@ -396,8 +405,12 @@ void TestPageEngine::headerAndFooter()
             continue;
         // Centred between the margins of the printable area (Letter less the
         // origin's strip on both sides), inside the top or bottom margin.
-        const double centre = (origin + 1440 + (12240 - 2 * origin - 1440) / 2.0) / 20.0;
-        QVERIFY2(qAbs((l.left + l.right) / 2 - centre) < quarterPoint, qPrintable(l.text));
+        const double left = (origin + 2880) / 20.0, right = (12240 - origin - 2880) / 20.0;
+        if (l.right - l.left < right - left)
+            QVERIFY2(qAbs((l.left + l.right) / 2 - (left + right) / 2) < quarterPoint,
+                     qPrintable(l.text));
+        else
+            QVERIFY2(qAbs(l.left - left) < quarterPoint, qPrintable(l.text));
         const double band = header.isEmpty() ? (15840 - origin - margin) / 20.0 : origin / 20.0;
         QVERIFY2(l.top >= band && l.top + arialLine10 / 20.0 <= band + margin / 20.0,
                  qPrintable(l.text));
