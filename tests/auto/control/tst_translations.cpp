@@ -17,6 +17,13 @@ using namespace quirra;
 // The compiled translations are found beside the code, as built, and put the
 // dialogs, the pane and Qt's standard buttons into the user's language; a
 // locale without one leaves the English texts the published interface quotes.
+struct LocaleRow
+{
+    QLocale locale;
+    bool translated;
+    QString caption, printAll, cancel;
+};
+
 class TestTranslations : public QObject
 {
     Q_OBJECT
@@ -26,40 +33,27 @@ private Q_SLOTS:
 
     void textsFollowTheLocale_data()
     {
-        QTest::addColumn<QLocale>("locale");
-        QTest::addColumn<bool>("translated");
-        QTest::addColumn<QString>("caption");
-        QTest::addColumn<QString>("printAll");
-        QTest::addColumn<QString>("cancel");
-        QTest::newRow("c-locale") << QLocale::c() << false << "Piece Selection"
-                                  << "Pr All"
-                                  << "Cancel";
-        QTest::newRow("english") << QLocale(QLocale::English, QLocale::UnitedKingdom) << false
-                                 << "Piece Selection"
-                                 << "Pr All"
-                                 << "Cancel";
-        QTest::newRow("german") << QLocale(QLocale::German, QLocale::Germany) << true
-                                << "Vorlagenauswahl"
-                                << "Dr. alle"
-                                << "Abbrechen";
+        QTest::addColumn<LocaleRow>("row");
+        QTest::newRow("c-locale") << LocaleRow{QLocale::c(), false, "Piece Selection", "Pr All",
+                                               "Cancel"};
+        QTest::newRow("english") << LocaleRow{QLocale(QLocale::English, QLocale::UnitedKingdom),
+                                              false, "Piece Selection", "Pr All", "Cancel"};
+        QTest::newRow("german") << LocaleRow{QLocale(QLocale::German, QLocale::Germany), true,
+                                             "Vorlagenauswahl", "Dr. alle", "Abbrechen"};
     }
     void textsFollowTheLocale()
     {
-        QFETCH(QLocale, locale);
-        QFETCH(bool, translated);
-        QFETCH(QString, caption);
-        QFETCH(QString, printAll);
-        QFETCH(QString, cancel);
-        QCOMPARE(InstallTranslations(locale), translated);
+        QFETCH(LocaleRow, row);
+        QCOMPARE(InstallTranslations(row.locale), row.translated);
         // The first call chooses: a later one changes nothing.
-        QCOMPARE(InstallTranslations(QLocale(QLocale::German)), translated);
+        QCOMPARE(InstallTranslations(QLocale(QLocale::German)), row.translated);
 
         piece_select_form form;
-        QCOMPARE(form.windowTitle(), caption);
+        QCOMPARE(form.windowTitle(), row.caption);
         PreviewPane pane;
-        QCOMPARE(pane.findChild<QToolButton *>(QStringLiteral("mc_p_all"))->text(), printAll);
+        QCOMPARE(pane.findChild<QToolButton *>(QStringLiteral("mc_p_all"))->text(), row.printAll);
         QDialogButtonBox buttons(QDialogButtonBox::Cancel);
-        QCOMPARE(buttons.button(QDialogButtonBox::Cancel)->text(), cancel);
+        QCOMPARE(buttons.button(QDialogButtonBox::Cancel)->text(), row.cancel);
     }
 };
 

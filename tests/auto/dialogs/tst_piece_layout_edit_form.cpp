@@ -89,6 +89,7 @@ struct Editor
         const QRectF b = form.itemBox(i);
         return {b.top(), b.left(), b.height(), b.width()};
     }
+
     void click(int i, Qt::MouseButton button = Qt::LeftButton)
     {
         QTest::mouseClick(frame, button, {}, item(i)->geometry().topLeft() + QPoint(5, 5));
@@ -123,514 +124,499 @@ struct Editor
 
 } // namespace
 
+struct MouseRow
+{
+    int handle;  // 0: the address itself
+    QPoint step; // pixels
+    int steps;
+    QRectF box;
+    QString refreshed; // fields by initial: Top, Left, Height, Width
+    int cursor;
+};
+
+struct FieldRow
+{
+    int field; // top, left, height, width
+    QString keys, text;
+    int beeps;
+    int value; // display twips, rounded
+};
+
+struct ModifyRow
+{
+    int item;
+    QString justify; // chosen first, if any
+    bool doubleClick;
+    int editor;
+};
+
+struct FormatRow
+{
+    int item;
+    int align;       // the item's own
+    qint16 border;   // the item's own
+    QString command; // a justify entry's index, "B" borders, or a right click
+    int alignment;   // the label's, horizontally
+    int horzAlign;   // written back
+    qint16 written;  // border written back
+    QString checked; // the menu's checks when opened again
+};
+
+struct FontRow
+{
+    float scale;
+    bool chosen; // false: the font dialog was cancelled
+    QString tag;
+    double shownSize;
+};
+
+struct DisplayRow
+{
+    QList<int> toggles; // Display menu entries, in turn
+    QString visible;    // items 1..5
+    int current;
+    QSize size; // of the current item
+};
+
 class TestPieceLayoutEditForm : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void mouseLayout_data();
-    void mouseLayout();
-    void fields_data();
-    void fields();
-    void modifyInPlace_data();
-    void modifyInPlace();
-    void zOrder_data();
-    void zOrder();
-    void formatMenu_data();
-    void formatMenu();
-    void fontKeepsTrueSize_data();
-    void fontKeepsTrueSize();
-    void display_data();
-    void display();
-    void defaultAndClear();
-    void modalResult_data();
-    void modalResult();
+    void init() { m_host.emplace(); }
+    void cleanup()
+    {
+        m_host.reset();
+        verifyNoWindowLeft();
+    }
+
+    void mouseLayout_data()
+    {
+        QTest::addColumn<MouseRow>("row");
+
+        const int fdiag = Qt::SizeFDiagCursor;
+        const int bdiag = Qt::SizeBDiagCursor;
+        const int ver = Qt::SizeVerCursor;
+        const int hor = Qt::SizeHorCursor;
+        QTest::newRow("drag-follows-the-mouse")
+            << MouseRow{0, QPoint(3, -2), 10, QRectF(3570, 960, 2160, 1080), "TLHW", 0};
+        QTest::newRow("drag-past-top-left-keeps-50")
+            << MouseRow{0, QPoint(-21, -9), 10, QRectF(50, 50, 2160, 1080), "TLHW", 0};
+        QTest::newRow("drag-past-right-keeps-50")
+            << MouseRow{0, QPoint(11, 1), 10, QRectF(4630, 1410, 2160, 1080), "TLHW", 0};
+        // Pressed at a handle's corner: the corner follows the mouse.
+        QTest::newRow("top-left-moves-both-edges")
+            << MouseRow{1, QPoint(-4, -2), 5, QRectF(2820, 1110, 2460, 1230), "TLHW", fdiag};
+        QTest::newRow("top-right")
+            << MouseRow{3, QPoint(6, -2), 2, QRectF(3120, 1200, 2340, 1140), "THW", bdiag};
+        QTest::newRow("bottom-right-grows-both")
+            << MouseRow{8, QPoint(5, 3), 4, QRectF(3120, 1260, 2460, 1260), "HW", fdiag};
+        QTest::newRow("bottom-centre-height-only")
+            << MouseRow{7, QPoint(7, 4), 3, QRectF(3120, 1260, 2160, 1260), "H", ver};
+        // Where the edges stop while the mouse goes on: the width stays above 50,
+        // the right edge more than 50 inside, the top at 50 or more.
+        QTest::newRow("left-stops-above-50-wide")
+            << MouseRow{4, QPoint(10, 0), 20, QRectF(5220, 1260, 60, 1080), "LW", hor};
+        QTest::newRow("right-stops-short-of-the-edge")
+            << MouseRow{5, QPoint(10, 0), 20, QRectF(3120, 1260, 3660, 1080), "W", hor};
+        QTest::newRow("top-stops-at-keep-out")
+            << MouseRow{2, QPoint(0, -5), 20, QRectF(3120, 60, 2160, 2280), "TH", ver};
+    }
+
+    void mouseLayout()
+    {
+        QFETCH(MouseRow, row);
+
+        Editor e;
+        // A control array is found by its name: every member carries it.
+        for (const auto &[name, size] : {std::pair{"item", 5},
+                                         {"dot", 8},
+                                         {"edit_txt", 3},
+                                         {"format_justify_mnu", 4},
+                                         {"display_item_mnu", 5}})
+            QCOMPARE(e.form.findChildren<QObject *>(QLatin1String(name)).size(), size);
+        QCOMPARE(e.form.twipsPerPixel(), 15.0);
+        QCOMPARE(e.item(1)->geometry(), QRect(208, 84, 144, 72));
+        // Texts that are no number move nothing; a refresh replaces them.
+        for (int f = 0; f < 4; ++f)
+            e.field(f)->setText(QStringLiteral("."));
+        if (row.handle) {
+            QCOMPARE(e.dot(row.handle)->size(), QSize(6, 6));
+            QCOMPARE(int(e.dot(row.handle)->cursor().shape()), row.cursor);
+            e.drag(e.dot(row.handle)->pos(), row.step, row.steps);
+        } else {
+            e.drag(QPoint(218, 94), row.step, row.steps);
+        }
+        QCOMPARE(e.form.itemBox(1), row.box);
+        QCOMPARE(e.item(1)->geometry(),
+                 QRect(pixels(row.box.topLeft()), (row.box.size() / 15).toSize()));
+        QCOMPARE(e.form.currentItem(), 1);
+        QVERIFY(e.dot(8)->isVisible());
+        QCOMPARE(e.dot(8)->pos(), pixels(row.box.bottomRight() - QPointF(45, 45)));
+        for (int f = 0; f < 4; ++f) {
+            const bool wanted = row.refreshed.contains(QStringLiteral("TLHW")[f]);
+            QCOMPARE(e.field(f)->text(), wanted ? DisplayTwipsToText(e.values(1)[size_t(f)], 0.5f)
+                                                : QStringLiteral("."));
+        }
+    }
+
+    void fields_data()
+    {
+        QTest::addColumn<FieldRow>("row");
+        // Typed after the field's text was selected; "+" and "-" are the Up and
+        // Down keys, "^" and "v" clicks on the stepper's arrows.
+
+        const auto row = [](const char *tag, int field, const char *keys, const char *text,
+                            int beeps, int value) {
+            QTest::newRow(tag) << FieldRow{field, QString::fromLatin1(keys),
+                                           QString::fromLatin1(text), beeps, value};
+        };
+        row("above-room-becomes-bound", 1, "9", "6.5", 0, 4680);
+        row("bound-as-the-field-shows-it", 0, "3", "2.63", 0, 1894);
+        // Every key leaves the text as "#0.##" shows it: "1.0" becomes "1.".
+        row("each-key-rewrites-the-number", 2, "1.05", "1.5", 0, 1080);
+        row("second-point-continues", 1, "1.2.3", "1.23", 0, 886);
+        row("arrows-step-0.03", 0, "1.75^^", "1.81", 0, 1303);
+        row("keys-step-down", 1, "4.33---", "4.24", 0, 3053);
+        row("floor-0-beeps", 2, "0.1vvvvv", "0.", 2, 0);
+        row("ceiling-is-room-right-beeps", 3, "5.1++++", "5.17", 2, 3722);
+    }
+
+    void fields()
+    {
+        QFETCH(FieldRow, row);
+
+        Editor e;
+        QLineEdit *edit = e.field(row.field);
+        auto *stepper = e.child<QScrollBar>(FieldNames[row.field] + QLatin1String("_scr"));
+        QTest::mouseClick(edit, Qt::LeftButton);
+        QTRY_COMPARE(edit->selectedText(), edit->text());
+        for (QChar c : row.keys) {
+            if (c == u'+' || c == u'-')
+                QTest::keyClick(edit, c == u'+' ? Qt::Key_Up : Qt::Key_Down);
+            else if (c == u'^' || c == u'v')
+                QTest::mouseClick(
+                    stepper, Qt::LeftButton, {},
+                    QPoint(stepper->width() / 2, c == u'^' ? 2 : stepper->height() - 3));
+            else
+                QTest::keyClicks(edit, QString(c));
+            QCOMPARE(stepper->value(), 0);
+        }
+        QCOMPARE(edit->text(), row.text);
+        QCOMPARE(m_host->beeps, row.beeps);
+        QCOMPARE(qRound(e.values(1)[size_t(row.field)]), row.value);
+        QCOMPARE(e.dot(1)->pos(), pixels(e.form.itemBox(1).topLeft() - QPointF(45, 45)));
+    }
+
+    void modifyInPlace_data()
+    {
+        QTest::addColumn<ModifyRow>("row");
+
+        QTest::newRow("left-item-by-menu") << ModifyRow{1, "", false, 0};
+        QTest::newRow("centred-item-by-double-click") << ModifyRow{2, "", true, 2};
+        QTest::newRow("right-justified-item") << ModifyRow{1, "2", false, 1};
+    }
+
+    void modifyInPlace()
+    {
+        QFETCH(ModifyRow, row);
+
+        Editor e;
+        QLabel *label = e.item(row.item);
+        e.click(row.item);
+        if (!row.justify.isEmpty())
+            e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_justify_mnu"),
+                     row.justify.toInt());
+        if (row.doubleClick)
+            QTest::mouseDClick(e.frame, Qt::LeftButton, {},
+                               label->geometry().topLeft() + QPoint(5, 5));
+        else
+            e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_modify_mnu"));
+
+        auto *box = member<QTextEdit>(&e.form, QStringLiteral("edit_txt"), row.editor);
+        QTRY_VERIFY(box->hasFocus());
+        QCOMPARE(box->geometry(), label->geometry());
+        QCOMPARE(box->font(), label->font());
+        QVERIFY(!e.dot(1)->isVisible());
+        // Typing replaces the selected text and shows in the label at once.
+        QTRY_COMPARE(box->textCursor().selectedText(), label->text());
+        QTest::keyClicks(box, QStringLiteral("ACME"));
+        QCOMPARE(label->text(), QStringLiteral("ACME"));
+        QTest::keyClick(box, Qt::Key_Return);
+        QTest::keyClicks(box, QStringLiteral("Main St"));
+        QCOMPARE(label->text(), QStringLiteral("ACME\nMain St"));
+        // Leaving the box hides it; the row.item breaks lines as the print run reads them.
+        e.field(0)->setFocus();
+        QTRY_VERIFY(!box->isVisible());
+        QCOMPARE(e.result()[size_t(row.item - 1)].Text, QStringLiteral("ACME\r\nMain St"));
+    }
+
+    void zOrder_data()
+    {
+        QTest::addColumn<QStringList>("commands"); // on the address
+        QTest::addColumn<int>("clicked");          // the item a click in the overlap takes
+        QTest::addColumn<int>(
+            "atCorner"); // what shows at the address's bottom-right handle: 0 the handle
+
+        QTest::newRow("send-to-back-buries-handles-too")
+            << QStringList{"edit_send_to_back_mnu"} << 4 << 4;
+        QTest::newRow("bring-to-front-raises-item-and-handles")
+            << QStringList{"edit_send_to_back_mnu", "edit_bring_to_front_mnu"} << 1 << 0;
+    }
+
+    void zOrder()
+    {
+        QFETCH(QStringList, commands);
+        QFETCH(int, clicked);
+        QFETCH(int, atCorner);
+
+        // Message 1 overlaps the address's bottom-right part.
+        std::array<Item, ItemCount> items = envelopeItems();
+        items[3].Left = 6.0f;
+        items[3].Top = 2.5f;
+        Editor e(items);
+        for (const QString &command : commands)
+            e.choose(QStringLiteral("edit_mnu"), command);
+        QCOMPARE(e.frame->childAt(e.dot(8)->geometry().center()),
+                 atCorner ? static_cast<QWidget *>(e.item(atCorner)) : e.dot(8));
+        // The handles stay above the address itself: its top-left one covers no other item.
+        QCOMPARE(e.frame->childAt(e.dot(1)->geometry().bottomRight()), e.dot(1));
+        QTest::mouseClick(e.frame, Qt::LeftButton, {}, pixels(QPointF(4500, 2000)));
+        QCOMPARE(e.form.currentItem(), clicked);
+    }
+
+    void formatMenu_data()
+    {
+        QTest::addColumn<FormatRow>("row");
+
+        const int left = Qt::AlignLeft;
+        const qint16 none = 0;
+        QTest::newRow("second-entry-centres") << FormatRow{
+            1, int(haLeft), none, "1", int(Qt::AlignHCenter), int(haCenter), none, "1"};
+        QTest::newRow("third-entry-right")
+            << FormatRow{1, int(haLeft), none, "2", int(Qt::AlignRight), int(haRight), none, "2"};
+        QTest::newRow("full-changes-nothing-stays-checked") << FormatRow{
+            2, int(haCenter), none, "3", int(Qt::AlignHCenter), int(haCenter), none, "13"};
+        // The label draws it from the left: the menu ticks Left Justify.
+        QTest::newRow("fully-justified-item-ticks-left")
+            << FormatRow{1, int(haFull), none, "", int(Qt::AlignJustify), int(haFull), none, "0"};
+        QTest::newRow("borders-on")
+            << FormatRow{1, int(haLeft), none, "B", left, int(haLeft), qint16(1), "0B"};
+        QTest::newRow("untouched-border-kept")
+            << FormatRow{1, int(haLeft), qint16(2), "", left, int(haLeft), qint16(2), "0B"};
+        // A right click selects the item and opens the menu at the mouse.
+        QTest::newRow("right-click")
+            << FormatRow{4, int(haLeft), none, "right-click", left, int(haLeft), none, "0"};
+    }
+
+    void formatMenu()
+    {
+        QFETCH(FormatRow, row);
+
+        std::array<Item, ItemCount> items = envelopeItems();
+        items[size_t(row.item - 1)].HorzAlign = eHorzAlign(row.align);
+        items[size_t(row.item - 1)].Border = row.border;
+        Editor e(items);
+        const QRectF before = e.form.itemBox(row.item);
+        auto *format = e.child<QMenu>(QStringLiteral("format_mnu"));
+        if (row.command == QLatin1String("right-click")) {
+            const QPoint at = e.item(row.item)->geometry().center();
+            QTest::mousePress(e.frame, Qt::RightButton, {}, at);
+            QTRY_VERIFY(format->isVisible());
+            QCOMPARE(format->geometry().topLeft(), e.frame->mapToGlobal(at));
+            QCOMPARE(e.child<QLabel>(QStringLiteral("item_lbl"))->text(),
+                     QStringLiteral("Message 1"));
+        } else {
+            e.click(row.item);
+            if (row.command == QLatin1String("B"))
+                e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_borders_mnu"));
+            else if (!row.command.isEmpty())
+                e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_justify_mnu"),
+                         row.command.toInt());
+            format->popup(QPoint(0, 0));
+        }
+        QCOMPARE(e.form.currentItem(), row.item);
+        QVERIFY(e.dot(1)->isVisible());
+        QString shown;
+        for (int i = 0; i < 4; ++i) {
+            if (e.entry("format_justify_mnu", i)->isChecked())
+                shown += QString::number(i);
+        }
+        if (e.child<QAction>(QStringLiteral("format_borders_mnu"))->isChecked())
+            shown += u'B';
+        QCOMPARE(shown, row.checked);
+        QTest::keyClick(format, Qt::Key_Escape);
+        QTRY_VERIFY(!format->isVisible());
+        if (row.command == QLatin1String("right-click"))
+            QTest::mouseRelease(e.frame, Qt::RightButton, {},
+                                e.item(row.item)->geometry().center());
+
+        QCOMPARE(e.form.itemBox(row.item), before); // no click moves an row.item
+        QCOMPARE(int(e.item(row.item)->alignment() & Qt::AlignHorizontal_Mask), row.alignment);
+        QCOMPARE(e.item(row.item)->frameShape(), row.written ? QFrame::Box : QFrame::NoFrame);
+        const Item result = e.result()[size_t(row.item - 1)];
+        QCOMPARE(int(result.HorzAlign), row.horzAlign);
+        QCOMPARE(result.Border, row.written);
+    }
+
+    void fontKeepsTrueSize_data()
+    {
+        QTest::addColumn<FontRow>("row");
+
+        QTest::newRow("ten-points-at-0.74") << FontRow{0.74f, true, "10", 8.3999};
+        QTest::newRow("cancel-keeps-font") << FontRow{0.5f, false, "12", 6.9999};
+    }
+
+    void fontKeepsTrueSize()
+    {
+        QFETCH(FontRow, row);
+
+        std::array<Item, ItemCount> items = envelopeItems();
+        items[1].Font.Size = 12;
+        QFont offered;
+        m_host->fontChoice = [&](QFont &font) {
+            offered = font;
+            font = QFont(QStringLiteral("DejaVu Serif"));
+            font.setPointSizeF(10);
+            font.setItalic(true);
+            font.setStrikeOut(true);
+            return row.chosen;
+        };
+        Editor e(items, row.scale);
+        e.click(2);
+        e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_font_mnu"));
+        // The dialog is offered the true size, not the one on the screen.
+        QCOMPARE(offered.pointSizeF(), 12.0);
+        QCOMPARE(e.item(2)->property("Tag").toString(), row.tag);
+        QVERIFY(qAbs(e.item(2)->font().pointSizeF() - row.shownSize) < 1e-4);
+        const ItemFont font = e.result()[1].Font;
+        QCOMPARE(font.Size, row.tag.toDouble());
+        QCOMPARE(font.Name, row.chosen ? QStringLiteral("DejaVu Serif") : QStringLiteral("Arial"));
+        QCOMPARE(font.Italic, row.chosen);
+        QCOMPARE(font.Strikethrough, row.chosen);
+    }
+
+    void display_data()
+    {
+        QTest::addColumn<DisplayRow>("row");
+
+        QTest::newRow("hiding-selected-selects-first-visible")
+            << DisplayRow{QList<int>{1}, "01111", 2, QSize(1440, 792)};
+        QTest::newRow("only-the-last-left-is-selected")
+            << DisplayRow{QList<int>{1, 2, 3, 4}, "00001", 5, QSize(1080, 360)};
+        QTest::newRow("hiding-all-selects-none")
+            << DisplayRow{QList<int>{1, 2, 3, 4, 5}, "00000", 0, QSize()};
+        QTest::newRow("shown-again-is-at-least-700")
+            << DisplayRow{QList<int>{5, 5}, "11111", 5, QSize(1080, 700)};
+    }
+
+    void display()
+    {
+        QFETCH(DisplayRow, row);
+
+        Editor e;
+        for (int entry : row.toggles)
+            e.choose(QStringLiteral("display_mnu"), QStringLiteral("display_item_mnu"), entry);
+        QString shown;
+        for (int i = 1; i <= ItemCount; ++i)
+            shown += e.item(i)->isVisible() ? u'1' : u'0';
+        QCOMPARE(shown, row.visible);
+        QCOMPARE(e.form.currentItem(), row.current);
+        QCOMPARE(e.dot(1)->isVisible(), row.current != 0);
+        if (row.current) {
+            QCOMPARE(e.form.itemBox(row.current).size().toSize(), row.size);
+            QCOMPARE(e.dot(1)->pos(),
+                     pixels(e.form.itemBox(row.current).topLeft() - QPointF(45, 45)));
+        }
+        for (int i = 0; i < ItemCount; ++i)
+            QCOMPARE(e.result()[size_t(i)].Visible, row.visible[i] == u'1');
+    }
+
+    void defaultAndClear()
+    {
+        Editor e;
+        e.click(2);
+        e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_clear_mnu"));
+        QCOMPARE(e.item(2)->text(), QString());
+        QCOMPARE(e.result()[1].Text, QString());
+        e.drag(QPoint(218, 94), QPoint(-5, 3), 4);
+        QCOMPARE(e.form.itemBox(1).topLeft(), QPointF(2820, 1440));
+
+        e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_default_mnu"));
+        QCOMPARE(e.form.itemBox(1).topLeft().toPoint(), QPoint(3120, 1260));
+        QCOMPARE(e.item(2)->text(), QStringLiteral("Return Address"));
+        QCOMPARE(e.form.currentItem(), 1);
+        QCOMPARE(e.dot(1)->pos(), QPoint(205, 81));
+
+        // OK, then shown again: the outcome is cleared until OK is pressed again.
+        QTest::mouseClick(e.child(QStringLiteral("ok_btn")), Qt::LeftButton);
+        QVERIFY(e.form.dataWasAccepted() && !e.form.isVisible());
+        e.form.show();
+        QVERIFY(!e.form.dataWasAccepted());
+    }
+
+    void modalResult_data()
+    {
+        QTest::addColumn<QString>("closeWith");
+        QTest::addColumn<bool>("dragFirst");
+        QTest::addColumn<bool>("accepted");
+
+        QTest::newRow("ok-untouched-writes-back-exactly") << "ok_btn" << false << true;
+        QTest::newRow("ok-after-drag") << "ok_btn" << true << true;
+        QTest::newRow("cancel-after-drag") << "cancel_btn" << true << false;
+        QTest::newRow("escape-after-drag") << "escape" << true << false;
+    }
+
+    void modalResult()
+    {
+        QFETCH(QString, closeWith);
+        QFETCH(bool, dragFirst);
+        QFETCH(bool, accepted);
+
+        const std::array<Item, ItemCount> original = envelopeItems();
+        ModalDriver driver;
+        QPointF dropped;
+        float scale = 0;
+        driver.onModal(QStringLiteral("piece_layout_edit_form"), [&](QDialog *dialog) {
+            auto *form = static_cast<piece_layout_edit_form *>(dialog);
+            auto *frame = form->findChild<QWidget *>(QStringLiteral("piece_frame"));
+            scale = form->displayScale();
+            if (dragFirst) {
+                const QPoint from =
+                    member<QLabel>(form, QStringLiteral("item"), 1)->pos() + QPoint(4, 4);
+                QTest::mousePress(frame, Qt::LeftButton, {}, from);
+                QTest::mouseMove(frame, from + QPoint(-30, 10));
+                QTest::mouseRelease(frame, Qt::LeftButton, {}, from + QPoint(-30, 10));
+            }
+            dropped = form->itemBox(1).topLeft();
+            ModalDriver::close(dialog, closeWith);
+        });
+        std::array<Item, ItemCount> items = original;
+        QCOMPARE(EditPieceLayout(nullptr, 9.5f, 4.125f, items), accepted);
+        QCOMPARE(driver.actionsRun(), 1);
+        QVERIFY(!driver.watchdogFired());
+        // Fitted to the screen: the offscreen one is 800 pixels (12000 twips)
+        // wide, which takes (1680 + 360) / 13680 off; one of 912 pixels or more
+        // holds the envelope at full size.
+        const int screenWidth = QGuiApplication::primaryScreen()->availableGeometry().width();
+        if (screenWidth == 800)
+            QCOMPARE(scale, 0.85f);
+        else if (screenWidth >= 912)
+            QCOMPARE(scale, 1.0f);
+
+        std::array<Item, ItemCount> expected = original;
+        if (accepted && dragFirst) {
+            expected[0].Left = float(dropped.x() / scale / 1440);
+            expected[0].Top = float(dropped.y() / scale / 1440);
+            QVERIFY(expected[0].Left < original[0].Left);
+        }
+        for (int i = 0; i < ItemCount; ++i)
+            QVERIFY2(items[size_t(i)] == expected[size_t(i)], qPrintable(QString::number(i)));
+    }
 
 private:
     std::optional<HostRecorder> m_host;
 };
-
-void TestPieceLayoutEditForm::init()
-{
-    m_host.emplace();
-}
-
-void TestPieceLayoutEditForm::cleanup()
-{
-    m_host.reset();
-    verifyNoWindowLeft();
-}
-
-void TestPieceLayoutEditForm::mouseLayout_data()
-{
-    QTest::addColumn<int>("handle");  // 0: the address itself
-    QTest::addColumn<QPoint>("step"); // pixels
-    QTest::addColumn<int>("steps");
-    QTest::addColumn<QRectF>("box");
-    QTest::addColumn<QString>("refreshed"); // fields by initial: Top, Left, Height, Width
-    QTest::addColumn<int>("cursor");
-
-    const int fdiag = Qt::SizeFDiagCursor;
-    const int bdiag = Qt::SizeBDiagCursor;
-    const int ver = Qt::SizeVerCursor;
-    const int hor = Qt::SizeHorCursor;
-    QTest::newRow("drag-follows-the-mouse")
-        << 0 << QPoint(3, -2) << 10 << QRectF(3570, 960, 2160, 1080) << "TLHW" << 0;
-    QTest::newRow("drag-past-top-left-keeps-50")
-        << 0 << QPoint(-21, -9) << 10 << QRectF(50, 50, 2160, 1080) << "TLHW" << 0;
-    QTest::newRow("drag-past-right-keeps-50")
-        << 0 << QPoint(11, 1) << 10 << QRectF(4630, 1410, 2160, 1080) << "TLHW" << 0;
-    // Pressed at a handle's corner: the corner follows the mouse.
-    QTest::newRow("top-left-moves-both-edges")
-        << 1 << QPoint(-4, -2) << 5 << QRectF(2820, 1110, 2460, 1230) << "TLHW" << fdiag;
-    QTest::newRow("top-right") << 3 << QPoint(6, -2) << 2 << QRectF(3120, 1200, 2340, 1140) << "THW"
-                               << bdiag;
-    QTest::newRow("bottom-right-grows-both")
-        << 8 << QPoint(5, 3) << 4 << QRectF(3120, 1260, 2460, 1260) << "HW" << fdiag;
-    QTest::newRow("bottom-centre-height-only")
-        << 7 << QPoint(7, 4) << 3 << QRectF(3120, 1260, 2160, 1260) << "H" << ver;
-    // Where the edges stop while the mouse goes on: the width stays above 50,
-    // the right edge more than 50 inside, the top at 50 or more.
-    QTest::newRow("left-stops-above-50-wide")
-        << 4 << QPoint(10, 0) << 20 << QRectF(5220, 1260, 60, 1080) << "LW" << hor;
-    QTest::newRow("right-stops-short-of-the-edge")
-        << 5 << QPoint(10, 0) << 20 << QRectF(3120, 1260, 3660, 1080) << "W" << hor;
-    QTest::newRow("top-stops-at-keep-out")
-        << 2 << QPoint(0, -5) << 20 << QRectF(3120, 60, 2160, 2280) << "TH" << ver;
-}
-
-void TestPieceLayoutEditForm::mouseLayout()
-{
-    QFETCH(int, handle);
-    QFETCH(QPoint, step);
-    QFETCH(int, steps);
-    QFETCH(QRectF, box);
-    QFETCH(QString, refreshed);
-    QFETCH(int, cursor);
-
-    Editor e;
-    // A control array is found by its name: every member carries it.
-    for (const auto &[name, size] : {std::pair{"item", 5},
-                                     {"dot", 8},
-                                     {"edit_txt", 3},
-                                     {"format_justify_mnu", 4},
-                                     {"display_item_mnu", 5}})
-        QCOMPARE(e.form.findChildren<QObject *>(QLatin1String(name)).size(), size);
-    QCOMPARE(e.form.twipsPerPixel(), 15.0);
-    QCOMPARE(e.item(1)->geometry(), QRect(208, 84, 144, 72));
-    // Texts that are no number move nothing; a refresh replaces them.
-    for (int f = 0; f < 4; ++f)
-        e.field(f)->setText(QStringLiteral("."));
-    if (handle) {
-        QCOMPARE(e.dot(handle)->size(), QSize(6, 6));
-        QCOMPARE(int(e.dot(handle)->cursor().shape()), cursor);
-        e.drag(e.dot(handle)->pos(), step, steps);
-    } else {
-        e.drag(QPoint(218, 94), step, steps);
-    }
-    QCOMPARE(e.form.itemBox(1), box);
-    QCOMPARE(e.item(1)->geometry(), QRect(pixels(box.topLeft()), (box.size() / 15).toSize()));
-    QCOMPARE(e.form.currentItem(), 1);
-    QVERIFY(e.dot(8)->isVisible());
-    QCOMPARE(e.dot(8)->pos(), pixels(box.bottomRight() - QPointF(45, 45)));
-    for (int f = 0; f < 4; ++f) {
-        const bool wanted = refreshed.contains(QStringLiteral("TLHW")[f]);
-        QCOMPARE(e.field(f)->text(),
-                 wanted ? DisplayTwipsToText(e.values(1)[size_t(f)], 0.5f) : QStringLiteral("."));
-    }
-}
-
-void TestPieceLayoutEditForm::fields_data()
-{
-    QTest::addColumn<int>("field"); // top, left, height, width
-    // Typed after the field's text was selected; "+" and "-" are the Up and
-    // Down keys, "^" and "v" clicks on the stepper's arrows.
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("beeps");
-    QTest::addColumn<int>("value"); // display twips, rounded
-
-    const auto row = [](const char *tag, int field, const char *keys, const char *text, int beeps,
-                        int value) {
-        QTest::newRow(tag) << field << QString::fromLatin1(keys) << QString::fromLatin1(text)
-                           << beeps << value;
-    };
-    row("above-room-becomes-bound", 1, "9", "6.5", 0, 4680);
-    row("bound-as-the-field-shows-it", 0, "3", "2.63", 0, 1894);
-    // Every key leaves the text as "#0.##" shows it: "1.0" becomes "1.".
-    row("each-key-rewrites-the-number", 2, "1.05", "1.5", 0, 1080);
-    row("second-point-continues", 1, "1.2.3", "1.23", 0, 886);
-    row("arrows-step-0.03", 0, "1.75^^", "1.81", 0, 1303);
-    row("keys-step-down", 1, "4.33---", "4.24", 0, 3053);
-    row("floor-0-beeps", 2, "0.1vvvvv", "0.", 2, 0);
-    row("ceiling-is-room-right-beeps", 3, "5.1++++", "5.17", 2, 3722);
-}
-
-void TestPieceLayoutEditForm::fields()
-{
-    QFETCH(int, field);
-    QFETCH(QString, keys);
-    QFETCH(QString, text);
-    QFETCH(int, beeps);
-    QFETCH(int, value);
-
-    Editor e;
-    QLineEdit *edit = e.field(field);
-    auto *stepper = e.child<QScrollBar>(FieldNames[field] + QLatin1String("_scr"));
-    QTest::mouseClick(edit, Qt::LeftButton);
-    QTRY_COMPARE(edit->selectedText(), edit->text());
-    for (QChar c : keys) {
-        if (c == u'+' || c == u'-')
-            QTest::keyClick(edit, c == u'+' ? Qt::Key_Up : Qt::Key_Down);
-        else if (c == u'^' || c == u'v')
-            QTest::mouseClick(stepper, Qt::LeftButton, {},
-                              QPoint(stepper->width() / 2, c == u'^' ? 2 : stepper->height() - 3));
-        else
-            QTest::keyClicks(edit, QString(c));
-        QCOMPARE(stepper->value(), 0);
-    }
-    QCOMPARE(edit->text(), text);
-    QCOMPARE(m_host->beeps, beeps);
-    QCOMPARE(qRound(e.values(1)[size_t(field)]), value);
-    QCOMPARE(e.dot(1)->pos(), pixels(e.form.itemBox(1).topLeft() - QPointF(45, 45)));
-}
-
-void TestPieceLayoutEditForm::modifyInPlace_data()
-{
-    QTest::addColumn<int>("item");
-    QTest::addColumn<QString>("justify"); // chosen first, if any
-    QTest::addColumn<bool>("doubleClick");
-    QTest::addColumn<int>("editor");
-
-    QTest::newRow("left-item-by-menu") << 1 << "" << false << 0;
-    QTest::newRow("centred-item-by-double-click") << 2 << "" << true << 2;
-    QTest::newRow("right-justified-item") << 1 << "2" << false << 1;
-}
-
-void TestPieceLayoutEditForm::modifyInPlace()
-{
-    QFETCH(int, item);
-    QFETCH(QString, justify);
-    QFETCH(bool, doubleClick);
-    QFETCH(int, editor);
-
-    Editor e;
-    QLabel *label = e.item(item);
-    e.click(item);
-    if (!justify.isEmpty())
-        e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_justify_mnu"),
-                 justify.toInt());
-    if (doubleClick)
-        QTest::mouseDClick(e.frame, Qt::LeftButton, {}, label->geometry().topLeft() + QPoint(5, 5));
-    else
-        e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_modify_mnu"));
-
-    auto *box = member<QTextEdit>(&e.form, QStringLiteral("edit_txt"), editor);
-    QTRY_VERIFY(box->hasFocus());
-    QCOMPARE(box->geometry(), label->geometry());
-    QCOMPARE(box->font(), label->font());
-    QVERIFY(!e.dot(1)->isVisible());
-    // Typing replaces the selected text and shows in the label at once.
-    QTRY_COMPARE(box->textCursor().selectedText(), label->text());
-    QTest::keyClicks(box, QStringLiteral("ACME"));
-    QCOMPARE(label->text(), QStringLiteral("ACME"));
-    QTest::keyClick(box, Qt::Key_Return);
-    QTest::keyClicks(box, QStringLiteral("Main St"));
-    QCOMPARE(label->text(), QStringLiteral("ACME\nMain St"));
-    // Leaving the box hides it; the item breaks lines as the print run reads them.
-    e.field(0)->setFocus();
-    QTRY_VERIFY(!box->isVisible());
-    QCOMPARE(e.result()[size_t(item - 1)].Text, QStringLiteral("ACME\r\nMain St"));
-}
-
-void TestPieceLayoutEditForm::zOrder_data()
-{
-    QTest::addColumn<QStringList>("commands"); // on the address
-    QTest::addColumn<int>("clicked");          // the item a click in the overlap takes
-    QTest::addColumn<int>(
-        "atCorner"); // what shows at the address's bottom-right handle: 0 the handle
-
-    QTest::newRow("send-to-back-buries-handles-too")
-        << QStringList{"edit_send_to_back_mnu"} << 4 << 4;
-    QTest::newRow("bring-to-front-raises-item-and-handles")
-        << QStringList{"edit_send_to_back_mnu", "edit_bring_to_front_mnu"} << 1 << 0;
-}
-
-void TestPieceLayoutEditForm::zOrder()
-{
-    QFETCH(QStringList, commands);
-    QFETCH(int, clicked);
-    QFETCH(int, atCorner);
-
-    // Message 1 overlaps the address's bottom-right part.
-    std::array<Item, ItemCount> items = envelopeItems();
-    items[3].Left = 6.0f;
-    items[3].Top = 2.5f;
-    Editor e(items);
-    for (const QString &command : commands)
-        e.choose(QStringLiteral("edit_mnu"), command);
-    QCOMPARE(e.frame->childAt(e.dot(8)->geometry().center()),
-             atCorner ? static_cast<QWidget *>(e.item(atCorner)) : e.dot(8));
-    // The handles stay above the address itself: its top-left one covers no other item.
-    QCOMPARE(e.frame->childAt(e.dot(1)->geometry().bottomRight()), e.dot(1));
-    QTest::mouseClick(e.frame, Qt::LeftButton, {}, pixels(QPointF(4500, 2000)));
-    QCOMPARE(e.form.currentItem(), clicked);
-}
-
-void TestPieceLayoutEditForm::formatMenu_data()
-{
-    QTest::addColumn<int>("item");
-    QTest::addColumn<int>("align");       // the item's own
-    QTest::addColumn<qint16>("border");   // the item's own
-    QTest::addColumn<QString>("command"); // a justify entry's index, "B" borders, or a right click
-    QTest::addColumn<int>("alignment");   // the label's, horizontally
-    QTest::addColumn<int>("horzAlign");   // written back
-    QTest::addColumn<qint16>("written");  // border written back
-    QTest::addColumn<QString>("checked"); // the menu's checks when opened again
-
-    const int left = Qt::AlignLeft;
-    const qint16 none = 0;
-    QTest::newRow("second-entry-centres")
-        << 1 << int(haLeft) << none << "1" << int(Qt::AlignHCenter) << int(haCenter) << none << "1";
-    QTest::newRow("third-entry-right")
-        << 1 << int(haLeft) << none << "2" << int(Qt::AlignRight) << int(haRight) << none << "2";
-    QTest::newRow("full-changes-nothing-stays-checked")
-        << 2 << int(haCenter) << none << "3" << int(Qt::AlignHCenter) << int(haCenter) << none
-        << "13";
-    // The label draws it from the left: the menu ticks Left Justify.
-    QTest::newRow("fully-justified-item-ticks-left")
-        << 1 << int(haFull) << none << "" << int(Qt::AlignJustify) << int(haFull) << none << "0";
-    QTest::newRow("borders-on") << 1 << int(haLeft) << none << "B" << left << int(haLeft)
-                                << qint16(1) << "0B";
-    QTest::newRow("untouched-border-kept")
-        << 1 << int(haLeft) << qint16(2) << "" << left << int(haLeft) << qint16(2) << "0B";
-    // A right click selects the item and opens the menu at the mouse.
-    QTest::newRow("right-click") << 4 << int(haLeft) << none << "right-click" << left << int(haLeft)
-                                 << none << "0";
-}
-
-void TestPieceLayoutEditForm::formatMenu()
-{
-    QFETCH(int, item);
-    QFETCH(int, align);
-    QFETCH(qint16, border);
-    QFETCH(QString, command);
-    QFETCH(int, alignment);
-    QFETCH(int, horzAlign);
-    QFETCH(qint16, written);
-    QFETCH(QString, checked);
-
-    std::array<Item, ItemCount> items = envelopeItems();
-    items[size_t(item - 1)].HorzAlign = eHorzAlign(align);
-    items[size_t(item - 1)].Border = border;
-    Editor e(items);
-    const QRectF before = e.form.itemBox(item);
-    auto *format = e.child<QMenu>(QStringLiteral("format_mnu"));
-    if (command == QLatin1String("right-click")) {
-        const QPoint at = e.item(item)->geometry().center();
-        QTest::mousePress(e.frame, Qt::RightButton, {}, at);
-        QTRY_VERIFY(format->isVisible());
-        QCOMPARE(format->geometry().topLeft(), e.frame->mapToGlobal(at));
-        QCOMPARE(e.child<QLabel>(QStringLiteral("item_lbl"))->text(), QStringLiteral("Message 1"));
-    } else {
-        e.click(item);
-        if (command == QLatin1String("B"))
-            e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_borders_mnu"));
-        else if (!command.isEmpty())
-            e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_justify_mnu"),
-                     command.toInt());
-        format->popup(QPoint(0, 0));
-    }
-    QCOMPARE(e.form.currentItem(), item);
-    QVERIFY(e.dot(1)->isVisible());
-    QString shown;
-    for (int i = 0; i < 4; ++i) {
-        if (e.entry("format_justify_mnu", i)->isChecked())
-            shown += QString::number(i);
-    }
-    if (e.child<QAction>(QStringLiteral("format_borders_mnu"))->isChecked())
-        shown += u'B';
-    QCOMPARE(shown, checked);
-    QTest::keyClick(format, Qt::Key_Escape);
-    QTRY_VERIFY(!format->isVisible());
-    if (command == QLatin1String("right-click"))
-        QTest::mouseRelease(e.frame, Qt::RightButton, {}, e.item(item)->geometry().center());
-
-    QCOMPARE(e.form.itemBox(item), before); // no click moves an item
-    QCOMPARE(int(e.item(item)->alignment() & Qt::AlignHorizontal_Mask), alignment);
-    QCOMPARE(e.item(item)->frameShape(), written ? QFrame::Box : QFrame::NoFrame);
-    const Item result = e.result()[size_t(item - 1)];
-    QCOMPARE(int(result.HorzAlign), horzAlign);
-    QCOMPARE(result.Border, written);
-}
-
-void TestPieceLayoutEditForm::fontKeepsTrueSize_data()
-{
-    QTest::addColumn<float>("scale");
-    QTest::addColumn<bool>("chosen"); // false: the font dialog was cancelled
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<double>("shownSize");
-
-    QTest::newRow("ten-points-at-0.74") << 0.74f << true << "10" << 8.3999;
-    QTest::newRow("cancel-keeps-font") << 0.5f << false << "12" << 6.9999;
-}
-
-void TestPieceLayoutEditForm::fontKeepsTrueSize()
-{
-    QFETCH(float, scale);
-    QFETCH(bool, chosen);
-    QFETCH(QString, tag);
-    QFETCH(double, shownSize);
-
-    std::array<Item, ItemCount> items = envelopeItems();
-    items[1].Font.Size = 12;
-    QFont offered;
-    m_host->fontChoice = [&](QFont &font) {
-        offered = font;
-        font = QFont(QStringLiteral("DejaVu Serif"));
-        font.setPointSizeF(10);
-        font.setItalic(true);
-        font.setStrikeOut(true);
-        return chosen;
-    };
-    Editor e(items, scale);
-    e.click(2);
-    e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_font_mnu"));
-    // The dialog is offered the true size, not the one on the screen.
-    QCOMPARE(offered.pointSizeF(), 12.0);
-    QCOMPARE(e.item(2)->property("Tag").toString(), tag);
-    QVERIFY(qAbs(e.item(2)->font().pointSizeF() - shownSize) < 1e-4);
-    const ItemFont font = e.result()[1].Font;
-    QCOMPARE(font.Size, tag.toDouble());
-    QCOMPARE(font.Name, chosen ? QStringLiteral("DejaVu Serif") : QStringLiteral("Arial"));
-    QCOMPARE(font.Italic, chosen);
-    QCOMPARE(font.Strikethrough, chosen);
-}
-
-void TestPieceLayoutEditForm::display_data()
-{
-    QTest::addColumn<QList<int>>("toggles"); // Display menu entries, in turn
-    QTest::addColumn<QString>("visible");    // items 1..5
-    QTest::addColumn<int>("current");
-    QTest::addColumn<QSize>("size"); // of the current item
-
-    QTest::newRow("hiding-selected-selects-first-visible")
-        << QList<int>{1} << "01111" << 2 << QSize(1440, 792);
-    QTest::newRow("only-the-last-left-is-selected")
-        << QList<int>{1, 2, 3, 4} << "00001" << 5 << QSize(1080, 360);
-    QTest::newRow("hiding-all-selects-none")
-        << QList<int>{1, 2, 3, 4, 5} << "00000" << 0 << QSize();
-    QTest::newRow("shown-again-is-at-least-700")
-        << QList<int>{5, 5} << "11111" << 5 << QSize(1080, 700);
-}
-
-void TestPieceLayoutEditForm::display()
-{
-    QFETCH(QList<int>, toggles);
-    QFETCH(QString, visible);
-    QFETCH(int, current);
-    QFETCH(QSize, size);
-
-    Editor e;
-    for (int entry : toggles)
-        e.choose(QStringLiteral("display_mnu"), QStringLiteral("display_item_mnu"), entry);
-    QString shown;
-    for (int i = 1; i <= ItemCount; ++i)
-        shown += e.item(i)->isVisible() ? u'1' : u'0';
-    QCOMPARE(shown, visible);
-    QCOMPARE(e.form.currentItem(), current);
-    QCOMPARE(e.dot(1)->isVisible(), current != 0);
-    if (current) {
-        QCOMPARE(e.form.itemBox(current).size().toSize(), size);
-        QCOMPARE(e.dot(1)->pos(), pixels(e.form.itemBox(current).topLeft() - QPointF(45, 45)));
-    }
-    for (int i = 0; i < ItemCount; ++i)
-        QCOMPARE(e.result()[size_t(i)].Visible, visible[i] == u'1');
-}
-
-void TestPieceLayoutEditForm::defaultAndClear()
-{
-    Editor e;
-    e.click(2);
-    e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_clear_mnu"));
-    QCOMPARE(e.item(2)->text(), QString());
-    QCOMPARE(e.result()[1].Text, QString());
-    e.drag(QPoint(218, 94), QPoint(-5, 3), 4);
-    QCOMPARE(e.form.itemBox(1).topLeft(), QPointF(2820, 1440));
-
-    e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_default_mnu"));
-    QCOMPARE(e.form.itemBox(1).topLeft().toPoint(), QPoint(3120, 1260));
-    QCOMPARE(e.item(2)->text(), QStringLiteral("Return Address"));
-    QCOMPARE(e.form.currentItem(), 1);
-    QCOMPARE(e.dot(1)->pos(), QPoint(205, 81));
-
-    // OK, then shown again: the outcome is cleared until OK is pressed again.
-    QTest::mouseClick(e.child(QStringLiteral("ok_btn")), Qt::LeftButton);
-    QVERIFY(e.form.dataWasAccepted() && !e.form.isVisible());
-    e.form.show();
-    QVERIFY(!e.form.dataWasAccepted());
-}
-
-void TestPieceLayoutEditForm::modalResult_data()
-{
-    QTest::addColumn<QString>("closeWith");
-    QTest::addColumn<bool>("dragFirst");
-    QTest::addColumn<bool>("accepted");
-
-    QTest::newRow("ok-untouched-writes-back-exactly") << "ok_btn" << false << true;
-    QTest::newRow("ok-after-drag") << "ok_btn" << true << true;
-    QTest::newRow("cancel-after-drag") << "cancel_btn" << true << false;
-    QTest::newRow("escape-after-drag") << "escape" << true << false;
-}
-
-void TestPieceLayoutEditForm::modalResult()
-{
-    QFETCH(QString, closeWith);
-    QFETCH(bool, dragFirst);
-    QFETCH(bool, accepted);
-
-    const std::array<Item, ItemCount> original = envelopeItems();
-    ModalDriver driver;
-    QPointF dropped;
-    float scale = 0;
-    driver.onModal(QStringLiteral("piece_layout_edit_form"), [&](QDialog *dialog) {
-        auto *form = static_cast<piece_layout_edit_form *>(dialog);
-        auto *frame = form->findChild<QWidget *>(QStringLiteral("piece_frame"));
-        scale = form->displayScale();
-        if (dragFirst) {
-            const QPoint from =
-                member<QLabel>(form, QStringLiteral("item"), 1)->pos() + QPoint(4, 4);
-            QTest::mousePress(frame, Qt::LeftButton, {}, from);
-            QTest::mouseMove(frame, from + QPoint(-30, 10));
-            QTest::mouseRelease(frame, Qt::LeftButton, {}, from + QPoint(-30, 10));
-        }
-        dropped = form->itemBox(1).topLeft();
-        ModalDriver::close(dialog, closeWith);
-    });
-    std::array<Item, ItemCount> items = original;
-    QCOMPARE(EditPieceLayout(nullptr, 9.5f, 4.125f, items), accepted);
-    QCOMPARE(driver.actionsRun(), 1);
-    QVERIFY(!driver.watchdogFired());
-    // Fitted to the screen: the offscreen one is 800 pixels (12000 twips)
-    // wide, which takes (1680 + 360) / 13680 off; one of 912 pixels or more
-    // holds the envelope at full size.
-    const int screenWidth = QGuiApplication::primaryScreen()->availableGeometry().width();
-    if (screenWidth == 800)
-        QCOMPARE(scale, 0.85f);
-    else if (screenWidth >= 912)
-        QCOMPARE(scale, 1.0f);
-
-    std::array<Item, ItemCount> expected = original;
-    if (accepted && dragFirst) {
-        expected[0].Left = float(dropped.x() / scale / 1440);
-        expected[0].Top = float(dropped.y() / scale / 1440);
-        QVERIFY(expected[0].Left < original[0].Left);
-    }
-    for (int i = 0; i < ItemCount; ++i)
-        QVERIFY2(items[size_t(i)] == expected[size_t(i)], qPrintable(QString::number(i)));
-}
 
 QTEST_MAIN(TestPieceLayoutEditForm)
 #include "tst_piece_layout_edit_form.moc"
