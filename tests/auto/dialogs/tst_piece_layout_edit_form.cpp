@@ -287,6 +287,10 @@ private Q_SLOTS:
         QFETCH(FieldRow, row);
 
         Editor e;
+        // Top and Left side by side, Height and Width under them.
+        const auto at = [&](int f) { return e.field(f)->mapTo(&e.form, QPoint()); };
+        QVERIFY(at(0).y() == at(1).y() && at(0).x() < at(1).x() && at(2).y() > at(0).y());
+        QVERIFY(at(2).x() == at(0).x() && at(3).x() == at(1).x() && at(3).y() == at(2).y());
         QLineEdit *edit = e.field(row.field);
         auto *stepper = e.child<QScrollBar>(FieldNames[row.field] + QLatin1String("_scr"));
         QTest::mouseClick(edit, Qt::LeftButton);
@@ -367,7 +371,6 @@ private Q_SLOTS:
     void zOrder()
     {
         QFETCH(QStringList, commands);
-        QFETCH(int, clicked);
         QFETCH(int, atCorner);
 
         // Message 1 overlaps the address's bottom-right part.
@@ -382,7 +385,7 @@ private Q_SLOTS:
         // The handles stay above the address itself: its top-left one covers no other item.
         QCOMPARE(e.frame->childAt(e.dot(1)->geometry().bottomRight()), e.dot(1));
         QTest::mouseClick(e.frame, Qt::LeftButton, {}, pixels(QPointF(4500, 2000)));
-        QCOMPARE(e.form.currentItem(), clicked);
+        QTEST(e.form.currentItem(), "clicked");
     }
 
     void formatMenu_data()
