@@ -62,6 +62,8 @@ public:
 
     bool watchdogFired() const { return m_watchdogFired; }
     int actionsRun() const { return m_actionsRun; }
+    // The action ran once and every dialog closed by itself.
+    bool ranOnce() const { return m_actionsRun == 1 && !m_watchdogFired; }
 
 private:
     void poll(const QString &objectName, const std::function<void(QDialog *)> &action)
