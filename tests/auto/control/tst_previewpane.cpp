@@ -124,6 +124,8 @@ private Q_SLOTS:
             7, QStringList{"mc_last", "mc_prev"}, "Page 2 of 3", PagingButtons, "mc_prev"};
         QTest::newRow("back-to-first-focus-moves-on")
             << PagingRow{7, QStringList{"mc_next", "mc_prev"}, "Page 1 of 3", ahead, "mc_next"};
+        QTest::newRow("first-from-last")
+            << PagingRow{7, QStringList{"mc_last", "mc_first"}, "Page 1 of 3", ahead, "mc_next"};
         QTest::newRow("print-all-moves-focus-on")
             << PagingRow{7, QStringList{"mc_last", "mc_prev", "mc_p_all"}, "Page 2 of 3",
                          PagingButtons, "mc_next"};

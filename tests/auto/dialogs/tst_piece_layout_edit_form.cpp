@@ -5,6 +5,7 @@
 // pointer is hit, and the one pressed keeps the mouse until the release.
 #define QTEST_QPA_MOUSE_HANDLING
 
+#include "dialogs/layoutitemlabel.h"
 #include "dialogs/piece_layout_edit_form.h"
 
 #include "hostrecorder.h"
@@ -556,6 +557,41 @@ private Q_SLOTS:
         QVERIFY(e.form.dataWasAccepted() && !e.form.isVisible());
         e.form.show();
         QVERIFY(!e.form.dataWasAccepted());
+    }
+
+    // A box drawn with a border shows its frame; the bar code band stands
+    // below the last line of the text, clear of it.
+    void itemLabelDrawing_data()
+    {
+        QTest::addColumn<bool>("bordered");
+        QTest::newRow("bordered") << true;
+        QTest::newRow("bar-code-below-two-lines") << false;
+    }
+
+    void itemLabelDrawing()
+    {
+        QFETCH(bool, bordered);
+        LayoutItemLabel label;
+        label.resize(120, 90);
+        label.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+        label.setText(QStringLiteral("\n"));
+        label.setBordered(bordered);
+        label.setBarcodeBand(bordered ? QSize() : QSize(60, 16));
+        const QImage image = label.grab().toImage();
+        const auto darkInRows = [&](int from, int to) {
+            for (int y = from; y < to; ++y)
+                for (int x = 40; x < 80; ++x)
+                    if (qGray(image.pixel(x, y)) < 128)
+                        return true;
+            return false;
+        };
+        if (bordered) {
+            QVERIFY(qGray(image.pixel(0, 45)) < 128 && qGray(image.pixel(119, 45)) < 128);
+            return;
+        }
+        const int top = 2 * label.fontMetrics().lineSpacing() + 4;
+        QVERIFY(!darkInRows(2, top));
+        QVERIFY(darkInRows(top, top + 16));
     }
 
     void modalResult_data()
