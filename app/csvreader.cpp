@@ -6,6 +6,8 @@
 
 #include <QIODevice>
 
+#include <algorithm>
+
 namespace quirra {
 
 namespace {
@@ -59,6 +61,14 @@ bool CsvReader::fail(const QString &what)
 
 bool CsvReader::appendField(QStringList &fields, QByteArray &field)
 {
+    // Plain ASCII, most fields of most files, reads the same in UTF-8 and
+    // Latin-1, and Latin-1 needs no decoder.
+    if (std::all_of(field.cbegin(), field.cend(),
+                    [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
+        fields.append(QString::fromLatin1(field));
+        field.resize(0);
+        return true;
+    }
     m_decoder.resetState();
     QString text = m_decoder.decode(field);
     if (m_decoder.hasError()) {

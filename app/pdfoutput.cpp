@@ -96,7 +96,20 @@ bool pdfIsWhole(QFile &file)
         }
         return window.mid(offset - windowAt, start.size()) == start;
     };
+    // The entries are checked a batch at a time, each batch in the file's
+    // order: the check keeps a megabyte of entries however long the run.
+    constexpr size_t BatchEntries = 1 << 16;
     std::vector<std::pair<qint64, qint64>> objects; // offset, object number
+    objects.reserve(BatchEntries);
+    auto checkBatch = [&]() {
+        std::sort(objects.begin(), objects.end());
+        for (const auto &[offset, object] : objects) {
+            if (!startsWith(offset, QByteArray::number(object) + ' '))
+                return false;
+        }
+        objects.clear();
+        return true;
+    };
     // Subsections: "first count", then count lines "offset generation n|f".
     for (QByteArray head = nextLine(); !head.startsWith("trailer"); head = nextLine()) {
         const QList<QByteArray> fields = head.split(' ');
@@ -107,9 +120,6 @@ bool pdfIsWhole(QFile &file)
         const qint64 count = fields[1].toLongLong(&countOk);
         if (!firstOk || !countOk || count < 0)
             return false;
-        // An entry takes 18 bytes or more: a count the table cannot hold
-        // reserves no more than it can.
-        objects.reserve(objects.size() + size_t(std::min(count, (size - table) / 18)));
         for (qint64 i = 0; i < count; ++i, ++object) {
             const QByteArray entry = nextLine();
             if (entry.size() < 18)
@@ -120,14 +130,11 @@ bool pdfIsWhole(QFile &file)
             if (!ok || offset < 0 || offset >= table)
                 return false;
             objects.push_back({offset, object});
+            if (objects.size() == BatchEntries && !checkBatch())
+                return false;
         }
     }
-    std::sort(objects.begin(), objects.end());
-    for (const auto &[offset, object] : objects) {
-        if (!startsWith(offset, QByteArray::number(object) + ' '))
-            return false;
-    }
-    return true;
+    return checkBatch();
 }
 
 } // namespace

@@ -237,6 +237,10 @@ bool ComposeAddressLines(SpoolReader &reader, TextMeasurer &measurer, double wid
 QString ReplaceTokens(const QString &text, const QString &list, const QString &pairSeparator,
                       const QString &entrySeparator)
 {
+    // Every token starts "<<": a text without one (most item texts, every
+    // address) has nothing to replace, whatever the list holds.
+    if (!text.contains(QLatin1String("<<")))
+        return text;
     QString result = text;
     qint64 work = 0;
 
