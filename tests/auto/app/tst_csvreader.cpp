@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "addresscolumns.h"
 #include "csvreader.h"
 
 #include <QBuffer>
@@ -51,6 +52,12 @@ QString readAll(QIODevice &device, QString *error, QList<qint64> *lines = nullpt
     return rows;
 }
 
+// The recipient as "first|middle|last|address1|address2|city|state|zip|substitute".
+QString joined(const AddressRow &row)
+{
+    return QStringList(row.fields.begin(), row.fields.end()).join(QLatin1Char('|'));
+}
+
 } // namespace
 
 class TestCsvReader : public QObject
@@ -62,6 +69,8 @@ private Q_SLOTS:
     void rows();
     void rowsKnowTheirLine();
     void wideAndLongFields();
+    void mapsRows_data();
+    void mapsRows();
 };
 
 void TestCsvReader::rows_data()
@@ -130,25 +139,105 @@ void TestCsvReader::rowsKnowTheirLine()
 
 void TestCsvReader::wideAndLongFields()
 {
-    // 100,000 columns in one row, and a 10,000-character field.
-    QByteArray wide;
-    for (int i = 0; i < 100000; ++i)
-        wide += "c" + QByteArray::number(i) + ',';
-    wide.chop(1);
+    // 100,000 columns in one row, mapped to entries, and a 10,000-character field.
+    QByteArray header = "last", values = "Lee";
+    for (int i = 1; i < 100000; ++i) {
+        header += ",c" + QByteArray::number(i);
+        values += ',' + QByteArray::number(i);
+    }
     const QByteArray longField(10000, 'y');
-    QByteArray input = wide + "\n\"" + longField + "\"\n";
+    QByteArray input = header + '\n' + values + "\n\"" + longField + "\"\n";
     QBuffer buffer(&input);
     QVERIFY(buffer.open(QIODevice::ReadOnly));
     CsvReader reader(&buffer);
-    QStringList fields;
-    QVERIFY(reader.readRow(fields));
+    QStringList names, fields;
+    QVERIFY(reader.readRow(names) && reader.readRow(fields));
     QCOMPARE(fields.size(), 100000);
-    QCOMPARE(fields.last(), QStringLiteral("c99999"));
+    QCOMPARE(names.last(), QStringLiteral("c99999"));
+    AddressColumns columns;
+    QString error;
+    AddressRow out;
+    QVERIFY(columns.setHeader(names, &error) && columns.mapRow(fields, out, &error));
+    const QString &entries = out[AddressField::Substitute];
+    QVERIFY(entries.startsWith(QLatin1String("c1^1|c2^2|")));
+    QVERIFY(entries.endsWith(QLatin1String("|c99999^99999")));
+    QCOMPARE(entries.count(QLatin1Char('|')), 99998);
+
     QVERIFY(reader.readRow(fields));
     QCOMPARE(fields, QStringList{QString::fromLatin1(longField)});
     QCOMPARE(reader.bytesRead(), qint64(input.size()));
     QVERIFY(!reader.readRow(fields));
     QCOMPARE(reader.error(), QString());
+}
+
+void TestCsvReader::mapsRows_data()
+{
+    QTest::addColumn<QStringList>("header");
+    QTest::addColumn<QStringList>("row");
+    QTest::addColumn<QString>("recipient"); // or "refused: " and the start of the error
+    const auto row = [](const char *tag, const QStringList &header, const QStringList &values,
+                        const QString &recipient) {
+        QTest::newRow(tag) << header << values << recipient;
+    };
+
+    row("plain-names", {"first", "middle", "last", "address1", "address2", "city", "state", "zip"},
+        {"Ann", "Q", "Lee", "1 Elm", "Apt 2", "Troy", "NY", "12180"},
+        "Ann|Q|Lee|1 Elm|Apt 2|Troy|NY|12180||");
+    row("record-names-any-case-any-order", {"ZIP", "Addr_1", "NM_LAST", "nm_first"},
+        {"12180", "1 Elm", "Lee", "Ann"}, "Ann||Lee|1 Elm||||12180||");
+    row("other-columns-become-entries", {"last", "salutation", "Code"}, {"Lee", "Ms. Lee", "7"},
+        "||Lee||||||salutation^Ms. Lee|Code^7|");
+    row("substitute-column-first-then-entries", {"salutation", "last", "substitute"},
+        {"Dr. Lee", "Lee", "club^Rotary|year^1999"},
+        "||Lee||||||club^Rotary|year^1999|salutation^Dr. Lee|");
+    row("substitute-column-as-it-stands", {"last", "substitute"}, {"Lee", "a^b|c|^d"},
+        "||Lee||||||a^b|c|^d|");
+    row("unnamed-column-left-out", {"last", "", "note"}, {"Lee", "ignored", "n"},
+        "||Lee||||||note^n|");
+    row("caret-in-an-entry-value", {"last", "math"}, {"Lee", "2^10"}, "||Lee||||||math^2^10|");
+    row("barcode-columns-any-case", {"last", "IMb"}, {"Lee", "01234567094987654321"},
+        "||Lee|||||||01234567094987654321");
+
+    // Headers refused before any row.
+    row("no-address-column", {"name", "phone"}, {},
+        "refused: the header row names no address column");
+    row("substitute-alone-is-no-address", {"substitute"}, {},
+        "refused: the header row names no address column");
+    row("same-field-twice", {"first", "nm_first"}, {},
+        "refused: the columns \"first\" and \"nm_first\" both name");
+    row("same-entry-twice", {"last", "note", "x", "note"}, {},
+        "refused: columns 2 and 4 are both named \"note\"");
+    row("caret-in-a-name", {"last", "a^b"}, {},
+        "refused: column 2: the name \"a^b\" cannot be used");
+    // Values refused under a good header.
+    const QStringList fln{"first", "last", "note"};
+    row("double-quote", fln, {"Ann", "O\"Lee", ""},
+        "refused: column 2 (\"last\") holds a double quote");
+    row("line-feed", fln, {"Ann", "Lee", "a\nb"},
+        "refused: column 3 (\"note\") holds a line break");
+    row("bar-in-an-entry", fln, {"Ann", "Lee", "a|b"}, "refused: column 3 (\"note\") holds a |");
+    row("too-few-fields", fln, {"Ann", "Lee"},
+        "refused: the row has 2 fields but the header has 3");
+}
+
+void TestCsvReader::mapsRows()
+{
+    QFETCH(QStringList, header);
+    QFETCH(QStringList, row);
+    QFETCH(QString, recipient);
+
+    AddressColumns columns;
+    QString error;
+    AddressRow out;
+    // A reused row is filled afresh.
+    out[AddressField::State] = QStringLiteral("stale");
+    const bool mapped = columns.setHeader(header, &error) && columns.mapRow(row, out, &error);
+    if (recipient.startsWith(QLatin1String("refused: "))) {
+        QVERIFY2(!mapped && error.startsWith(recipient.mid(9)), qPrintable(error));
+    } else {
+        QVERIFY2(mapped, qPrintable(error));
+        QCOMPARE(joined(out), recipient);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestCsvReader)

@@ -101,7 +101,7 @@ void TestTemplateReader::shapesAndAliases()
   <Template brand="Acme" part="A1" equiv="R1"/>
   <Template brand="Acme" part="R1" size="A4" _description="Round stickers">
     <Meta category="label"/><Meta category="round-label"/>
-    <Label-round id="0" radius="1.905cm"><Layout nx="4" ny="6" x0="10mm" y0="12mm" dx="50mm" dy="45mm"/></Label-round>
+    <Label-round id="0" radius="1.907cm"><Layout nx="4" ny="6" x0="10mm" y0="12mm" dx="50mm" dy="45mm"/></Label-round>
   </Template>
   <Template brand="Acme" part="CD1" size="Other" width="51pc" height="792" description="Business CD">
     <Label-cd id="0" radius="1.5in" hole="0.5in" width="3.5in"><Layout nx="2" ny="3" x0="36pt" y0="0.5in" dx="4in" dy="3.1in"/></Label-cd>
@@ -111,6 +111,12 @@ void TestTemplateReader::shapesAndAliases()
   </Template>
   <Template brand="Acme" part="Two" size="US-Letter" _description="Two arrangements">
     <Label-rectangle id="0" width="1in" height="1in"><Layout nx="1" ny="1" x0="0" y0="0"/><Layout nx="1" ny="1" x0="100" y0="100"/></Label-rectangle>
+  </Template>
+  <Template brand="Acme" part="RL1" size="roll" width="4in" height="2in" _description="Roll">
+    <Label-rectangle id="0" width="3.5in" height="1.5in"><Layout nx="1" ny="1" x0="0.25in" y0="0.25in"/></Label-rectangle>
+  </Template>
+  <Template brand="Acme" part="T1" size="US-Letter" _description="A thousand across">
+    <Label-rectangle id="0" width="0.005in" height="1in"><Layout nx="1000" ny="1" x0="0" y0="0" dx="0.008in"/></Label-rectangle>
   </Template>
   <Template brand="Other" part="X" equiv="R1"/>
   <Template brand="5160" part="- Address Labels" size="A4" _description="Not ours">
@@ -129,45 +135,40 @@ void TestTemplateReader::shapesAndAliases()
                 .filter(QLatin1String("broken-templates.xml:2: template "
                                       "\"Acme 100\": width=\"-2in\" is negative"))
                 .size() == 1);
-    QCOMPARE(catalogue->importedCount(), 4);
+    QCOMPARE(catalogue->importedCount(), 6);
     QCOMPARE(catalogue->pieces(QStringLiteral("Acme")),
-             QStringList({"Acme A1", "Acme CD1", "Acme E1", "Acme R1"}));
+             QStringList({"Acme A1", "Acme CD1", "Acme E1", "Acme R1", "Acme RL1", "Acme T1"}));
     QVERIFY(catalogue->products(QStringLiteral("Laser/InkJet Products")).endsWith("Acme"));
     // The shipped piece of that name keeps its own sheet.
     QCOMPARE(catalogue->piece(QStringLiteral("5160 - Address Labels")).NumDown, 10);
 
+    // Each imported sheet: kind, size line, then label, page, margins,
+    // pitches and counts as numbers.
+    const auto entry = [&](const char *name) -> QString {
+        const CatalogueEntry &e = *catalogue->entry(QLatin1String(name));
+        const PieceSpec &s = e.sheet;
+        QStringList n{QString::number(int(e.shape)), e.metric ? "mm" : "in", e.sizeText};
+        for (float v : {s.LabelWidth, s.LabelHeight, s.PageWidth, s.PageHeight, s.MarginSide,
+                        s.MarginTop, s.PitchHorz, s.PitchVert})
+            n.append(QString::number(v));
+        return n.join(u' ') +
+               QStringLiteral(" %1 %2 %3").arg(s.NumAcross).arg(s.NumDown).arg(s.Name);
+    };
+    // An alias is its product's sheet; a tenth of a millimetre shows, no finer.
     const CatalogueEntry &alias = *catalogue->entry(QStringLiteral("Acme A1"));
-    QCOMPARE(alias.product, QStringLiteral("Round stickers"));
-    QCOMPARE(alias.group, QStringLiteral("Acme"));
-    QCOMPARE(alias.shape, LabelShape::Round);
-    QVERIFY(alias.metric);
-    QCOMPARE(alias.sizeText, QStringLiteral("38.1 x 38.1 mm")); // a tenth of a millimetre shows
-    const PieceSpec &round = alias.sheet;
-    QCOMPARE(round.Name, QStringLiteral("Acme A1"));
-    QCOMPARE(round.NumAcross, 4);
-    QCOMPARE(round.NumDown, 6);
-    QCOMPARE(round.LabelWidth, float(38.1 / 25.4));
-    QCOMPARE(round.MarginSide, float(10 / 25.4));
-    QCOMPARE(round.MarginTop, float(12 / 25.4));
-    QCOMPARE(round.PitchHorz, float(50 / 25.4));
-    QCOMPARE(round.PitchVert, float(45 / 25.4));
-    QCOMPARE(round.PageHeight, float(297 / 25.4));
-
-    const CatalogueEntry &cd = *catalogue->entry(QStringLiteral("Acme CD1"));
-    QCOMPARE(cd.shape, LabelShape::Cd);
-    QVERIFY(!cd.metric);
-    QCOMPARE(cd.sheet.LabelWidth, 3.5f);  // cut off at the sides: its own width bounds it
-    QCOMPARE(cd.sheet.LabelHeight, 3.0f); // no height given: the disc's
-    QCOMPARE(cd.sheet.PageWidth, 8.5f);
-    QCOMPARE(cd.sheet.PageHeight, 11.0f);
-    QCOMPARE(cd.sheet.MarginSide, 0.5f);
-    QCOMPARE(cd.sheet.PageDesc, QStringLiteral("Custom (8.5 x 11 in.)"));
-
-    const CatalogueEntry &ellipse = *catalogue->entry(QStringLiteral("Acme E1"));
-    QCOMPARE(ellipse.shape, LabelShape::Ellipse);
-    QCOMPARE(ellipse.sizeText, QStringLiteral("3 x 2 in."));
-    QCOMPARE(ellipse.sheet.PitchHorz, 3.0f); // one column: a piece's own width is its step
-    QCOMPARE(ellipse.sheet.PitchVert, 2.0f);
+    QCOMPARE(alias.product + '/' + alias.group, QStringLiteral("Round stickers/Acme"));
+    QCOMPARE(entry("Acme A1"),
+             "1 mm 38.1 x 38.1 mm 1.50157 1.50157 8.26772 11.6929 0.393701 0.472441 "
+             "1.9685 1.77165 4 6 Acme A1");
+    // A CD cut off at the sides: its own width bounds it, no height given: the disc's.
+    QCOMPARE(entry("Acme CD1"), "3 in 3.5 x 3 in. 3.5 3 8.5 11 0.5 0.5 4 3.1 2 3 Acme CD1");
+    QCOMPARE(catalogue->piece(QStringLiteral("Acme CD1")).PageDesc,
+             QStringLiteral("Custom (8.5 x 11 in.)"));
+    // One column: a piece's own width is its step.
+    QCOMPARE(entry("Acme E1"), "2 in 3 x 2 in. 3 2 8.5 11 1 0.5 3 2 1 5 Acme E1");
+    // A roll in whole eighths of an inch is an inch sheet; a thousand across still fit.
+    QCOMPARE(entry("Acme RL1"), "0 in 3.5 x 1.5 in. 3.5 1.5 4 2 0.25 0.25 3.5 1.5 1 1 Acme RL1");
+    QCOMPARE(entry("Acme T1"), "0 in 0.005 x 1 in. 0.005 1 8.5 11 0 0 0.008 1 1000 1 Acme T1");
     QCOMPARE(catalogue->search(QStringLiteral("acme oval")), QStringList{"Acme E1"});
     QCOMPARE(catalogue->search(QString(), QStringLiteral("other")), QStringList());
 }

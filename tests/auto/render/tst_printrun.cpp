@@ -206,6 +206,7 @@ void TestPrintRun::pagination()
                               "marginRight 0", "marginBottom 0", "align 0", "header []",
                               "footer []", "penStyle 1", "brushStyle 0", "penWidth 10"})
         QVERIFY2(uint(surface.calls.indexOf(QLatin1String(reset))) < uint(start), reset);
+    QCOMPARE(surface.calls.value(start + 1), QStringLiteral("firstPage 1"));
     QCOMPARE(surface.calls.last(),
              cancelAfter ? QStringLiteral("action 7") : QStringLiteral("action 6"));
     QCOMPARE(surface.pageCount(), pages);
