@@ -9,7 +9,6 @@
 #include "catalogue/piececatalogue.h"
 #include "catalogue/pieceloader.h"
 #include "records/intelligentmail.h"
-#include "render/calibration.h"
 #include "render/pdfexport.h"
 #include "render/printrun.h"
 #include "settings/files.h"
@@ -54,7 +53,6 @@ private Q_SLOTS:
     void everyProductOnItsRealSheet();
     void barcodeAsThePostalServiceMeasuresIt_data();
     void barcodeAsThePostalServiceMeasuresIt();
-    void calibrationSheetRulers();
 
 private:
     QString pdfPath(const QString &name) const { return m_dir.filePath(name); }
@@ -288,20 +286,6 @@ void TestPdfRun::barcodeAsThePostalServiceMeasuresIt()
     QVERIFY2(full >= 0.125 && full <= 0.165, qPrintable(QString::number(full)));
     const double perInch = (lefts.size() - 1) * Dpi / (lefts.last() - lefts.first());
     QVERIFY2(perInch >= 20 && perInch <= 24, qPrintable(QString::number(perInch)));
-}
-
-void TestPdfRun::calibrationSheetRulers()
-{
-    PieceModel &model = PieceModel::shared();
-    QVERIFY(LoadPieceByName(QStringLiteral("5160 - Address Labels"), model));
-    const QString pdf = pdfPath(QStringLiteral("calibration.pdf"));
-    const auto draw = [&](Surface &surface) { PrintCalibrationSheet(surface, model); };
-    QCOMPARE(DrawToPdf(pdf, model, draw).errorCode, 0);
-    // Both rulers count whole inches and centimetres from 1, not from their 0.
-    const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
-    QVERIFY(pdfprobe::find(words, QStringLiteral("1")) &&
-            pdfprobe::find(words, QStringLiteral("cm")));
-    QVERIFY(!pdfprobe::find(words, QStringLiteral("0")));
 }
 
 QTEST_MAIN(TestPdfRun)
