@@ -250,6 +250,10 @@ void TestAddressRules::replaceTokens_data()
         "v7v99999", ";;");
     row("200000-entries-without-pair-separator", "<<x>>",
         QString(200000, QLatin1Char('|')) + QStringLiteral("x^y"), "y");
+    // Exactly the largest length a text may grow to: the list goes on.
+    const QString largest(16 * 1024 * 1024 - 6, QLatin1Char('v'));
+    row("grown-to-exactly-the-largest-length", "<<a>>+<<b>>", "a^" + largest + "|b^B",
+        largest + "+B");
     row("blank-rest-ends-the-list", "<<a>>",
         QStringLiteral("a^1|") + QString(100000, QLatin1Char(' ')), "1");
 }

@@ -69,6 +69,9 @@ void TestDefaultLayout::boxes_data()
         << 2.95f << 4.f << s << B{0.05f, 3.13f, 0.91f, 0.82f} << true;
     QTest::newRow("stamp-just-over-above")
         << 2.93f << 4.f << s << B{0.05f, 3.13f, 0.91f, 0.82f} << false;
+    // The return box's right edge on the address's left one: touching is overlapping.
+    QTest::newRow("return-touching-the-address")
+        << 2.f << 6.075f << r << B{0.05f, 0.05f, 1.1f, 2} << false;
     QTest::newRow("return-clear-on-the-left")
         << 2.f << 8.f << r << B{0.05f, 0.05f, 1.1f, 2} << true;
     QTest::newRow("message1-between-bounds")
