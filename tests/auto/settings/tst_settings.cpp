@@ -31,28 +31,336 @@ class TestSettings : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void readSettingList_data();
-    void readSettingList();
-    void readSettingOr();
-    void parseBoolean_data();
-    void parseBoolean();
-    void parseNumbers_data();
-    void parseNumbers();
+    void readSettingList_data()
+    {
+        QTest::addColumn<QByteArray>("keys");
+        QTest::addColumn<QString>("slots"); // joined by "|"; its parts give the list's bound
+        QTest::addColumn<int>("last");
 
-    void splitAndTrim_data();
-    void splitAndTrim();
-    void formatNumber_data();
-    void formatNumber();
-    void displayTwipsToText_data();
-    void displayTwipsToText();
-    void tiesGiveTheSecondArgument();
-    void lookup_data();
-    void lookup();
-    void changedFileIsSeen_data();
-    void changedFileIsSeen();
-    void pipeOrFolderReadsAsMissing();
-    void junkParsesInLinearTime_data();
-    void junkParsesInLinearTime();
+        QTest::newRow("gap-leaves-empty-slot")
+            << QByteArray("size(1)=a\nsize(3)=c") << "a||c||" << 3;
+        QTest::newRow("first-entries-missing") << QByteArray("size(3)=c") << "||c" << 3;
+        QTest::newRow("marker-empty-but-present") << QByteArray("size(2)=`") << "|||" << 2;
+        QTest::newRow("bare-key-alone") << QByteArray("Size=only") << "only||" << 1;
+        QTest::newRow("bare-key-marker") << QByteArray("size=`") << "|" << 1;
+        QTest::newRow("bare-key-ignored-beside-indexed")
+            << QByteArray("size=x\nSIZE(2)=b") << "|b" << 2;
+        QTest::newRow("index-beyond-bound-unseen") << QByteArray("size(4)=d") << "||" << 0;
+        QTest::newRow("quoted-blank-counts-as-present") << QByteArray("size(1)=\"  \"") << "|" << 1;
+        QTest::newRow("quoted-padding-trimmed") << QByteArray("size(1)=\" a \"") << "a" << 1;
+    }
+
+    void readSettingList()
+    {
+        QFETCH(QByteArray, keys);
+        QFETCH(QString, slots);
+        QFETCH(int, last);
+        const QStringList expected = slots.split(u'|');
+        QStringList got(expected.size(), QStringLiteral("stale"));
+        QCOMPARE(ReadSettingList(write("[S]\n" + keys), QStringLiteral("S"), QStringLiteral("size"),
+                                 got),
+                 last);
+        QCOMPARE(got, expected);
+    }
+
+    void readSettingOr()
+    {
+        const QString file = write("[S]\nblank=\"   \"\nempty=\npadded=\" v \"");
+        auto read = [&](const char *key) {
+            return ReadSettingOr(file, QStringLiteral("S"), QLatin1String(key),
+                                 QStringLiteral("D"));
+        };
+        QCOMPARE(read("blank"), QStringLiteral("D"));
+        QCOMPARE(read("empty"), QStringLiteral("D"));
+        QCOMPARE(read("missing"), QStringLiteral("D"));
+        QCOMPARE(read("padded"), QStringLiteral(" v ")); // kept untrimmed
+    }
+
+    void parseBoolean_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("expected");
+        QTest::newRow("yes-lower-case") << "yes" << true;
+        QTest::newRow("on-with-blanks") << "  On " << true;
+        QTest::newRow("minus-one") << "-1" << true;
+        QTest::newRow("two") << "2" << false;
+        QTest::newRow("true-with-full-stop") << "TRUE." << false;
+        QTest::newRow("one-point-zero") << "1.0" << false;
+    }
+
+    void parseBoolean()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, expected);
+        QCOMPARE(ParseBoolean(text), expected);
+    }
+
+    void parseNumbers_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("numeric");
+        QTest::addColumn<double>("number");
+        QTest::addColumn<float>("single");
+        QTest::addColumn<int>("integer"); // Overflow: ParseInteger throws
+        // single: NaN when it is the number as a float.
+        const auto row = [](const char *tag, const QString &text, bool numeric, double number,
+                            int integer, float single = qQNaN()) {
+            QTest::newRow(tag) << text << numeric << number
+                               << (qIsNaN(single) ? float(number) : single) << integer;
+        };
+
+        row("point-alone", ".", false, 0.0, 0);
+        row("empty", "", false, 0.0, 0);
+        row("decimal-with-blanks", " 1.5 ", true, 1.5, 2);
+        row("halves-round-to-even-down", "2.5", true, 2.5, 2);
+        row("negative-half-to-even", "-2.5", true, -2.5, -2);
+        row("plus-sign-and-exponent", "+1e2", true, 100.0, 100);
+        row("smallest-16-bit", "-32768.4", true, -32768.4, -32768);
+        row("comma-is-not-a-point", "1,5", false, 0.0, 0);
+        row("trailing-unit", "1.5in", false, 0.0, 0);
+        row("infinity-word", "inf", false, 0.0, 0);
+        row("beyond-double", "1e999", false, 0.0, 0);
+        row("one-past-the-top", "32768", true, 32768.0, Overflow);
+        row("one-past-the-bottom", "-32769", true, -32769.0, Overflow);
+        row("half-rounds-past-the-top", "32767.5", true, 32767.5, Overflow);
+        row("beyond-single-is-no-single", "1e39", true, 1e39, Overflow, 0.0f);
+        row("far-beyond-64-bits", "1e300", true, 1e300, Overflow, 0.0f);
+    }
+
+    void parseNumbers()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, numeric);
+        QFETCH(double, number);
+        QFETCH(float, single);
+        QFETCH(int, integer);
+        QCOMPARE(IsNumeric(text), numeric);
+        QCOMPARE(ParseDouble(text), number);
+        QCOMPARE(ParseSingle(text), single);
+        if (integer == Overflow)
+            QVERIFY_THROWS_EXCEPTION(Error, ParseInteger(text));
+        else
+            QCOMPARE(int(ParseInteger(text)), integer);
+    }
+
+    void splitAndTrim_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("separator");
+        // TextBefore, TextAfter, TextAfterLast, TrimBlanks, TrimTrailingBlanks, joined by "/".
+        QTest::addColumn<QString>("results");
+
+        QTest::newRow("first-and-last-differ") << "a|b|c"
+                                               << "|"
+                                               << "a/b|c/c/a|b|c/a|b|c";
+        QTest::newRow("absent-separator") << "plain"
+                                          << "|"
+                                          << "plain//plain/plain/plain";
+        QTest::newRow("case-counts") << "aXbxc"
+                                     << "x"
+                                     << "aXb/c/c/aXbxc/aXbxc";
+        // An empty separator never occurs, so a list split by it ends at once.
+        QTest::newRow("empty-separator") << "abc"
+                                         << ""
+                                         << "abc//abc/abc/abc";
+        QTest::newRow("blanks-trimmed-inner-kept") << "  1  Main "
+                                                   << "|"
+                                                   << "  1  Main //  1  Main /1  Main/  1  Main";
+        QTest::newRow("only-spaces-are-blanks") << "\tC1\n "
+                                                << "|"
+                                                << "\tC1\n //\tC1\n /\tC1\n/\tC1\n";
+    }
+
+    void splitAndTrim()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, separator);
+        QFETCH(QString, results);
+
+        const QStringList got = {TextBefore(text, separator), TextAfter(text, separator),
+                                 TextAfterLast(text, separator), TrimBlanks(text),
+                                 TrimTrailingBlanks(text)};
+        QCOMPARE(got.join(QLatin1Char('/')), results);
+    }
+
+    void formatNumber_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *tag, double value, const QString &format,
+                            const QString &expected) {
+            QTest::newRow(tag) << value << format << expected;
+        };
+
+        row("whole-number-keeps-point", 2.0, "#0.##", "2.");
+        row("half-away-on-15-digits", 2.675, "#0.##", "2.68");
+        row("negative-half-away", -2.675, "#0.##", "-2.68");
+        row("rounds-to-zero-without-minus", -0.001, "#0.##", "0.");
+        row("carry-into-a-new-digit", 9.999, "#0.##", "10.");
+        row("hash-drops-leading-zero", 0.5, "#.##", ".5");
+        row("fixed-decimals-padded", 2.0, "0.00", "2.00");
+        row("fixed-decimals-rounded", 0.125, "0.00", "0.13");
+        row("whole-half-away", -2.5, "#0", "-3");
+        row("tiny-number", 1e-20, "#0.##", "0.");
+        // Nothing but the half just past the last decimal shown.
+        row("half-past-the-last-decimal-rounds-up", 0.005, "#0.##", "0.01");
+        row("below-half-past-the-last-decimal", 0.0049, "#0.##", "0.");
+        row("text-around-kept", 2.0, "0.00 in", "2.00 in");
+    }
+
+    void formatNumber()
+    {
+        QFETCH(double, value);
+        QFETCH(QString, pattern);
+        QFETCH(QString, expected);
+        QCOMPARE(FormatNumber(value, pattern), expected);
+    }
+
+    void displayTwipsToText_data()
+    {
+        QTest::addColumn<float>("scale");
+        QTest::addColumn<double>("twips");
+        QTest::addColumn<QString>("expected");
+
+        QTest::newRow("one-inch-keeps-point") << 1.0f << 1440.0 << "1.";
+        QTest::newRow("inch-and-a-half") << 1.0f << 2160.0 << "1.5";
+        QTest::newRow("rounded-to-hundredths") << 1.0f << 1000.0 << "0.69";
+        QTest::newRow("scale-divides") << 2.0f << 2160.0 << "0.75";
+        QTest::newRow("zero-scale-taken-as-one") << 0.0f << 1440.0 << "1.";
+    }
+
+    void displayTwipsToText()
+    {
+        QFETCH(float, scale);
+        QFETCH(double, twips);
+        QFETCH(QString, expected);
+        if (scale <= 0)
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("display scale")));
+        QCOMPARE(DisplayTwipsToText(twips, scale), expected);
+        // A length placed on the editor's surface shows as itself.
+        if (scale > 0)
+            QCOMPARE(DisplayTwipsToText(InchesToDisplayTwips(4.333, scale), scale),
+                     QStringLiteral("4.33"));
+    }
+
+    void tiesGiveTheSecondArgument()
+    {
+        // +0 and -0 are equal, so the sign tells which argument came back.
+        QVERIFY(std::signbit(Larger(0.0f, -0.0f)));
+        QVERIFY(!std::signbit(Larger(-0.0f, 0.0f)));
+        QVERIFY(std::signbit(Smaller(0.0f, -0.0f)));
+        QVERIFY(!std::signbit(Smaller(-0.0f, 0.0f)));
+        QCOMPARE(Larger(3, 2), 3.0f);
+        QCOMPARE(Smaller(3, 2), 2.0f);
+    }
+
+    // Every row looks up key "k" of section "A"; "<none>" means not found.
+    void lookup_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("expected");
+        const QByteArray longValue(300, 'a');
+        const QString cut(254, u'a');
+
+        QTest::newRow("names-ignore-case") << QByteArray("[a]\nK=v") << "v";
+        QTest::newRow("first-section-wins") << QByteArray("[A]\nk=1\n[a]\nk=2") << "1";
+        QTest::newRow("repeated-section-unseen") << QByteArray("[A]\nj=1\n[a]\nk=2") << "<none>";
+        QTest::newRow("first-key-wins") << QByteArray("[A]\nk=1\nK=2") << "1";
+        QTest::newRow("empty-value-is-present") << QByteArray("[A]\nk=\nk=2") << "";
+        QTest::newRow("blanks-around-names-and-value")
+            << QByteArray("[ A ]\n \tk\t=  v w \t") << "v w";
+        QTest::newRow("double-quotes-removed") << QByteArray("[A]\nk=\" x \"") << " x ";
+        QTest::newRow("mismatched-quotes-kept") << QByteArray("[A]\nk=\"x'") << "\"x'";
+        QTest::newRow("commas-and-equals-kept") << QByteArray("[A]\nk=a,b=c") << "a,b=c";
+        QTest::newRow("comment-skipped") << QByteArray("[A]\n ;k=1\nk=2") << "2";
+        QTest::newRow("crlf-line-ends") << QByteArray("[A]\r\nj=1\r\nk=2\r\n") << "2";
+        QTest::newRow("line-without-equals-skipped") << QByteArray("[A]\nk\nk=1") << "1";
+        QTest::newRow("line-with-nul-skipped") << QByteArray("[A]\nk=\0x\nk=2", 12) << "2";
+        QTest::newRow("invalid-utf8-replaced") << QByteArray("[A]\nk=\xFF"
+                                                             "ok")
+                                               << "\uFFFDok";
+        QTest::newRow("key-before-any-section-unseen") << QByteArray("k=1\n[A]") << "<none>";
+        QTest::newRow("byte-order-mark") << QByteArray("\xEF\xBB\xBF[A]\nk=1") << "1";
+        QTest::newRow("value-cut-at-254") << QByteArray("[A]\nk=" + longValue) << cut;
+        QTest::newRow("quotes-removed-before-cut")
+            << QByteArray("[A]\nk=\"" + longValue + "\"") << cut;
+    }
+
+    void lookup()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, expected);
+        const ProfileFile profile = ProfileFile::fromText(text);
+        const QString *found = profile.find(QStringLiteral(" a "), QStringLiteral("K"));
+        QCOMPARE(found ? *found : QStringLiteral("<none>"), expected);
+        QCOMPARE(read(write(text, QStringLiteral("lookup.ini"))), expected);
+    }
+
+    void changedFileIsSeen_data()
+    {
+        QTest::addColumn<QByteArray>("second");
+        QTest::addColumn<int>("secondsLater"); // -1: the file is removed
+        QTest::addColumn<QString>("expected");
+        // A grown file gets its old time back: only the size tells the change.
+        QTest::newRow("grown-file-same-time") << QByteArray("[A]\nk=longer") << 0 << "longer";
+        QTest::newRow("same-size-newer-time") << QByteArray("[A]\nk=two") << 2 << "two";
+        QTest::newRow("file-removed") << QByteArray() << -1 << "<none>";
+    }
+
+    void changedFileIsSeen()
+    {
+        QFETCH(QByteArray, second);
+        QFETCH(int, secondsLater);
+        QFETCH(QString, expected);
+        const QString name = QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(".ini");
+        const QString path = write("[A]\nk=one", name);
+        QCOMPARE(read(path), QStringLiteral("one"));
+        if (secondsLater < 0) {
+            QVERIFY(QFile::remove(path));
+        } else {
+            const QDateTime before = QFileInfo(path).lastModified();
+            write(second, name);
+            QFile f(path);
+            QVERIFY(f.open(QIODevice::ReadWrite));
+            QVERIFY(f.setFileTime(before.addSecs(secondsLater), QFileDevice::FileModificationTime));
+        }
+        QCOMPARE(read(path), expected);
+    }
+
+    void pipeOrFolderReadsAsMissing()
+    {
+        // Opening a pipe would wait for a writer that never comes.
+        const QString pipe = m_dir.filePath(QStringLiteral("pipe.ini"));
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QCOMPARE(read(pipe), QStringLiteral("<none>"));
+        QCOMPARE(read(m_dir.path()), QStringLiteral("<none>"));
+    }
+
+    void junkParsesInLinearTime_data()
+    {
+        QTest::addColumn<bool>("oneLine");
+        QTest::newRow("random-bytes") << false;
+        QTest::newRow("one-ten-megabyte-line") << true;
+    }
+
+    void junkParsesInLinearTime()
+    {
+        QFETCH(bool, oneLine);
+        QByteArray junk(10 * 1024 * 1024, Qt::Uninitialized);
+        QRandomGenerator random(20260101);
+        for (char &c : junk) {
+            c = char(random.bounded(256));
+            if (oneLine && (c == '\n' || c == '\r'))
+                c = '=';
+        }
+        const QString path = write("[A]\n" + junk, QStringLiteral("junk.ini"));
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(read(path), QStringLiteral("<none>"));
+        qDebug("10 MB of junk parsed in %lld ms", timer.elapsed());
+        QVERIFY2(timer.elapsed() < 10000, "parsing must stay linear in the file's size");
+    }
 
 private:
     // A file of the test's folder: the name given, or one of its own.
@@ -73,333 +381,6 @@ private:
     QTemporaryDir m_dir;
     int m_files = 0;
 };
-
-void TestSettings::readSettingList_data()
-{
-    QTest::addColumn<QByteArray>("keys");
-    QTest::addColumn<QString>("slots"); // joined by "|"; its parts give the list's bound
-    QTest::addColumn<int>("last");
-
-    QTest::newRow("gap-leaves-empty-slot") << QByteArray("size(1)=a\nsize(3)=c") << "a||c||" << 3;
-    QTest::newRow("first-entries-missing") << QByteArray("size(3)=c") << "||c" << 3;
-    QTest::newRow("marker-empty-but-present") << QByteArray("size(2)=`") << "|||" << 2;
-    QTest::newRow("bare-key-alone") << QByteArray("Size=only") << "only||" << 1;
-    QTest::newRow("bare-key-marker") << QByteArray("size=`") << "|" << 1;
-    QTest::newRow("bare-key-ignored-beside-indexed")
-        << QByteArray("size=x\nSIZE(2)=b") << "|b" << 2;
-    QTest::newRow("index-beyond-bound-unseen") << QByteArray("size(4)=d") << "||" << 0;
-    QTest::newRow("quoted-blank-counts-as-present") << QByteArray("size(1)=\"  \"") << "|" << 1;
-    QTest::newRow("quoted-padding-trimmed") << QByteArray("size(1)=\" a \"") << "a" << 1;
-}
-
-void TestSettings::readSettingList()
-{
-    QFETCH(QByteArray, keys);
-    QFETCH(QString, slots);
-    QFETCH(int, last);
-    const QStringList expected = slots.split(u'|');
-    QStringList got(expected.size(), QStringLiteral("stale"));
-    QCOMPARE(
-        ReadSettingList(write("[S]\n" + keys), QStringLiteral("S"), QStringLiteral("size"), got),
-        last);
-    QCOMPARE(got, expected);
-}
-
-void TestSettings::readSettingOr()
-{
-    const QString file = write("[S]\nblank=\"   \"\nempty=\npadded=\" v \"");
-    auto read = [&](const char *key) {
-        return ReadSettingOr(file, QStringLiteral("S"), QLatin1String(key), QStringLiteral("D"));
-    };
-    QCOMPARE(read("blank"), QStringLiteral("D"));
-    QCOMPARE(read("empty"), QStringLiteral("D"));
-    QCOMPARE(read("missing"), QStringLiteral("D"));
-    QCOMPARE(read("padded"), QStringLiteral(" v ")); // kept untrimmed
-}
-
-void TestSettings::parseBoolean_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("expected");
-    QTest::newRow("yes-lower-case") << "yes" << true;
-    QTest::newRow("on-with-blanks") << "  On " << true;
-    QTest::newRow("minus-one") << "-1" << true;
-    QTest::newRow("two") << "2" << false;
-    QTest::newRow("true-with-full-stop") << "TRUE." << false;
-    QTest::newRow("one-point-zero") << "1.0" << false;
-}
-
-void TestSettings::parseBoolean()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, expected);
-    QCOMPARE(ParseBoolean(text), expected);
-}
-
-void TestSettings::parseNumbers_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("numeric");
-    QTest::addColumn<double>("number");
-    QTest::addColumn<float>("single");
-    QTest::addColumn<int>("integer"); // Overflow: ParseInteger throws
-    // single: NaN when it is the number as a float.
-    const auto row = [](const char *tag, const QString &text, bool numeric, double number,
-                        int integer, float single = qQNaN()) {
-        QTest::newRow(tag) << text << numeric << number << (qIsNaN(single) ? float(number) : single)
-                           << integer;
-    };
-
-    row("point-alone", ".", false, 0.0, 0);
-    row("empty", "", false, 0.0, 0);
-    row("decimal-with-blanks", " 1.5 ", true, 1.5, 2);
-    row("halves-round-to-even-down", "2.5", true, 2.5, 2);
-    row("negative-half-to-even", "-2.5", true, -2.5, -2);
-    row("plus-sign-and-exponent", "+1e2", true, 100.0, 100);
-    row("smallest-16-bit", "-32768.4", true, -32768.4, -32768);
-    row("comma-is-not-a-point", "1,5", false, 0.0, 0);
-    row("trailing-unit", "1.5in", false, 0.0, 0);
-    row("infinity-word", "inf", false, 0.0, 0);
-    row("beyond-double", "1e999", false, 0.0, 0);
-    row("one-past-the-top", "32768", true, 32768.0, Overflow);
-    row("one-past-the-bottom", "-32769", true, -32769.0, Overflow);
-    row("half-rounds-past-the-top", "32767.5", true, 32767.5, Overflow);
-    row("beyond-single-is-no-single", "1e39", true, 1e39, Overflow, 0.0f);
-    row("far-beyond-64-bits", "1e300", true, 1e300, Overflow, 0.0f);
-}
-
-void TestSettings::parseNumbers()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, numeric);
-    QFETCH(double, number);
-    QFETCH(float, single);
-    QFETCH(int, integer);
-    QCOMPARE(IsNumeric(text), numeric);
-    QCOMPARE(ParseDouble(text), number);
-    QCOMPARE(ParseSingle(text), single);
-    if (integer == Overflow)
-        QVERIFY_THROWS_EXCEPTION(Error, ParseInteger(text));
-    else
-        QCOMPARE(int(ParseInteger(text)), integer);
-}
-
-void TestSettings::splitAndTrim_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("separator");
-    // TextBefore, TextAfter, TextAfterLast, TrimBlanks, TrimTrailingBlanks, joined by "/".
-    QTest::addColumn<QString>("results");
-
-    QTest::newRow("first-and-last-differ") << "a|b|c"
-                                           << "|"
-                                           << "a/b|c/c/a|b|c/a|b|c";
-    QTest::newRow("absent-separator") << "plain"
-                                      << "|"
-                                      << "plain//plain/plain/plain";
-    QTest::newRow("case-counts") << "aXbxc"
-                                 << "x"
-                                 << "aXb/c/c/aXbxc/aXbxc";
-    // An empty separator never occurs, so a list split by it ends at once.
-    QTest::newRow("empty-separator") << "abc"
-                                     << ""
-                                     << "abc//abc/abc/abc";
-    QTest::newRow("blanks-trimmed-inner-kept") << "  1  Main "
-                                               << "|"
-                                               << "  1  Main //  1  Main /1  Main/  1  Main";
-    QTest::newRow("only-spaces-are-blanks") << "\tC1\n "
-                                            << "|"
-                                            << "\tC1\n //\tC1\n /\tC1\n/\tC1\n";
-}
-
-void TestSettings::splitAndTrim()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, separator);
-    QFETCH(QString, results);
-
-    const QStringList got = {TextBefore(text, separator), TextAfter(text, separator),
-                             TextAfterLast(text, separator), TrimBlanks(text),
-                             TrimTrailingBlanks(text)};
-    QCOMPARE(got.join(QLatin1Char('/')), results);
-}
-
-void TestSettings::formatNumber_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *tag, double value, const QString &format,
-                        const QString &expected) {
-        QTest::newRow(tag) << value << format << expected;
-    };
-
-    row("whole-number-keeps-point", 2.0, "#0.##", "2.");
-    row("half-away-on-15-digits", 2.675, "#0.##", "2.68");
-    row("negative-half-away", -2.675, "#0.##", "-2.68");
-    row("rounds-to-zero-without-minus", -0.001, "#0.##", "0.");
-    row("carry-into-a-new-digit", 9.999, "#0.##", "10.");
-    row("hash-drops-leading-zero", 0.5, "#.##", ".5");
-    row("fixed-decimals-padded", 2.0, "0.00", "2.00");
-    row("fixed-decimals-rounded", 0.125, "0.00", "0.13");
-    row("whole-half-away", -2.5, "#0", "-3");
-    row("tiny-number", 1e-20, "#0.##", "0.");
-    // Nothing but the half just past the last decimal shown.
-    row("half-past-the-last-decimal-rounds-up", 0.005, "#0.##", "0.01");
-    row("below-half-past-the-last-decimal", 0.0049, "#0.##", "0.");
-    row("text-around-kept", 2.0, "0.00 in", "2.00 in");
-}
-
-void TestSettings::formatNumber()
-{
-    QFETCH(double, value);
-    QFETCH(QString, pattern);
-    QFETCH(QString, expected);
-    QCOMPARE(FormatNumber(value, pattern), expected);
-}
-
-void TestSettings::displayTwipsToText_data()
-{
-    QTest::addColumn<float>("scale");
-    QTest::addColumn<double>("twips");
-    QTest::addColumn<QString>("expected");
-
-    QTest::newRow("one-inch-keeps-point") << 1.0f << 1440.0 << "1.";
-    QTest::newRow("inch-and-a-half") << 1.0f << 2160.0 << "1.5";
-    QTest::newRow("rounded-to-hundredths") << 1.0f << 1000.0 << "0.69";
-    QTest::newRow("scale-divides") << 2.0f << 2160.0 << "0.75";
-    QTest::newRow("zero-scale-taken-as-one") << 0.0f << 1440.0 << "1.";
-}
-
-void TestSettings::displayTwipsToText()
-{
-    QFETCH(float, scale);
-    QFETCH(double, twips);
-    QFETCH(QString, expected);
-    if (scale <= 0)
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("display scale")));
-    QCOMPARE(DisplayTwipsToText(twips, scale), expected);
-    // A length placed on the editor's surface shows as itself.
-    if (scale > 0)
-        QCOMPARE(DisplayTwipsToText(InchesToDisplayTwips(4.333, scale), scale),
-                 QStringLiteral("4.33"));
-}
-
-void TestSettings::tiesGiveTheSecondArgument()
-{
-    // +0 and -0 are equal, so the sign tells which argument came back.
-    QVERIFY(std::signbit(Larger(0.0f, -0.0f)));
-    QVERIFY(!std::signbit(Larger(-0.0f, 0.0f)));
-    QVERIFY(std::signbit(Smaller(0.0f, -0.0f)));
-    QVERIFY(!std::signbit(Smaller(-0.0f, 0.0f)));
-    QCOMPARE(Larger(3, 2), 3.0f);
-    QCOMPARE(Smaller(3, 2), 2.0f);
-}
-
-// Every row looks up key "k" of section "A"; "<none>" means not found.
-void TestSettings::lookup_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("expected");
-    const QByteArray longValue(300, 'a');
-    const QString cut(254, u'a');
-
-    QTest::newRow("names-ignore-case") << QByteArray("[a]\nK=v") << "v";
-    QTest::newRow("first-section-wins") << QByteArray("[A]\nk=1\n[a]\nk=2") << "1";
-    QTest::newRow("repeated-section-unseen") << QByteArray("[A]\nj=1\n[a]\nk=2") << "<none>";
-    QTest::newRow("first-key-wins") << QByteArray("[A]\nk=1\nK=2") << "1";
-    QTest::newRow("empty-value-is-present") << QByteArray("[A]\nk=\nk=2") << "";
-    QTest::newRow("blanks-around-names-and-value") << QByteArray("[ A ]\n \tk\t=  v w \t") << "v w";
-    QTest::newRow("double-quotes-removed") << QByteArray("[A]\nk=\" x \"") << " x ";
-    QTest::newRow("mismatched-quotes-kept") << QByteArray("[A]\nk=\"x'") << "\"x'";
-    QTest::newRow("commas-and-equals-kept") << QByteArray("[A]\nk=a,b=c") << "a,b=c";
-    QTest::newRow("comment-skipped") << QByteArray("[A]\n ;k=1\nk=2") << "2";
-    QTest::newRow("crlf-line-ends") << QByteArray("[A]\r\nj=1\r\nk=2\r\n") << "2";
-    QTest::newRow("line-without-equals-skipped") << QByteArray("[A]\nk\nk=1") << "1";
-    QTest::newRow("line-with-nul-skipped") << QByteArray("[A]\nk=\0x\nk=2", 12) << "2";
-    QTest::newRow("invalid-utf8-replaced") << QByteArray("[A]\nk=\xFF"
-                                                         "ok")
-                                           << "\uFFFDok";
-    QTest::newRow("key-before-any-section-unseen") << QByteArray("k=1\n[A]") << "<none>";
-    QTest::newRow("byte-order-mark") << QByteArray("\xEF\xBB\xBF[A]\nk=1") << "1";
-    QTest::newRow("value-cut-at-254") << QByteArray("[A]\nk=" + longValue) << cut;
-    QTest::newRow("quotes-removed-before-cut") << QByteArray("[A]\nk=\"" + longValue + "\"") << cut;
-}
-
-void TestSettings::lookup()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(QString, expected);
-    const ProfileFile profile = ProfileFile::fromText(text);
-    const QString *found = profile.find(QStringLiteral(" a "), QStringLiteral("K"));
-    QCOMPARE(found ? *found : QStringLiteral("<none>"), expected);
-    QCOMPARE(read(write(text, QStringLiteral("lookup.ini"))), expected);
-}
-
-void TestSettings::changedFileIsSeen_data()
-{
-    QTest::addColumn<QByteArray>("second");
-    QTest::addColumn<int>("secondsLater"); // -1: the file is removed
-    QTest::addColumn<QString>("expected");
-    // A grown file gets its old time back: only the size tells the change.
-    QTest::newRow("grown-file-same-time") << QByteArray("[A]\nk=longer") << 0 << "longer";
-    QTest::newRow("same-size-newer-time") << QByteArray("[A]\nk=two") << 2 << "two";
-    QTest::newRow("file-removed") << QByteArray() << -1 << "<none>";
-}
-
-void TestSettings::changedFileIsSeen()
-{
-    QFETCH(QByteArray, second);
-    QFETCH(int, secondsLater);
-    QFETCH(QString, expected);
-    const QString name = QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(".ini");
-    const QString path = write("[A]\nk=one", name);
-    QCOMPARE(read(path), QStringLiteral("one"));
-    if (secondsLater < 0) {
-        QVERIFY(QFile::remove(path));
-    } else {
-        const QDateTime before = QFileInfo(path).lastModified();
-        write(second, name);
-        QFile f(path);
-        QVERIFY(f.open(QIODevice::ReadWrite));
-        QVERIFY(f.setFileTime(before.addSecs(secondsLater), QFileDevice::FileModificationTime));
-    }
-    QCOMPARE(read(path), expected);
-}
-
-void TestSettings::pipeOrFolderReadsAsMissing()
-{
-    // Opening a pipe would wait for a writer that never comes.
-    const QString pipe = m_dir.filePath(QStringLiteral("pipe.ini"));
-    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    QCOMPARE(read(pipe), QStringLiteral("<none>"));
-    QCOMPARE(read(m_dir.path()), QStringLiteral("<none>"));
-}
-
-void TestSettings::junkParsesInLinearTime_data()
-{
-    QTest::addColumn<bool>("oneLine");
-    QTest::newRow("random-bytes") << false;
-    QTest::newRow("one-ten-megabyte-line") << true;
-}
-
-void TestSettings::junkParsesInLinearTime()
-{
-    QFETCH(bool, oneLine);
-    QByteArray junk(10 * 1024 * 1024, Qt::Uninitialized);
-    QRandomGenerator random(20260101);
-    for (char &c : junk) {
-        c = char(random.bounded(256));
-        if (oneLine && (c == '\n' || c == '\r'))
-            c = '=';
-    }
-    const QString path = write("[A]\n" + junk, QStringLiteral("junk.ini"));
-    QElapsedTimer timer;
-    timer.start();
-    QCOMPARE(read(path), QStringLiteral("<none>"));
-    qDebug("10 MB of junk parsed in %lld ms", timer.elapsed());
-    QVERIFY2(timer.elapsed() < 10000, "parsing must stay linear in the file's size");
-}
 
 QTEST_GUILESS_MAIN(TestSettings)
 #include "tst_settings.moc"
