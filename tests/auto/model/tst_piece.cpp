@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
-#include "model/error.h"
 #include "model/piecemodel.h"
 
 #include <QTest>
@@ -121,30 +120,6 @@ private Q_SLOTS:
         QCOMPARE(PieceModel::shared().piece.PieceName, DefaultPieceName);
         QCOMPARE(PieceModel::shared().piece.PrinterLeft, 0.25f);
         QCOMPARE(int(PieceModel::shared().EnvelopeOrientation), int(eoLandscape));
-    }
-
-    void int16Overflow_data()
-    {
-        QTest::addColumn<qint64>("value");
-        QTest::addColumn<bool>("fits");
-        QTest::newRow("largest") << qint64(32767) << true;
-        QTest::newRow("smallest") << qint64(-32768) << true;
-        QTest::newRow("one-over") << qint64(32768) << false;
-        QTest::newRow("one-under") << qint64(-32769) << false;
-    }
-
-    void int16Overflow()
-    {
-        QFETCH(qint64, value);
-        QFETCH(bool, fits);
-        bool threw = false;
-        try {
-            QCOMPARE(qint64(toInt16Checked(value, "pieces per page")), value);
-        } catch (const Error &e) {
-            threw = true;
-            QVERIFY(e.message().startsWith(QLatin1String("Overflow")));
-        }
-        QCOMPARE(threw, !fits);
     }
 };
 

@@ -115,6 +115,7 @@ private Q_SLOTS:
         row("halves-round-to-even-down", "2.5", true, 2.5, 2);
         row("negative-half-to-even", "-2.5", true, -2.5, -2);
         row("plus-sign-and-exponent", "+1e2", true, 100.0, 100);
+        row("largest-16-bit", "32767", true, 32767.0, 32767);
         row("smallest-16-bit", "-32768.4", true, -32768.4, -32768);
         row("comma-is-not-a-point", "1,5", false, 0.0, 0);
         row("trailing-unit", "1.5in", false, 0.0, 0);
