@@ -78,75 +78,59 @@ private Q_SLOTS:
         auto csv = [](const char *name) -> QString {
             return QStringLiteral("%DATA%/") + QLatin1String(name);
         };
-        QTest::newRow("value-with-double-quote")
-            << QStringList{pdf, csv("bad_quote.csv")} << 1
-            << QStringList{"bad_quote.csv: line 3: column 2 (\"last\") holds a double quote"};
-        QTest::newRow("empty-file") << QStringList{pdf, csv("empty.csv")} << 1
-                                    << QStringList{"empty.csv: the file is empty", "header row"};
-        QTest::newRow("header-only") << QStringList{pdf, csv("header_only.csv")} << 1
-                                     << QStringList{"header_only.csv: no records after the header"};
-        QTest::newRow("no-address-column")
-            << QStringList{pdf, csv("no_address.csv")} << 1
-            << QStringList{"line 1: the header row names no address"};
-        QTest::newRow("ragged-row")
-            << QStringList{pdf, csv("ragged.csv")} << 1
-            << QStringList{"ragged.csv: line 4: the row has 5 fields but the "
-                           "header has 6"};
-        QTest::newRow("unknown-property")
-            << QStringList{pdf, "--set", "AdressTop=1", csv("people.csv")} << 1
-            << QStringList{"--set AdressTop: the control has no property \"AdressTop\""};
-        QTest::newRow("set-without-equals")
-            << QStringList{pdf, "--set", "ReturnText", csv("people.csv")} << 2
-            << QStringList{"write it as NAME=VALUE"};
-        QTest::newRow("layout-not-json")
-            << QStringList{pdf, "--layout", csv("broken_layout.json"), csv("people.csv")} << 1
-            << QStringList{"--layout", "broken_layout.json"};
-        QTest::newRow("pdf-folder-missing")
-            << QStringList{"--pdf", "%OUT%/no/such/folder/out.pdf", csv("people.csv")} << 1
-            << QStringList{"does not exist"};
-        QTest::newRow("pdf-and-printer") << QStringList{pdf, "--printer", "lp", csv("people.csv")}
-                                         << 2 << QStringList{"either --pdf or --printer"};
-        QTest::newRow("unknown-printer")
-            << QStringList{"--printer", "no-such-printer", csv("people.csv")} << 1
-            << QStringList{"there is no printer named \"no-such-printer\""};
-        QTest::newRow("unknown-piece")
-            << QStringList{pdf, "--piece", "5160", csv("people.csv")} << 2
-            << QStringList{"no piece \"5160\"; did you mean \"5160 - Address Labels\""};
-        QTest::newRow("unknown-piece-in-layout")
-            << QStringList{pdf, "--layout", csv("unknown_piece_layout.json"), csv("people.csv")}
-            << 2
-            << QStringList{"unknown_piece_layout.json: the catalogue has no piece \"5160 Address "
-                           "Labels\"; did you mean \"5160 - Address Labels\""};
-        QTest::newRow("text-over-64-kib")
-            << QStringList{pdf, "--set", "ReturnText=" + QString(70000, QLatin1Char('x')),
-                           csv("people.csv")}
-            << 1
-            << QStringList{"ReturnText is 70000 characters long; a text may have at most 65536"};
-        QTest::newRow("length-beyond-any-sheet")
-            << QStringList{pdf, "--set", "AddressTop=250", csv("people.csv")} << 1
-            << QStringList{"AddressTop is 250 in; a length on a sheet is from 0 to 100 in"};
-        QTest::newRow("scale-beyond-the-range")
-            << QStringList{pdf, "--set", "PrinterScaleX=120", csv("people.csv")} << 1
-            << QStringList{"PrinterScaleX is 120 %; the printer's scale is from 90 to 110 %"};
-        QTest::newRow("unknown-option")
-            << QStringList{pdf, "--colour", "red", csv("people.csv")} << 2
-            << QStringList{"quirra print: Unknown option 'colour'"};
-        QTest::newRow("copies-not-a-whole-number")
-            << QStringList{pdf, "--copies-column", "Last", csv("people.csv")} << 1
-            << QStringList{"people.csv: line 2: the copies column \"Last\" holds \"Holloway\""};
-        QTest::newRow("pages-beyond-the-run")
-            << QStringList{pdf, "--pages", "5-6", csv("people.csv")} << 1
-            << QStringList{"pages 5-6: the pieces fill fewer pages than that"};
-        QTest::newRow("pages-backwards") << QStringList{pdf, "--pages", "3-2", csv("people.csv")}
-                                         << 2 << QStringList{"--pages 3-2: give a page or a range"};
-        QTest::newRow("start-beyond-the-sheet")
-            << QStringList{pdf,       "--piece", "5160 - Address Labels",
-                           "--start", "31",      csv("people.csv")}
-            << 1 << QStringList{"--start 31: the sheet of \"5160 - Address Labels\" has 30 slots"};
+        const auto row = [](const char *tag, const QStringList &arguments, int status,
+                            const QStringList &message) {
+            QTest::newRow(tag) << arguments << status << message;
+        };
+        row("value-with-double-quote", {pdf, csv("bad_quote.csv")}, 1,
+            {"bad_quote.csv: line 3: column 2 (\"last\") holds a double quote"});
+        row("empty-file", {pdf, csv("empty.csv")}, 1,
+            {"empty.csv: the file is empty", "header row"});
+        row("header-only", {pdf, csv("header_only.csv")}, 1,
+            {"header_only.csv: no records after the header"});
+        row("no-address-column", {pdf, csv("no_address.csv")}, 1,
+            {"line 1: the header row names no address"});
+        row("ragged-row", {pdf, csv("ragged.csv")}, 1,
+            {"ragged.csv: line 4: the row has 5 fields but the header has 6"});
+        row("unknown-property", {pdf, "--set", "AdressTop=1", csv("people.csv")}, 1,
+            {"--set AdressTop: the control has no property \"AdressTop\""});
+        row("set-without-equals", {pdf, "--set", "ReturnText", csv("people.csv")}, 2,
+            {"write it as NAME=VALUE"});
+        row("layout-not-json", {pdf, "--layout", csv("broken_layout.json"), csv("people.csv")}, 1,
+            {"--layout", "broken_layout.json"});
+        row("pdf-folder-missing", {"--pdf", "%OUT%/no/such/folder/out.pdf", csv("people.csv")}, 1,
+            {"does not exist"});
+        row("pdf-and-printer", {pdf, "--printer", "lp", csv("people.csv")}, 2,
+            {"either --pdf or --printer"});
+        row("unknown-printer", {"--printer", "no-such-printer", csv("people.csv")}, 1,
+            {"there is no printer named \"no-such-printer\""});
+        row("unknown-piece", {pdf, "--piece", "5160", csv("people.csv")}, 2,
+            {"no piece \"5160\"; did you mean \"5160 - Address Labels\""});
+        row("unknown-piece-in-layout",
+            {pdf, "--layout", csv("unknown_piece_layout.json"), csv("people.csv")}, 2,
+            {"unknown_piece_layout.json: the catalogue has no piece \"5160 Address "
+             "Labels\"; did you mean \"5160 - Address Labels\""});
+        row("text-over-64-kib",
+            {pdf, "--set", "ReturnText=" + QString(70000, QLatin1Char('x')), csv("people.csv")}, 1,
+            {"ReturnText is 70000 characters long; a text may have at most 65536"});
+        row("length-beyond-any-sheet", {pdf, "--set", "AddressTop=250", csv("people.csv")}, 1,
+            {"AddressTop is 250 in; a length on a sheet is from 0 to 100 in"});
+        row("scale-beyond-the-range", {pdf, "--set", "PrinterScaleX=120", csv("people.csv")}, 1,
+            {"PrinterScaleX is 120 %; the printer's scale is from 90 to 110 %"});
+        row("unknown-option", {pdf, "--colour", "red", csv("people.csv")}, 2,
+            {"quirra print: Unknown option 'colour'"});
+        row("copies-not-a-whole-number", {pdf, "--copies-column", "Last", csv("people.csv")}, 1,
+            {"people.csv: line 2: the copies column \"Last\" holds \"Holloway\""});
+        row("pages-beyond-the-run", {pdf, "--pages", "5-6", csv("people.csv")}, 1,
+            {"pages 5-6: the pieces fill fewer pages than that"});
+        row("pages-backwards", {pdf, "--pages", "3-2", csv("people.csv")}, 2,
+            {"--pages 3-2: give a page or a range"});
+        row("start-beyond-the-sheet",
+            {pdf, "--piece", "5160 - Address Labels", "--start", "31", csv("people.csv")}, 1,
+            {"--start 31: the sheet of \"5160 - Address Labels\" has 30 slots"});
         // A layout that cannot be laid out fails in the print run itself.
-        QTest::newRow("no-piece-across")
-            << QStringList{pdf, "--set", "PieceNumAcross=0", csv("people.csv")} << 1
-            << QStringList{"has 0 pieces across; set PieceNumAcross to 1 or more"};
+        row("no-piece-across", {pdf, "--set", "PieceNumAcross=0", csv("people.csv")}, 1,
+            {"has 0 pieces across; set PieceNumAcross to 1 or more"});
     }
 
     void badInputLeavesNoFile()
