@@ -244,36 +244,33 @@ private Q_SLOTS:
 
         const QStringList address{"Margaret Holloway", "1427 Birchwood Lane",
                                   "Springfield, IL 62704"};
-        QTest::newRow("text-with-line-break")
-            << QStringList{"--set", "ReturnText=ACME Mail\\n1 Main St"}
-            << QStringList{"ACME Mail", "1 Main St"} + address << 312.0;
-        QTest::newRow("token-from-a-column")
-            << QStringList{"--set", "Message1Text=Dear <<salutation>>"}
-            << address + QStringList{"Dear Ms. Holloway"} << 312.0;
-        QTest::newRow("later-set-wins")
-            << QStringList{"--set", "ReturnText=First", "--set", "ReturnText=Second"}
-            << QStringList{"Second"} + address << 312.0;
-        QTest::newRow("bool-hides-the-address")
-            << QStringList{"--set", "ReturnText=Sender", "--set", "AddressVisible=false"}
-            << QStringList{"Sender"} << 0.0;
-        QTest::newRow("bool-as-number")
-            << QStringList{"--set", "AddressVisible=0", "--set", "AddressVisible=1"} << address
-            << 312.0;
+        const auto row = [](const char *tag, const QStringList &options, const QStringList &lines,
+                            double addressLeft) {
+            QTest::newRow(tag) << options << lines << addressLeft;
+        };
+        row("text-with-line-break", {"--set", "ReturnText=ACME Mail\\n1 Main St"},
+            QStringList{"ACME Mail", "1 Main St"} + address, 312.0);
+        row("token-from-a-column", {"--set", "Message1Text=Dear <<salutation>>"},
+            address + QStringList{"Dear Ms. Holloway"}, 312.0);
+        row("later-set-wins", {"--set", "ReturnText=First", "--set", "ReturnText=Second"},
+            QStringList{"Second"} + address, 312.0);
+        row("bool-hides-the-address",
+            {"--set", "ReturnText=Sender", "--set", "AddressVisible=false"}, {"Sender"}, 0.0);
+        row("bool-as-number", {"--set", "AddressVisible=0", "--set", "AddressVisible=1"}, address,
+            312.0);
         // The saved layout moves the address to 0.5 inch from the envelope's edge.
         const QStringList layout{"--layout", "%OUT%/layout.json"};
-        QTest::newRow("layout-alone") << layout << QStringList{"From the layout"} + address << 36.0;
-        QTest::newRow("set-overrides-layout")
-            << layout + QStringList{"--set", "ReturnText=Overridden"}
-            << QStringList{"Overridden"} + address << 36.0;
+        row("layout-alone", layout, QStringList{"From the layout"} + address, 36.0);
+        row("set-overrides-layout", layout + QStringList{"--set", "ReturnText=Overridden"},
+            QStringList{"Overridden"} + address, 36.0);
         // Choosing the piece again lays the items out afresh; texts stay, and
         // the empty ones get no placeholder.
-        QTest::newRow("piece-reloads-default-boxes")
-            << layout + QStringList{"--piece", "Size 10 - Envelope"}
-            << QStringList{"From the layout"} + address << 312.0;
+        row("piece-reloads-default-boxes", layout + QStringList{"--piece", "Size 10 - Envelope"},
+            QStringList{"From the layout"} + address, 312.0);
         // --set comes after --piece, wherever it stands on the command line.
-        QTest::newRow("set-applies-after-piece")
-            << layout + QStringList{"--set", "AddressLeft=0.5", "--piece", "Size 10 - Envelope"}
-            << QStringList{"From the layout"} + address << 36.0;
+        row("set-applies-after-piece",
+            layout + QStringList{"--set", "AddressLeft=0.5", "--piece", "Size 10 - Envelope"},
+            QStringList{"From the layout"} + address, 36.0);
     }
 
     void printedPage()

@@ -23,30 +23,28 @@ private Q_SLOTS:
         QTest::addColumn<int>("paper");
         using S = QList<float>;
         const S no10{1, 1, 9.5f, 4.125f, 9.5f, 4.125f, 0, 0};
-        QTest::newRow("no10-envelope-is-landscape-paper-20")
-            << no10 << "4 1/8 x 9 1/2" << 0.f << 0.f << 1 << 20;
-        QTest::newRow("letter-label-sheet-is-portrait")
-            << S{3, 10, 2.625f, 1, 2.75f, 1, 0.1875f, 0.5f} << "Letter (8 1/2 x 11 in)" << 8.5f
-            << 11.f << 0 << 1;
-        QTest::newRow("legal-that-really-is-8.5x14")
-            << S{1, 1, 8.5f, 14, 8.5f, 14, 0, 0} << "8 1/2 x 14" << 8.5f << 14.f << 0 << 5;
-        QTest::newRow("a4-sheet-mentioning-14-is-a4")
-            << S{3, 7, 2.5f, 1.5f, 2.6f, 1.5f, 0.2f, 0.6f} << "A4 (14 up)" << 8.2677f << 11.6929f
-            << 0 << 9;
-        QTest::newRow("c6-envelope-mm-description-is-c6")
-            << S{1, 1, 6.378f, 4.4882f, 6.378f, 4.4882f, 0, 0} << "C6 (114 x 162 mm)" << 6.378f
-            << 4.4882f << 1 << 31;
-        QTest::newRow("dl-envelope") << S{1, 1, 8.6614f, 4.3307f, 8.6614f, 4.3307f, 0, 0} << "DL"
-                                     << 8.6614f << 4.3307f << 1 << 27;
-        QTest::newRow("square-sheet-tie-is-portrait-custom-paper")
-            << S{2, 2, 2, 2, 3, 3, 1, 1} << "6 x 6" << 6.f << 6.f << 0 << 256;
-        QTest::newRow("continuous-4-up-row-is-a-custom-page")
-            << S{4, 1, 3.5f, 0.9375f, 3.6f, 1, 0.25f, 0} << "Continuous 14.8 in wide" << 14.8f
-            << 1.f << 1 << 256;
-        QTest::newRow("size-unknown-and-text-not-exactly-no10-is-letter")
-            << no10 << "4 1/8 x 9 1/2 " << 0.f << 0.f << 1 << 1;
-        QTest::newRow("only-one-piece-reaches-across")
-            << S{1, 3, 5, 1, 0, 1.5f, 0, 0} << "" << 0.f << 0.f << 1 << 1;
+        const auto row = [](const char *tag, const QList<float> &sheet, const QString &pageSize,
+                            float pageW, float pageH, int orientation, int paper) {
+            QTest::newRow(tag) << sheet << pageSize << pageW << pageH << orientation << paper;
+        };
+        row("no10-envelope-is-landscape-paper-20", no10, "4 1/8 x 9 1/2", 0.f, 0.f, 1, 20);
+        row("letter-label-sheet-is-portrait", S{3, 10, 2.625f, 1, 2.75f, 1, 0.1875f, 0.5f},
+            "Letter (8 1/2 x 11 in)", 8.5f, 11.f, 0, 1);
+        row("legal-that-really-is-8.5x14", S{1, 1, 8.5f, 14, 8.5f, 14, 0, 0}, "8 1/2 x 14", 8.5f,
+            14.f, 0, 5);
+        row("a4-sheet-mentioning-14-is-a4", S{3, 7, 2.5f, 1.5f, 2.6f, 1.5f, 0.2f, 0.6f},
+            "A4 (14 up)", 8.2677f, 11.6929f, 0, 9);
+        row("c6-envelope-mm-description-is-c6", S{1, 1, 6.378f, 4.4882f, 6.378f, 4.4882f, 0, 0},
+            "C6 (114 x 162 mm)", 6.378f, 4.4882f, 1, 31);
+        row("dl-envelope", S{1, 1, 8.6614f, 4.3307f, 8.6614f, 4.3307f, 0, 0}, "DL", 8.6614f,
+            4.3307f, 1, 27);
+        row("square-sheet-tie-is-portrait-custom-paper", S{2, 2, 2, 2, 3, 3, 1, 1}, "6 x 6", 6.f,
+            6.f, 0, 256);
+        row("continuous-4-up-row-is-a-custom-page", S{4, 1, 3.5f, 0.9375f, 3.6f, 1, 0.25f, 0},
+            "Continuous 14.8 in wide", 14.8f, 1.f, 1, 256);
+        row("size-unknown-and-text-not-exactly-no10-is-letter", no10, "4 1/8 x 9 1/2 ", 0.f, 0.f, 1,
+            1);
+        row("only-one-piece-reaches-across", S{1, 3, 5, 1, 0, 1.5f, 0, 0}, "", 0.f, 0.f, 1, 1);
     }
 
     void derivePageSetup()

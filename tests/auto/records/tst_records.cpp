@@ -246,42 +246,37 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("run");
 
         const QByteArray h = fixture::Header;
-        QTest::newRow("three-records-city-comma-kept")
-            << h + John + John + John << QStringList{JohnRead, JohnRead, JohnRead};
-        QTest::newRow("header-only") << h << QStringList();
-        QTest::newRow("wrong-case-header")
-            << QByteArray(h).replace("nm_first", "NM_FIRST") + John << QStringList();
-        QTest::newRow("unquoted-values-lose-blanks-and-tabs")
-            << QByteArray(h).replace("\"", "").replace("zip", " zip\t") +
-                   "  a\t ,b,c,d,e,f,g,h,i,j, k \r\n"
-            << QStringList{Letters};
-        QTest::newRow("text-after-closing-quote-skipped")
-            << h + "\"a\"junk,\"b\" ,c,d,e,f,g,h,i,j,\"k\"x\r\n"
-            << QStringList{Letters};
-        QTest::newRow("line-ends-separate-like-commas")
-            << QByteArray(h).replace("\r\n", "\n") + "a,b,c\r\nd,e\rf,g,h,i,j,k\n"
-            << QStringList{Letters};
-        QTest::newRow("truncated-record-dropped-whole")
-            << h + John + "\"Jane\",\"\",\"Doe\"" << QStringList{JohnRead};
-        QTest::newRow("file-ends-after-tenth-value")
-            << h + "a,b,c,d,e,f,g,h,i,j\r\n"
-            << QStringList{QStringLiteral("a|b|c|d|e|f|g|h|i|j|")};
-        QTest::newRow("utf8-and-invalid-bytes")
-            << h + "\"Zo\xc3\xab\",\"\xff\",c,d,e,f,g,h,i,j,k\r\n"
-            << QStringList{QStringLiteral("Zo\u00eb|\ufffd|c|d|e|f|g|h|i|j|k")};
-        QTest::newRow("unclosed-quote-runs-to-the-end")
-            << h + "a,b,c,d,e,f,g,h,i,j,\"k,l\r\nm"
-            << QStringList{QStringLiteral("a|b|c|d|e|f|g|h|i|j|k,l\r\nm")};
+        const auto row = [](const char *tag, const QByteArray &bytes, const QStringList &run) {
+            QTest::newRow(tag) << bytes << run;
+        };
+        row("three-records-city-comma-kept", h + John + John + John,
+            {JohnRead, JohnRead, JohnRead});
+        row("header-only", h, QStringList());
+        row("wrong-case-header", QByteArray(h).replace("nm_first", "NM_FIRST") + John,
+            QStringList());
+        row("unquoted-values-lose-blanks-and-tabs",
+            QByteArray(h).replace("\"", "").replace("zip", " zip\t") +
+                "  a\t ,b,c,d,e,f,g,h,i,j, k \r\n",
+            {Letters});
+        row("text-after-closing-quote-skipped", h + "\"a\"junk,\"b\" ,c,d,e,f,g,h,i,j,\"k\"x\r\n",
+            {Letters});
+        row("line-ends-separate-like-commas",
+            QByteArray(h).replace("\r\n", "\n") + "a,b,c\r\nd,e\rf,g,h,i,j,k\n", {Letters});
+        row("truncated-record-dropped-whole", h + John + "\"Jane\",\"\",\"Doe\"", {JohnRead});
+        row("file-ends-after-tenth-value", h + "a,b,c,d,e,f,g,h,i,j\r\n",
+            {QStringLiteral("a|b|c|d|e|f|g|h|i|j|")});
+        row("utf8-and-invalid-bytes", h + "\"Zo\xc3\xab\",\"\xff\",c,d,e,f,g,h,i,j,k\r\n",
+            {QStringLiteral("Zo\u00eb|\ufffd|c|d|e|f|g|h|i|j|k")});
+        row("unclosed-quote-runs-to-the-end", h + "a,b,c,d,e,f,g,h,i,j,\"k,l\r\nm",
+            {QStringLiteral("a|b|c|d|e|f|g|h|i|j|k,l\r\nm")});
         // The file is read in 64 KiB chunks: a CR ends the first chunk and its
         // LF starts the next; then a closing quote ends the first chunk.
         for (const int quoteAt : {65535 - 21, 65535}) {
             const qsizetype fill = quoteAt - h.size() - 1;
-            QTest::newRow(quoteAt == 65535 ? "closing-quote-ends-a-chunk"
-                                           : "crlf-split-by-a-chunk-boundary")
-                << h + '"' + QByteArray(fill, 'a') + "\",b,c,d,e,f,g,h,i,j,k\r\n" + John
-                << QStringList{QString(fill, QLatin1Char('a')) +
-                                   QStringLiteral("|b|c|d|e|f|g|h|i|j|k"),
-                               JohnRead};
+            row(quoteAt == 65535 ? "closing-quote-ends-a-chunk" : "crlf-split-by-a-chunk-boundary",
+                h + '"' + QByteArray(fill, 'a') + "\",b,c,d,e,f,g,h,i,j,k\r\n" + John,
+                {QString(fill, QLatin1Char('a')) + QStringLiteral("|b|c|d|e|f|g|h|i|j|k"),
+                 JohnRead});
         }
     }
 
@@ -587,33 +582,22 @@ private Q_SLOTS:
         QTest::addColumn<QString>("zip");
         QTest::addColumn<QString>("routing");
         QTest::addColumn<QString>("bars");
+        const auto row = [](const char *tag, const QString &barCode, const QString &zip,
+                            const QString &routing, const QString &bars) {
+            QTest::newRow(tag) << barCode << zip << routing << bars;
+        };
         // The postal service's own examples: one tracking code with each length
         // of routing code.
-        QTest::newRow("no-routing")
-            << "01234567094987654321"
-            << ""
-            << ""
-            << "ATTFATTDTTADTAATTDTDTATTDAFDDFADFDFTFFFFFTATFAAAATDFFTDAADFTFDTDT";
-        QTest::newRow("zip5-after-dash")
-            << "01234567094987654321-01234"
-            << "99999"
-            << "01234"
-            << "DTTAFADDTTFTDTFTFDTDDADADAFADFATDDFTAAAFDTTADFAAATDFDTDFADDDTDFFT";
-        QTest::newRow("zip9-from-record")
-            << "01234567094987654321"
-            << "01234-5678"
-            << "012345678"
-            << "ADFTTAFDTTTTFATTADTAAATFTFTATDAAAFDDADATATDTDTTDFDTDATADADTDFFTFA";
-        QTest::newRow("zip11-run-on")
-            << "0123456709498765432101234567891"
-            << ""
-            << "01234567891"
-            << "AADTFFDFTDADTAADAATFDTDDAAADDTDTTDAFADADDDTFFFDDTTTADFAAADFTDAADA";
-        QTest::newRow("zip11-after-blank")
-            << " 01234567094987654321 01234567891 "
-            << "12345"
-            << "01234567891"
-            << "AADTFFDFTDADTAADAATFDTDDAAADDTDTTDAFADADDDTFFFDDTTTADFAAADFTDAADA";
+        row("no-routing", "01234567094987654321", "", "",
+            "ATTFATTDTTADTAATTDTDTATTDAFDDFADFDFTFFFFFTATFAAAATDFFTDAADFTFDTDT");
+        row("zip5-after-dash", "01234567094987654321-01234", "99999", "01234",
+            "DTTAFADDTTFTDTFTFDTDDADADAFADFATDDFTAAAFDTTADFAAATDFDTDFADDDTDFFT");
+        row("zip9-from-record", "01234567094987654321", "01234-5678", "012345678",
+            "ADFTTAFDTTTTFATTADTAAATFTFTATDAAAFDDADATATDTDTTDFDTDATADADTDFFTFA");
+        row("zip11-run-on", "0123456709498765432101234567891", "", "01234567891",
+            "AADTFFDFTDADTAADAATFDTDDAAADDTDTTDAFADADDDTFFFDDTTTADFAAADFTDAADA");
+        row("zip11-after-blank", " 01234567094987654321 01234567891 ", "12345", "01234567891",
+            "AADTFFDFTDADTAADAATFDTDDAAADDTDTTDAFADADDDTFFFDDTTTADFAAADFTDAADA");
     }
 
     void encodes()
@@ -634,27 +618,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("barCode");
         QTest::addColumn<QString>("zip");
         QTest::addColumn<QString>("why");
-        QTest::newRow("letters") << "0123456709498765432A"
-                                 << "98101"
-                                 << "holds more than digits";
-        QTest::newRow("short") << "0123456709498765432"
-                               << "98101"
-                               << "has 19 digits";
-        QTest::newRow("routing-of-one") << "012345670949876543219"
-                                        << "98101"
-                                        << "has 21 digits";
-        QTest::newRow("two-separators") << "01234567094987654321--01234"
-                                        << ""
-                                        << "holds more than digits";
-        QTest::newRow("identifier-above-4") << "05234567094987654321"
-                                            << "98101"
-                                            << "second digit";
-        QTest::newRow("zip-of-four") << "01234567094987654321"
-                                     << "9810"
-                                     << "gives none";
-        QTest::newRow("empty") << "  "
-                               << "98101"
-                               << "empty";
+        const auto row = [](const char *tag, const QString &barCode, const QString &zip,
+                            const QString &why) { QTest::newRow(tag) << barCode << zip << why; };
+        row("letters", "0123456709498765432A", "98101", "holds more than digits");
+        row("short", "0123456709498765432", "98101", "has 19 digits");
+        row("routing-of-one", "012345670949876543219", "98101", "has 21 digits");
+        row("two-separators", "01234567094987654321--01234", "", "holds more than digits");
+        row("identifier-above-4", "05234567094987654321", "98101", "second digit");
+        row("zip-of-four", "01234567094987654321", "9810", "gives none");
+        row("empty", "  ", "98101", "empty");
     }
 
     void refuses()

@@ -203,12 +203,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("barCode");
         QTest::addColumn<QString>("zip");
         QTest::addColumn<int>("align");
-        QTest::newRow("zip5-after-dash") << "01234567094987654321-01234"
-                                         << "99999" << int(haLeft);
-        QTest::newRow("zip11-run-on") << "0123456709498765432101234567891"
-                                      << "" << int(haCenter);
-        QTest::newRow("zip9-from-record") << "01234567094987654321"
-                                          << "01234-5678" << int(haLeft);
+        const auto row = [](const char *tag, const QString &barCode, const QString &zip,
+                            int align) { QTest::newRow(tag) << barCode << zip << align; };
+        row("zip5-after-dash", "01234567094987654321-01234", "99999", int(haLeft));
+        row("zip11-run-on", "0123456709498765432101234567891", "", int(haCenter));
+        row("zip9-from-record", "01234567094987654321", "01234-5678", int(haLeft));
     }
 
     void barcodeAsThePostalServiceMeasuresIt()

@@ -106,48 +106,44 @@ private Q_SLOTS:
                 k << int(kind);
             return k;
         };
-        QTest::newRow("clean") << Envelope << int(None) << bob << QList<int>() << 0 << 0
-                               << QString();
+        const auto row = [](const char *tag, const QString &piece, int tweak,
+                            const QStringList &second, const QList<int> &kinds, int record,
+                            int count, const QString &detail) {
+            QTest::newRow(tag) << piece << tweak << second << kinds << record << count << detail;
+        };
+        row("clean", Envelope, int(None), bob, QList<int>(), 0, 0, QString());
         // 162 mm is 459.2 pt; the paper is 459 pt, and nothing is lost.
-        QTest::newRow("clean-c6-on-its-whole-point-paper")
-            << "C6 - Envelope" << int(None) << bob << QList<int>() << 0 << 0 << QString();
-        QTest::newRow("city-line-left-out")
-            << Envelope << int(None)
-            << person("Bob", "Roe", "Troy", "NEW YORK STATE OF AMERICA", "12180-0000-0000-0000")
-            << kinds({NoteKind::CityLineLeftOut}) << 2 << 1 << "twips wide, the limit is 3,500";
-        QTest::newRow("city-shortened")
-            << Envelope << int(None)
-            << person("Bob", "Roe", "Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch")
-            << kinds({NoteKind::CityLineShortened}) << 2 << 1 << "gogogoch,\" cut";
-        QTest::newRow("text-beyond-item")
-            << Envelope << int(LowAddressBox) << bob << kinds({NoteKind::TextBeyondItem}) << 1 << 2
-            << "Address text is";
-        QTest::newRow("text-cut-at-piece")
-            << Labels << int(None) << person("Bob", QStringLiteral("Longname ").repeated(70))
-            << kinds({NoteKind::TextCutAtPiece}) << 2 << 1 << "past the piece's bottom edge";
-        QTest::newRow("item-off-piece")
-            << Labels << int(FramedMessageOffLabel) << bob << kinds({NoteKind::ItemOffPiece}) << 1
-            << 2 << "Message1 box lies wholly outside the piece";
-        QTest::newRow("item-off-page") << Envelope << int(AddressTop25) << bob
-                                       << kinds({NoteKind::TextCutAtPiece, NoteKind::ItemOffPage})
-                                       << 1 << 2 << "lies wholly outside the piece";
-        QTest::newRow("piece-off-page")
-            << Labels << int(MarginTop127) << bob << kinds({NoteKind::PieceOffPage}) << 1 << 2
-            << "lies wholly outside the page";
-        QTest::newRow("undrawable-characters")
-            << Envelope << int(None) << person("Bob", QStringLiteral("Roe\u0378"))
-            << kinds({NoteKind::UndrawableCharacters}) << 2 << 1 << "U+0378";
-        QTest::newRow("accented-letters-are-drawn")
-            << Envelope << int(None) << person("Zoë", QStringLiteral("Ångström")) << QList<int>()
-            << 0 << 0 << QString();
-        QTest::newRow("empty-record")
-            << Envelope << int(None) << QStringList(8, QString()) << kinds({NoteKind::EmptyRecord})
-            << 2 << 1 << "no name and no address";
+        row("clean-c6-on-its-whole-point-paper", "C6 - Envelope", int(None), bob, QList<int>(), 0,
+            0, QString());
+        row("city-line-left-out", Envelope, int(None),
+            person("Bob", "Roe", "Troy", "NEW YORK STATE OF AMERICA", "12180-0000-0000-0000"),
+            kinds({NoteKind::CityLineLeftOut}), 2, 1, "twips wide, the limit is 3,500");
+        row("city-shortened", Envelope, int(None),
+            person("Bob", "Roe", "Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch"),
+            kinds({NoteKind::CityLineShortened}), 2, 1, "gogogoch,\" cut");
+        row("text-beyond-item", Envelope, int(LowAddressBox), bob,
+            kinds({NoteKind::TextBeyondItem}), 1, 2, "Address text is");
+        row("text-cut-at-piece", Labels, int(None),
+            person("Bob", QStringLiteral("Longname ").repeated(70)),
+            kinds({NoteKind::TextCutAtPiece}), 2, 1, "past the piece's bottom edge");
+        row("item-off-piece", Labels, int(FramedMessageOffLabel), bob,
+            kinds({NoteKind::ItemOffPiece}), 1, 2, "Message1 box lies wholly outside the piece");
+        row("item-off-page", Envelope, int(AddressTop25), bob,
+            kinds({NoteKind::TextCutAtPiece, NoteKind::ItemOffPage}), 1, 2,
+            "lies wholly outside the piece");
+        row("piece-off-page", Labels, int(MarginTop127), bob, kinds({NoteKind::PieceOffPage}), 1, 2,
+            "lies wholly outside the page");
+        row("undrawable-characters", Envelope, int(None),
+            person("Bob", QStringLiteral("Roe\u0378")), kinds({NoteKind::UndrawableCharacters}), 2,
+            1, "U+0378");
+        row("accented-letters-are-drawn", Envelope, int(None),
+            person("Zoë", QStringLiteral("Ångström")), QList<int>(), 0, 0, QString());
+        row("empty-record", Envelope, int(None), QStringList(8, QString()),
+            kinds({NoteKind::EmptyRecord}), 2, 1, "no name and no address");
         // The second digit of the tracking code is 0 to 4.
-        QTest::newRow("barcode-invalid")
-            << Envelope << int(Barcode) << bob + QStringList{QString(), "05234567094987654321"}
-            << kinds({NoteKind::BarcodeInvalid}) << 2 << 1
-            << "\"05234567094987654321\": the second digit";
+        row("barcode-invalid", Envelope, int(Barcode),
+            bob + QStringList{QString(), "05234567094987654321"}, kinds({NoteKind::BarcodeInvalid}),
+            2, 1, "\"05234567094987654321\": the second digit");
     }
 
     void notes()

@@ -164,25 +164,18 @@ private Q_SLOTS:
         // TextBefore, TextAfter, TextAfterLast, TrimBlanks, TrimTrailingBlanks, joined by "/".
         QTest::addColumn<QString>("results");
 
-        QTest::newRow("first-and-last-differ") << "a|b|c"
-                                               << "|"
-                                               << "a/b|c/c/a|b|c/a|b|c";
-        QTest::newRow("absent-separator") << "plain"
-                                          << "|"
-                                          << "plain//plain/plain/plain";
-        QTest::newRow("case-counts") << "aXbxc"
-                                     << "x"
-                                     << "aXb/c/c/aXbxc/aXbxc";
+        const auto row = [](const char *tag, const QString &text, const QString &separator,
+                            const QString &results) {
+            QTest::newRow(tag) << text << separator << results;
+        };
+        row("first-and-last-differ", "a|b|c", "|", "a/b|c/c/a|b|c/a|b|c");
+        row("absent-separator", "plain", "|", "plain//plain/plain/plain");
+        row("case-counts", "aXbxc", "x", "aXb/c/c/aXbxc/aXbxc");
         // An empty separator never occurs, so a list split by it ends at once.
-        QTest::newRow("empty-separator") << "abc"
-                                         << ""
-                                         << "abc//abc/abc/abc";
-        QTest::newRow("blanks-trimmed-inner-kept") << "  1  Main "
-                                                   << "|"
-                                                   << "  1  Main //  1  Main /1  Main/  1  Main";
-        QTest::newRow("only-spaces-are-blanks") << "\tC1\n "
-                                                << "|"
-                                                << "\tC1\n //\tC1\n /\tC1\n/\tC1\n";
+        row("empty-separator", "abc", "", "abc//abc/abc/abc");
+        row("blanks-trimmed-inner-kept", "  1  Main ", "|",
+            "  1  Main //  1  Main /1  Main/  1  Main");
+        row("only-spaces-are-blanks", "\tC1\n ", "|", "\tC1\n //\tC1\n /\tC1\n/\tC1\n");
     }
 
     void splitAndTrim()
@@ -382,18 +375,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("expected"); // the name's pattern, or what the error says
 
-        QTest::newRow("spool-prefix") << "qzv"
-                                      << ""
-                                      << "^qzv\\w{6}\\.tmp$";
-        QTest::newRow("long-prefix-cut-to-three") << "quirra"
-                                                  << ""
-                                                  << "^qui\\w{6}\\.tmp$";
-        QTest::newRow("slash-cannot-leave-the-folder") << "../x"
-                                                       << ""
-                                                       << "^\\.\\._\\w{6}\\.tmp$";
-        QTest::newRow("missing-folder-explained") << "qzv"
-                                                  << "/gone"
-                                                  << "No such file.*TMPDIR";
+        const auto row = [](const char *tag, const QString &prefix, const QString &folder,
+                            const QString &expected) {
+            QTest::newRow(tag) << prefix << folder << expected;
+        };
+        row("spool-prefix", "qzv", "", "^qzv\\w{6}\\.tmp$");
+        row("long-prefix-cut-to-three", "quirra", "", "^qui\\w{6}\\.tmp$");
+        row("slash-cannot-leave-the-folder", "../x", "", "^\\.\\._\\w{6}\\.tmp$");
+        row("missing-folder-explained", "qzv", "/gone", "No such file.*TMPDIR");
     }
 
     void makeTempFileName()
@@ -494,44 +483,33 @@ private Q_SLOTS:
         const int a = int(ItemId::Address), r = int(ItemId::Return), s = int(ItemId::Stamp),
                   m1 = int(ItemId::Message1), m2 = int(ItemId::Message2);
 
-        QTest::newRow("no10-address") << 4.125f << 9.5f << a << B{1.75f, 4.3333f, 1.5f, 3} << true;
-        QTest::newRow("no10-return") << 4.125f << 9.5f << r << B{0.05f, 0.05f, 1.1f, 2} << true;
-        QTest::newRow("no10-stamp") << 4.125f << 9.5f << s << B{0.05f, 8.63f, 0.91f, 0.82f} << true;
-        QTest::newRow("no10-message1-capped")
-            << 4.125f << 9.5f << m1 << B{2.525f, 0.1f, 1.5f, 3} << true;
-        QTest::newRow("no10-message2")
-            << 4.125f << 9.5f << m2 << B{3.525f, 7.9f, 0.5f, 1.5f} << true;
-        QTest::newRow("label-address")
-            << 1.f << 2.625f << a << B{0.0333f, 0.0875f, 0.95f, 2.4938f} << true;
-        QTest::newRow("label-return") << 1.f << 2.625f << r << B{0.05f, 0.05f, 1.1f, 2} << false;
-        QTest::newRow("label-stamp")
-            << 1.f << 2.625f << s << B{0.05f, 1.755f, 0.91f, 0.82f} << false;
-        QTest::newRow("label-message1-floor")
-            << 1.f << 2.625f << m1 << B{-0.6f, 0.1f, 1.5f, 2} << false;
-        QTest::newRow("label-message2")
-            << 1.f << 2.625f << m2 << B{0.4f, 1.025f, 0.5f, 1.5f} << false;
+        const auto row = [](const char *tag, float h, float w, int item, const QList<float> &box,
+                            bool visible) {
+            QTest::newRow(tag) << h << w << item << box << visible;
+        };
+        row("no10-address", 4.125f, 9.5f, a, B{1.75f, 4.3333f, 1.5f, 3}, true);
+        row("no10-return", 4.125f, 9.5f, r, B{0.05f, 0.05f, 1.1f, 2}, true);
+        row("no10-stamp", 4.125f, 9.5f, s, B{0.05f, 8.63f, 0.91f, 0.82f}, true);
+        row("no10-message1-capped", 4.125f, 9.5f, m1, B{2.525f, 0.1f, 1.5f, 3}, true);
+        row("no10-message2", 4.125f, 9.5f, m2, B{3.525f, 7.9f, 0.5f, 1.5f}, true);
+        row("label-address", 1.f, 2.625f, a, B{0.0333f, 0.0875f, 0.95f, 2.4938f}, true);
+        row("label-return", 1.f, 2.625f, r, B{0.05f, 0.05f, 1.1f, 2}, false);
+        row("label-stamp", 1.f, 2.625f, s, B{0.05f, 1.755f, 0.91f, 0.82f}, false);
+        row("label-message1-floor", 1.f, 2.625f, m1, B{-0.6f, 0.1f, 1.5f, 2}, false);
+        row("label-message2", 1.f, 2.625f, m2, B{0.4f, 1.025f, 0.5f, 1.5f}, false);
         // Either side of h = 3.3, where the address bottom meets Message 2's top.
-        QTest::newRow("message2-just-clear")
-            << 3.31f << 4.f << m2 << B{2.71f, 2.4f, 0.5f, 1.5f} << true;
-        QTest::newRow("message2-just-over")
-            << 3.29f << 4.f << m2 << B{2.69f, 2.4f, 0.5f, 1.5f} << false;
+        row("message2-just-clear", 3.31f, 4.f, m2, B{2.71f, 2.4f, 0.5f, 1.5f}, true);
+        row("message2-just-over", 3.29f, 4.f, m2, B{2.69f, 2.4f, 0.5f, 1.5f}, false);
         // Either side of where the stamp meets the address's right edge (w = 5.61)
         // and its top (h = 2.94).
-        QTest::newRow("stamp-just-clear-right")
-            << 2.f << 5.62f << s << B{0.05f, 4.75f, 0.91f, 0.82f} << true;
-        QTest::newRow("stamp-just-over-right")
-            << 2.f << 5.6f << s << B{0.05f, 4.73f, 0.91f, 0.82f} << false;
-        QTest::newRow("stamp-just-clear-above")
-            << 2.95f << 4.f << s << B{0.05f, 3.13f, 0.91f, 0.82f} << true;
-        QTest::newRow("stamp-just-over-above")
-            << 2.93f << 4.f << s << B{0.05f, 3.13f, 0.91f, 0.82f} << false;
+        row("stamp-just-clear-right", 2.f, 5.62f, s, B{0.05f, 4.75f, 0.91f, 0.82f}, true);
+        row("stamp-just-over-right", 2.f, 5.6f, s, B{0.05f, 4.73f, 0.91f, 0.82f}, false);
+        row("stamp-just-clear-above", 2.95f, 4.f, s, B{0.05f, 3.13f, 0.91f, 0.82f}, true);
+        row("stamp-just-over-above", 2.93f, 4.f, s, B{0.05f, 3.13f, 0.91f, 0.82f}, false);
         // The return box's right edge on the address's left one: touching is overlapping.
-        QTest::newRow("return-touching-the-address")
-            << 2.f << 6.075f << r << B{0.05f, 0.05f, 1.1f, 2} << false;
-        QTest::newRow("return-clear-on-the-left")
-            << 2.f << 8.f << r << B{0.05f, 0.05f, 1.1f, 2} << true;
-        QTest::newRow("message1-between-bounds")
-            << 4.f << 6.5f << m1 << B{2.4f, 0.1f, 1.5f, 2.1f} << true;
+        row("return-touching-the-address", 2.f, 6.075f, r, B{0.05f, 0.05f, 1.1f, 2}, false);
+        row("return-clear-on-the-left", 2.f, 8.f, r, B{0.05f, 0.05f, 1.1f, 2}, true);
+        row("message1-between-bounds", 4.f, 6.5f, m1, B{2.4f, 0.1f, 1.5f, 2.1f}, true);
     }
 
     void boxes()
