@@ -80,21 +80,6 @@ QString spooledPdf(const QString &folder, const QString &title, int timeoutMs)
     return {};
 }
 
-// Every page of a PDF in grey at 100 dots an inch, through pdftoppm.
-QList<QImage> render(const QString &pdf)
-{
-    QTemporaryDir folder;
-    if (QProcess::execute(QStringLiteral("pdftoppm"),
-                          {QStringLiteral("-r"), QStringLiteral("100"), QStringLiteral("-gray"),
-                           pdf, folder.filePath(QStringLiteral("page"))}) != 0)
-        return {};
-    QList<QImage> pages;
-    // The page numbers in the names have one width, so they sort as names.
-    for (const QString &name : QDir(folder.path()).entryList(QDir::Files, QDir::Name))
-        pages << QImage(folder.filePath(name)).convertToFormat(QImage::Format_Grayscale8);
-    return pages;
-}
-
 // The share of a's ink with no ink of b on it or a pixel beside it.
 double inkMissing(const QImage &a, const QImage &b)
 {
@@ -127,8 +112,8 @@ double inkMissing(const QImage &a, const QImage &b)
 // turns what is printed on it a quarter. Returns the first difference.
 QString differences(const QString &spooled, const QString &direct)
 {
-    const QList<QImage> got = render(spooled);
-    const QList<QImage> want = render(direct);
+    const QList<QImage> got = pdfprobe::pages(spooled, 100);
+    const QList<QImage> want = pdfprobe::pages(direct, 100);
     if (got.size() != want.size() || want.isEmpty())
         return QStringLiteral("%1 pages rendered, not %2").arg(got.size()).arg(want.size());
     for (qsizetype p = 0; p < want.size(); ++p) {
