@@ -106,25 +106,23 @@ private Q_SLOTS:
         QTest::addColumn<QPoint>("scale"); // PrinterScaleX and Y, percent, about the page's corner
         const QPoint same(100, 100);
 
-        QTest::newRow("seven-on-three-by-two-spill-one")
-            << 7 << 3 << 2 << 2 << QStringList{"360 360"} << 0 << 1 << same;
-        QTest::newRow("eight-on-three-by-two-spill-two")
-            << 8 << 3 << 2 << 2 << QStringList{"360 360", "3960 360"} << 0 << 1 << same;
-        QTest::newRow("six-on-three-by-two-fill-one-page")
-            << 6 << 3 << 2 << 1
-            << QStringList{"360 360", "3960 360", "7560 360", "360 2160", "3960 2160", "7560 2160"}
-            << 0 << 1 << same;
-        QTest::newRow("cancelled-after-four-of-seven")
-            << 7 << 3 << 2 << 1 << QStringList{"360 360", "3960 360", "7560 360", "360 2160"} << 4
-            << 1 << same;
-        QTest::newRow("envelope-one-page-each")
-            << 3 << 1 << 1 << 3 << QStringList{"360 360"} << 0 << 1 << same;
-        QTest::newRow("no-records-no-pages-drawn")
-            << 0 << 3 << 2 << 1 << QStringList() << 0 << 1 << same;
-        QTest::newRow("used-sheet-from-slot-5-next-sheet-from-1")
-            << 3 << 3 << 2 << 2 << QStringList{"360 360"} << 0 << 5 << same;
-        QTest::newRow("scaled-110-across-90-down-before-the-offsets")
-            << 2 << 3 << 2 << 1 << QStringList{"432 288", "4392 288"} << 0 << 1 << QPoint(110, 90);
+        const auto row = [](const char *tag, int records, int across, int down, int pages,
+                            const QStringList &lastPageBoxes, int cancelAfter, int firstSlot,
+                            const QPoint &scale) {
+            QTest::newRow(tag) << records << across << down << pages << lastPageBoxes << cancelAfter
+                               << firstSlot << scale;
+        };
+        row("seven-on-three-by-two-spill-one", 7, 3, 2, 2, {"360 360"}, 0, 1, same);
+        row("eight-on-three-by-two-spill-two", 8, 3, 2, 2, {"360 360", "3960 360"}, 0, 1, same);
+        row("six-on-three-by-two-fill-one-page", 6, 3, 2, 1,
+            {"360 360", "3960 360", "7560 360", "360 2160", "3960 2160", "7560 2160"}, 0, 1, same);
+        row("cancelled-after-four-of-seven", 7, 3, 2, 1,
+            {"360 360", "3960 360", "7560 360", "360 2160"}, 4, 1, same);
+        row("envelope-one-page-each", 3, 1, 1, 3, {"360 360"}, 0, 1, same);
+        row("no-records-no-pages-drawn", 0, 3, 2, 1, QStringList(), 0, 1, same);
+        row("used-sheet-from-slot-5-next-sheet-from-1", 3, 3, 2, 2, {"360 360"}, 0, 5, same);
+        row("scaled-110-across-90-down-before-the-offsets", 2, 3, 2, 1, {"432 288", "4392 288"}, 0,
+            1, QPoint(110, 90));
     }
 
     void pagination()
