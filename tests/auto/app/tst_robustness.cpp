@@ -152,7 +152,6 @@ private Q_SLOTS:
         QFETCH(QStringList, arguments);
         QFETCH(int, status);
         QFETCH(QString, message);
-        QFETCH(int, pages);
 
         QProcessEnvironment env = environment();
         if (junkCatalogue) {
@@ -184,7 +183,7 @@ private Q_SLOTS:
                  qPrintable(QStringLiteral("peak memory %1 MB").arg(childrenPeakMb())));
 
         if (status == 0) {
-            QCOMPARE(pdfprobe::pageSizes(pdf).size(), pages);
+            QTEST(int(pdfprobe::pageSizes(pdf).size()), "pages");
             QVERIFY(pdfprobe::find(pdfprobe::words(pdf), QStringLiteral("Holloway")));
         } else {
             QVERIFY(!QFileInfo::exists(pdf));

@@ -125,21 +125,18 @@ private Q_SLOTS:
     void loadPieceByName()
     {
         QFETCH(QString, name);
-        QFETCH(bool, found);
         QFETCH(QString, layout);
-        QFETCH(QString, pageSize);
-        QFETCH(bool, othersVisible);
 
         PieceModel &m = PieceModel::shared();
         m.piece.IsCustom = 1;
         m.piece.PrinterTop = 0.4f;
-        QCOMPARE(LoadPieceByName(name, m), found);
+        QTEST(LoadPieceByName(name, m), "found");
         const Piece &p = m.piece;
         QCOMPARE(p.PieceName, name);
         QCOMPARE(QString::asprintf("%dx%d %d %d", p.PieceNumAcross, p.PieceNumDown, p.PageSizeNum,
                                    p.PieceOrientation),
                  layout);
-        QCOMPARE(p.PageSize, pageSize);
+        QTEST(p.PageSize, "pageSize");
         QCOMPARE(p.IsCustom, qint16(0));
         QCOMPARE(p.PrinterTop, 0.4f);
         // The items were laid out for this piece.
@@ -147,7 +144,7 @@ private Q_SLOTS:
         QCOMPARE(address.Text, QStringLiteral("Delivery Address"));
         QVERIFY(address.Top > 0 && address.Top + address.Height < p.PieceHeight);
         for (ItemId id : {ItemId::Return, ItemId::Stamp, ItemId::Message1, ItemId::Message2})
-            QCOMPARE(m.item(id).Visible, othersVisible);
+            QTEST(m.item(id).Visible, "othersVisible");
     }
 
     void noCatalogueLeavesGeometryZero()
@@ -321,10 +318,9 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(QString, numbers);
-        QFETCH(QString, pageDesc);
         const PieceSpec s = ReadPieceSpec(Fixture, name);
         QCOMPARE(::numbers(s), numbers);
-        QCOMPARE(s.PageDesc, pageDesc);
+        QTEST(s.PageDesc, "pageDesc");
         QCOMPARE(s.Name, name);
         QVERIFY(!s.IsCustom);
     }
@@ -345,8 +341,7 @@ private Q_SLOTS:
     {
         qputenv("QUIRRA_SYSTEM_DIR", QUIRRA_TEST_DATA);
         QFETCH(QString, name);
-        QFETCH(int, type);
-        QCOMPARE(ReadPieceType(name), type);
+        QTEST(ReadPieceType(name), "type");
     }
 
     void lists_data()
@@ -423,11 +418,10 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QFETCH(bool, ok);
-        QFETCH(double, inches);
         double value = -1;
         QCOMPARE(parseTemplateLength(text, &value), ok);
         if (ok)
-            QCOMPARE(value, inches);
+            QTEST(value, "inches");
     }
 
     // A folder as a user writes one, read through the catalogue the program

@@ -194,7 +194,6 @@ private Q_SLOTS:
     {
         QFETCH(QString, piece);
         QFETCH(int, records);
-        QFETCH(int, pages);
         QFETCH(QString, returnText);
         QFETCH(QSizeF, paper);
 
@@ -221,7 +220,7 @@ private Q_SLOTS:
         // The sheet's own paper, fed in either orientation (a printer turns a
         // landscape page onto upright media).
         const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
-        QCOMPARE(sizes.size(), pages);
+        QTEST(int(sizes.size()), "pages");
         const QSizeF fed =
             (sizes.first().width() > sizes.first().height()) == (paper.width() > paper.height())
                 ? sizes.first()
