@@ -227,9 +227,8 @@ private Q_SLOTS:
                 : sizes.first().transposed();
         QVERIFY2(qAbs(fed.width() - paper.width()) <= 1.5 &&
                      qAbs(fed.height() - paper.height()) <= 1.5,
-                 qPrintable(QStringLiteral("the spooler's page is %1 x %2 pt")
-                                .arg(sizes.first().width())
-                                .arg(sizes.first().height())));
+                 qPrintable(QString::asprintf("the spooler's page is %g x %g pt",
+                                              sizes.first().width(), sizes.first().height())));
 
         // The same run as Qt writes it to a file (other tests check that file
         // piece by piece): here it holds the last record and the return address.

@@ -158,13 +158,10 @@ private Q_SLOTS:
         const QSizeF real(sheet.PageWidth * 72.0, sheet.PageHeight * 72.0);
         if ((page.width() > page.height()) != (real.width() > real.height()))
             page.transpose();
-        QVERIFY2(qAbs(page.width() - real.width()) <= 1.5 &&
-                     qAbs(page.height() - real.height()) <= 1.5,
-                 qPrintable(QStringLiteral("page %1 x %2 pt, sheet %3 x %4 pt")
-                                .arg(sizes.first().width())
-                                .arg(sizes.first().height())
-                                .arg(real.width())
-                                .arg(real.height())));
+        QVERIFY2(
+            qAbs(page.width() - real.width()) <= 1.5 && qAbs(page.height() - real.height()) <= 1.5,
+            qPrintable(QString::asprintf("page %g x %g pt, sheet %g x %g pt", sizes.first().width(),
+                                         sizes.first().height(), real.width(), real.height())));
 
         const Item &address = model.item(ItemId::Address);
         const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
@@ -189,12 +186,8 @@ private Q_SLOTS:
             QVERIFY2(qAbs(w->box.left() - left) < 1 && w->box.top() > top - 1 &&
                          w->box.top() < top + 6 && w->box.right() <= sizes.first().width() &&
                          w->box.bottom() <= sizes.first().height(),
-                     qPrintable(QStringLiteral("%1 at %2, %3 pt; its box at %4, %5 pt")
-                                    .arg(marker)
-                                    .arg(w->box.left())
-                                    .arg(w->box.top())
-                                    .arg(left)
-                                    .arg(top)));
+                     qPrintable(QString::asprintf("Q%d at %g, %g pt; its box at %g, %g pt", slot,
+                                                  w->box.left(), w->box.top(), left, top)));
         }
     }
 
