@@ -5,6 +5,7 @@
 // messages out, read back with the poppler tools.
 #include "pdfprobe.h"
 #include "quirrarun.h"
+#include "spoolfixture.h"
 
 #include "control/quirra.h"
 #include "properties/jsonpropertybag.h"
@@ -140,10 +141,7 @@ private Q_SLOTS:
         QFETCH(QStringList, message);
 
         // An older file of the target's name stays as it was.
-        QFile old(out(QStringLiteral("out.pdf")));
-        QVERIFY(old.open(QIODevice::WriteOnly));
-        old.write("older run");
-        old.close();
+        QVERIFY(fixture::overwrite(out(QStringLiteral("out.pdf")), "older run"));
 
         const Run run = quirra(QStringList{QStringLiteral("print")} + expand(arguments));
         QCOMPARE(run.status, status);
@@ -151,8 +149,7 @@ private Q_SLOTS:
             QVERIFY2(run.err.contains(part), qPrintable(run.err));
         QVERIFY2(!run.err.contains(QLatin1String("records,")), qPrintable(run.err));
 
-        QVERIFY(old.open(QIODevice::ReadOnly));
-        QCOMPARE(old.readAll(), QByteArray("older run"));
+        QCOMPARE(fixture::contents(out(QStringLiteral("out.pdf"))), QByteArray("older run"));
         const QStringList left = QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden);
         QCOMPARE(left, QStringList{QStringLiteral("out.pdf")});
     }
@@ -348,14 +345,10 @@ private Q_SLOTS:
             if (::mknod(native.constData(), S_IFCHR | 0600, makedev(1, 3)) != 0)
                 QSKIP("cannot make a device node here (needs root)");
         } else if (kind == QLatin1String("symlink")) {
-            QFile old(real);
-            QVERIFY(old.open(QIODevice::WriteOnly) && old.write("older run") > 0);
-            old.close();
+            QVERIFY(fixture::overwrite(real, "older run"));
             QVERIFY(QFile::link(QStringLiteral("real.pdf"), path));
         } else {
-            QFile old(path);
-            QVERIFY(old.open(QIODevice::WriteOnly) && old.write("older run") > 0);
-            old.close();
+            QVERIFY(fixture::overwrite(path, "older run"));
             QCOMPARE(::chmod(native.constData(), 0600), 0);
         }
         struct stat before;

@@ -167,10 +167,7 @@ private Q_SLOTS:
         const QString pdf = m_dir->filePath(QStringLiteral("out.pdf"));
         arguments.replaceInStrings(QStringLiteral("%OUT%"), pdf);
         if (!csv.isEmpty()) {
-            QFile input(m_dir->filePath(QStringLiteral("in.csv")));
-            QVERIFY(input.open(QIODevice::WriteOnly));
-            input.write(makeCsv(csv));
-            arguments << input.fileName();
+            arguments << write(QStringLiteral("in.csv"), makeCsv(csv));
         }
 
         const QuirraRun run = runQuirra(m_dir->path(), arguments, {}, env);

@@ -7,7 +7,7 @@
 
 #include "hostrecorder.h"
 #include "pdfprobe.h"
-#include "records/sharedspool.h"
+#include "spoolfixture.h"
 
 #include "printing/printsurface.h"
 #include <optional>
@@ -255,10 +255,7 @@ private Q_SLOTS:
         control.PieceName(QStringLiteral("5160 - Address Labels"));
         feed(control, 3);
         const QString spool = SharedSpool::instance().spoolPath();
-        const QByteArray spooled = [&] {
-            QFile f(spool);
-            return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-        }();
+        const QByteArray spooled = fixture::contents(spool);
 
         control.surface()->setPrinterName(QStringLiteral("No Such Printer Here"));
         control.PrintNow();
@@ -270,9 +267,7 @@ private Q_SLOTS:
 
         // Nothing else is harmed: the spool holds its records, and the same
         // control prints them on the real queue next.
-        QFile file(spool);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), spooled);
+        QCOMPARE(fixture::contents(spool), spooled);
         m_host->messages.clear();
         const QString job = title("afterunknown");
         control.surface()->setPrinterName(m_queue);
