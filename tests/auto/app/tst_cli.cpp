@@ -300,9 +300,7 @@ private Q_SLOTS:
 
     void readsStandardInput()
     {
-        QFile csv(dataFile(QStringLiteral("people.csv")));
-        QVERIFY(csv.open(QIODevice::ReadOnly));
-        const QByteArray bytes = csv.readAll();
+        const QByteArray bytes = fixture::contents(dataFile(QStringLiteral("people.csv")));
         const QString pdf = out(QStringLiteral("stdin.pdf"));
         // The second run replaces the first one's file.
         for (const QStringList &source : {QStringList{"-"}, QStringList()}) {
@@ -546,9 +544,8 @@ private Q_SLOTS:
     void manPageListsEveryOption()
     {
         QFETCH(QString, command);
-        QFile file(QStringLiteral(QUIRRA_SOURCE_ROOT "/doc/quirra.1"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString page = QString::fromUtf8(file.readAll());
+        const QString page = QString::fromUtf8(
+            fixture::contents(QStringLiteral(QUIRRA_SOURCE_ROOT "/doc/quirra.1")));
         QVERIFY(page.contains(QLatin1String(".SS ") + command));
         const Run help = quirra({command, "--help"});
         static const QRegularExpression option(QStringLiteral(R"(^  (?:-\w, )?--([\w-]+))"),
