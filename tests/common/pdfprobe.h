@@ -3,14 +3,18 @@
 #pragma once
 
 // Reads back what a PDF file holds with the poppler tools: page sizes from
-// pdfinfo, words and their boxes from pdftotext -bbox. Lengths in points.
+// pdfinfo, words and their boxes from pdftotext -bbox, the pages as pictures
+// from pdftoppm. Lengths in points.
 
+#include <QDir>
+#include <QImage>
 #include <QList>
 #include <QProcess>
 #include <QRectF>
 #include <QRegularExpression>
 #include <QSizeF>
 #include <QString>
+#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -78,6 +82,18 @@ inline const Word *find(const QList<Word> &words, const QString &text, int page 
         return w.text == text && (page == 0 || w.page == page);
     });
     return it == words.end() ? nullptr : &*it;
+}
+
+/** Every page in grey at that many dots an inch; none when the file cannot be read. */
+inline QList<QImage> pages(const QString &file, int dpi)
+{
+    QTemporaryDir folder;
+    run("pdftoppm", {"-r", QString::number(dpi), "-gray", "-png", file, folder.filePath("p")});
+    QList<QImage> result;
+    // The page numbers in the names have one width, so they sort as names.
+    for (const QString &name : QDir(folder.path()).entryList(QDir::Files, QDir::Name))
+        result << QImage(folder.filePath(name)).convertToFormat(QImage::Format_Grayscale8);
+    return result;
 }
 
 /** Words grouped into lines by page and top edge, top to bottom. */

@@ -26,6 +26,13 @@ function(step what)
     set(step_output "${output}" PARENT_SCOPE)
 endfunction()
 
+# The last step's output must match the pattern; what it means otherwise.
+function(expect pattern meaning)
+    if(NOT step_output MATCHES "${pattern}")
+        message(FATAL_ERROR "installed_host: ${meaning}:\n${step_output}")
+    endif()
+endfunction()
+
 set(prefix ${WORK_DIR}/prefix)
 set(host_build ${WORK_DIR}/host)
 file(REMOVE_RECURSE ${WORK_DIR})
@@ -88,39 +95,27 @@ set(run_env ${CMAKE_COMMAND} -E env --unset=QUIRRA_SYSTEM_DIR --unset=QUIRRA_PAP
 set(pdf ${WORK_DIR}/host-labels.pdf)
 step("running the example host" COMMAND ${run_env} ${host_build}/host ${pdf})
 step("running the form example" COMMAND ${run_env} ${form_build}/designer-form --check)
-if(NOT step_output MATCHES "PieceName: 5160 - Address Labels\nReturnText: QuirraControl developers\n")
-    message(FATAL_ERROR "installed_host: the form did not reach the control:\n${step_output}")
-endif()
+expect("PieceName: 5160 - Address Labels\nReturnText: QuirraControl developers\n"
+    "the form did not reach the control")
 step("running the pkg-config host"
     COMMAND ${run_env} LD_LIBRARY_PATH=${lib_dir} ${tiny})
 # The piece by name, the centred address, its top, one empty record noted.
-if(NOT step_output MATCHES "(^|\n)5160 - Address Labels\\|1\\|0\\.50\\|1\n")
-    message(FATAL_ERROR "installed_host: the pkg-config host printed:\n${step_output}")
-endif()
+expect("(^|\n)5160 - Address Labels\\|1\\|0\\.50\\|1\n" "the pkg-config host printed")
 
 # One No. 10 envelope for each of the five recipients.
 step("reading the PDF's pages" COMMAND pdfinfo ${pdf})
-if(NOT step_output MATCHES "Pages: +5\n")
-    message(FATAL_ERROR "installed_host: expected 5 pages:\n${step_output}")
-endif()
-if(NOT step_output MATCHES "Page size: +684 x 297")
-    message(FATAL_ERROR "installed_host: expected a No. 10 envelope, 9.5 x 4.125 in:\n${step_output}")
-endif()
+expect("Pages: +5\n" "expected 5 pages")
+expect("Page size: +684 x 297" "expected a No. 10 envelope, 9.5 x 4.125 in")
 step("reading the PDF's text" COMMAND pdftotext ${pdf} -)
 # Words may be set apart by more than one blank in the text poppler gives.
 foreach(expected "Margaret A. Holloway" "Priya Raman" "Northwind Mail Room" "For Dr. Raman")
     string(REPLACE " " "[ \t]+" pattern "${expected}")
-    if(NOT step_output MATCHES "${pattern}")
-        message(FATAL_ERROR "installed_host: \"${expected}\" is not in the PDF:\n${step_output}")
-    endif()
+    expect("${pattern}" "\"${expected}\" is not in the PDF")
 endforeach()
 
 # The installed command-line host runs from the prefix and finds the
 # catalogue installed beside the library.
 step("running the installed quirra"
     COMMAND ${run_env} ${prefix}/bin/quirra pieces --product "Address Labels (US Letter)")
-string(FIND "${step_output}" "5160 - Address Labels" at)
-if(at EQUAL -1)
-    message(FATAL_ERROR "installed_host: the installed quirra lists no 5160 labels:\n${step_output}")
-endif()
+expect("5160 - Address Labels" "the installed quirra lists no 5160 labels")
 message(STATUS "installed_host: installed, built, ran and read back")

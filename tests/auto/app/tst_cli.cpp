@@ -5,6 +5,7 @@
 // messages out, read back with the poppler tools.
 #include "pdfprobe.h"
 #include "quirrarun.h"
+#include "spoolfixture.h"
 
 #include "control/quirra.h"
 #include "properties/jsonpropertybag.h"
@@ -55,29 +56,510 @@ class TestCli : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
+    void initTestCase()
+    {
+        if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+            QSKIP("pdftotext (poppler-utils) is not installed; scripts/install-deps installs it");
+        QVERIFY(QFileInfo::exists(QStringLiteral(QUIRRA_BINARY)));
+    }
 
-    void badInputLeavesNoFile_data();
-    void badInputLeavesNoFile();
-    void printsEveryRecordOnItsPiece_data();
-    void printsEveryRecordOnItsPiece();
-    void setReachesProperties_data();
-    void setReachesProperties();
-    void layoutRoundTrip_data();
-    void layoutRoundTrip();
-    void readsStandardInput();
-    void outputPathKinds_data();
-    void outputPathKinds();
-    void versionAndHelp_data();
-    void versionAndHelp();
-    void progressOnRequestOnly();
-    void previewWithoutDisplay();
-    void piecesListsTheDatabase();
-    void calibrationSheet_data();
-    void calibrationSheet();
-    void manPageListsEveryOption_data();
-    void manPageListsEveryOption();
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_dir->isValid());
+    }
+
+    void badInputLeavesNoFile_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QStringList>("message");
+
+        const QString pdf = QStringLiteral("--pdf=%OUT%/out.pdf");
+        auto csv = [](const char *name) -> QString {
+            return QStringLiteral("%DATA%/") + QLatin1String(name);
+        };
+        const auto row = [](const char *tag, const QStringList &arguments, int status,
+                            const QStringList &message) {
+            QTest::newRow(tag) << arguments << status << message;
+        };
+        row("value-with-double-quote", {pdf, csv("bad_quote.csv")}, 1,
+            {"bad_quote.csv: line 3: column 2 (\"last\") holds a double quote"});
+        row("empty-file", {pdf, csv("empty.csv")}, 1,
+            {"empty.csv: the file is empty", "header row"});
+        row("header-only", {pdf, csv("header_only.csv")}, 1,
+            {"header_only.csv: no records after the header"});
+        row("no-address-column", {pdf, csv("no_address.csv")}, 1,
+            {"line 1: the header row names no address"});
+        row("ragged-row", {pdf, csv("ragged.csv")}, 1,
+            {"ragged.csv: line 4: the row has 5 fields but the header has 6"});
+        row("unknown-property", {pdf, "--set", "AdressTop=1", csv("people.csv")}, 1,
+            {"--set AdressTop: the control has no property \"AdressTop\""});
+        row("set-without-equals", {pdf, "--set", "ReturnText", csv("people.csv")}, 2,
+            {"write it as NAME=VALUE"});
+        row("layout-not-json", {pdf, "--layout", csv("broken_layout.json"), csv("people.csv")}, 1,
+            {"--layout", "broken_layout.json"});
+        row("pdf-folder-missing", {"--pdf", "%OUT%/no/such/folder/out.pdf", csv("people.csv")}, 1,
+            {"does not exist"});
+        row("pdf-and-printer", {pdf, "--printer", "lp", csv("people.csv")}, 2,
+            {"either --pdf or --printer"});
+        row("unknown-printer", {"--printer", "no-such-printer", csv("people.csv")}, 1,
+            {"there is no printer named \"no-such-printer\""});
+        row("unknown-piece", {pdf, "--piece", "5160", csv("people.csv")}, 2,
+            {"no piece \"5160\"; did you mean \"5160 - Address Labels\""});
+        row("unknown-piece-in-layout",
+            {pdf, "--layout", csv("unknown_piece_layout.json"), csv("people.csv")}, 2,
+            {"unknown_piece_layout.json: the catalogue has no piece \"5160 Address "
+             "Labels\"; did you mean \"5160 - Address Labels\""});
+        row("text-over-64-kib",
+            {pdf, "--set", "ReturnText=" + QString(70000, QLatin1Char('x')), csv("people.csv")}, 1,
+            {"ReturnText is 70000 characters long; a text may have at most 65536"});
+        row("length-beyond-any-sheet", {pdf, "--set", "AddressTop=250", csv("people.csv")}, 1,
+            {"AddressTop is 250 in; a length on a sheet is from 0 to 100 in"});
+        row("scale-beyond-the-range", {pdf, "--set", "PrinterScaleX=120", csv("people.csv")}, 1,
+            {"PrinterScaleX is 120 %; the printer's scale is from 90 to 110 %"});
+        row("unknown-option", {pdf, "--colour", "red", csv("people.csv")}, 2,
+            {"quirra print: Unknown option 'colour'"});
+        row("copies-not-a-whole-number", {pdf, "--copies-column", "Last", csv("people.csv")}, 1,
+            {"people.csv: line 2: the copies column \"Last\" holds \"Holloway\""});
+        row("pages-beyond-the-run", {pdf, "--pages", "5-6", csv("people.csv")}, 1,
+            {"pages 5-6: the pieces fill fewer pages than that"});
+        row("pages-backwards", {pdf, "--pages", "3-2", csv("people.csv")}, 2,
+            {"--pages 3-2: give a page or a range"});
+        row("start-beyond-the-sheet",
+            {pdf, "--piece", "5160 - Address Labels", "--start", "31", csv("people.csv")}, 1,
+            {"--start 31: the sheet of \"5160 - Address Labels\" has 30 slots"});
+        // A layout that cannot be laid out fails in the print run itself.
+        row("no-piece-across", {pdf, "--set", "PieceNumAcross=0", csv("people.csv")}, 1,
+            {"has 0 pieces across; set PieceNumAcross to 1 or more"});
+    }
+
+    void badInputLeavesNoFile()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, status);
+        QFETCH(QStringList, message);
+
+        // An older file of the target's name stays as it was.
+        QVERIFY(fixture::overwrite(out(QStringLiteral("out.pdf")), "older run"));
+
+        const Run run = quirra(QStringList{QStringLiteral("print")} + expand(arguments));
+        QCOMPARE(run.status, status);
+        for (const QString &part : message)
+            QVERIFY2(run.err.contains(part), qPrintable(run.err));
+        QVERIFY2(!run.err.contains(QLatin1String("records,")), qPrintable(run.err));
+
+        QCOMPARE(fixture::contents(out(QStringLiteral("out.pdf"))), QByteArray("older run"));
+        const QStringList left = QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden);
+        QCOMPARE(left, QStringList{QStringLiteral("out.pdf")});
+    }
+
+    void printsEveryRecordOnItsPiece_data()
+    {
+        QTest::addColumn<QString>("csv");
+        QTest::addColumn<QString>("piece");
+        QTest::addColumn<int>("pages");
+        QTest::addColumn<QSizeF>("pageSize");
+        QTest::addColumn<QString>("lastFirstName"); // the last record's first name
+        QTest::addColumn<int>("column");            // the last record's column, from 0
+        QTest::addColumn<QStringList>("options");
+
+        QTest::newRow("labels-30-up-69-records")
+            << examples("addresses.csv") << "5160 - Address Labels" << 3 << QSizeF(612, 792)
+            << "Albert" << 2 << QStringList();
+        QTest::newRow("envelope-one-a-page") << dataFile("people.csv") << "Size 10 - Envelope" << 4
+                                             << QSizeF(684, 297) << "Li" << 0 << QStringList();
+        QTest::newRow("shipping-labels-2-across")
+            << dataFile("people.csv") << "5163 - Shipping Labels" << 1 << QSizeF(612, 792) << "Li"
+            << 1 << QStringList();
+        // Three of the first record, none of the second, one of the last.
+        QTest::newRow("copies-from-a-column")
+            << dataFile("copies.csv") << "Size 10 - Envelope" << 4 << QSizeF(684, 297) << "Li" << 0
+            << QStringList{"--copies-column", "count"};
+    }
+
+    void printsEveryRecordOnItsPiece()
+    {
+        QFETCH(QString, csv);
+        QFETCH(QString, piece);
+        QFETCH(int, pages);
+        QFETCH(QSizeF, pageSize);
+        QFETCH(QString, lastFirstName);
+        QFETCH(int, column);
+        QFETCH(QStringList, options);
+
+        const QString pdf = out(QStringLiteral("run.pdf"));
+        const Run run = quirra(QStringList{"print", "--piece", piece, "--pdf", pdf, csv} + options);
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QVERIFY2(run.err.contains(QStringLiteral("%1 %2 on \"%3\"")
+                                      .arg(pages)
+                                      .arg(pages == 1 ? "page" : "pages", piece)),
+                 qPrintable(run.err));
+
+        // Written through a private temporary file, the PDF still gets the
+        // permissions of any new file.
+        const mode_t mask = umask(0);
+        umask(mask);
+        struct stat info;
+        QCOMPARE(::stat(QFile::encodeName(pdf).constData(), &info), 0);
+        QCOMPARE(info.st_mode & 0777, 0666 & ~mask);
+
+        const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
+        QCOMPARE(sizes.size(), pages);
+        QVERIFY(qAbs(sizes.first().width() - pageSize.width()) < 1);
+        QVERIFY(qAbs(sizes.first().height() - pageSize.height()) < 1);
+
+        // The first record starts the first label; the last one is on the last
+        // page, whole columns of the sheet to the right of it.
+        const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
+        QVERIFY(!words.isEmpty());
+        const pdfprobe::Word &first = words.first();
+        QCOMPARE(first.text, QStringLiteral("Margaret"));
+        QCOMPARE(first.page, 1);
+        const pdfprobe::Word *last = nullptr;
+        for (const pdfprobe::Word &w : words) {
+            if (w.text == lastFirstName)
+                last = &w;
+        }
+        QVERIFY(last);
+        QCOMPARE(last->page, pages);
+        Quirra sheet;
+        sheet.PieceName(piece);
+        const double expectedLeft = first.box.left() + column * sheet.PiecePitchHorz() * 72;
+        QVERIFY2(
+            qAbs(last->box.left() - expectedLeft) < 0.5,
+            qPrintable(
+                QStringLiteral("left %1, expected %2").arg(last->box.left()).arg(expectedLeft)));
+    }
+
+    // The first page's lines, top to bottom, and where the address starts.
+    void printedPage_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QStringList>("lines");
+        QTest::addColumn<double>("addressLeft"); // points from the paper's edge
+
+        const QStringList address{"Margaret Holloway", "1427 Birchwood Lane",
+                                  "Springfield, IL 62704"};
+        const auto row = [](const char *tag, const QStringList &options, const QStringList &lines,
+                            double addressLeft) {
+            QTest::newRow(tag) << options << lines << addressLeft;
+        };
+        row("text-with-line-break", {"--set", "ReturnText=ACME Mail\\n1 Main St"},
+            QStringList{"ACME Mail", "1 Main St"} + address, 312.0);
+        row("token-from-a-column", {"--set", "Message1Text=Dear <<salutation>>"},
+            address + QStringList{"Dear Ms. Holloway"}, 312.0);
+        row("later-set-wins", {"--set", "ReturnText=First", "--set", "ReturnText=Second"},
+            QStringList{"Second"} + address, 312.0);
+        row("bool-hides-the-address",
+            {"--set", "ReturnText=Sender", "--set", "AddressVisible=false"}, {"Sender"}, 0.0);
+        row("bool-as-number", {"--set", "AddressVisible=0", "--set", "AddressVisible=1"}, address,
+            312.0);
+        // The saved layout moves the address to 0.5 inch from the envelope's edge.
+        const QStringList layout{"--layout", "%OUT%/layout.json"};
+        row("layout-alone", layout, QStringList{"From the layout"} + address, 36.0);
+        row("set-overrides-layout", layout + QStringList{"--set", "ReturnText=Overridden"},
+            QStringList{"Overridden"} + address, 36.0);
+        // Choosing the piece again lays the items out afresh; texts stay, and
+        // the empty ones get no placeholder.
+        row("piece-reloads-default-boxes", layout + QStringList{"--piece", "Size 10 - Envelope"},
+            QStringList{"From the layout"} + address, 312.0);
+        // --set comes after --piece, wherever it stands on the command line.
+        row("set-applies-after-piece",
+            layout + QStringList{"--set", "AddressLeft=0.5", "--piece", "Size 10 - Envelope"},
+            QStringList{"From the layout"} + address, 36.0);
+    }
+
+    void printedPage()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(double, addressLeft);
+
+        Quirra control;
+        control.AddressLeft(0.5f);
+        control.ReturnText(QStringLiteral("From the layout"));
+        quirra::JsonPropertyBag bag;
+        control.WriteProperties(bag);
+        bag.save(out(QStringLiteral("layout.json")));
+        const QString pdf = out(QStringLiteral("page.pdf"));
+        const Run run =
+            quirra(QStringList{"print", "--pdf", pdf} + expand(options) << dataFile("people.csv"));
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QCOMPARE(pdfprobe::pageSizes(pdf).size(), 4);
+
+        QStringList texts;
+        double left = addressLeft;
+        for (const pdfprobe::Line &l : pageLines(pdf, 1)) {
+            texts << l.text;
+            left = l.text == QLatin1String("Margaret Holloway") ? l.left : left;
+        }
+        QTEST(texts, "lines");
+        QVERIFY2(qAbs(left - addressLeft) < 1,
+                 qPrintable(QStringLiteral("left %1, expected %2").arg(left).arg(addressLeft)));
+    }
+
+    void readsStandardInput()
+    {
+        const QByteArray bytes = fixture::contents(dataFile(QStringLiteral("people.csv")));
+        const QString pdf = out(QStringLiteral("stdin.pdf"));
+        // The second run replaces the first one's file.
+        for (const QStringList &source : {QStringList{"-"}, QStringList()}) {
+            const Run run = quirra(QStringList{"print", "--pdf", pdf} + source, bytes);
+            QVERIFY2(run.status == 0, qPrintable(run.err));
+            QVERIFY(run.err.contains(QLatin1String("4 records, 4 pages")));
+            QVERIFY(pdfprobe::find(pdfprobe::words(pdf), QStringLiteral("Ångström")));
+        }
+        const Run bad = quirra({"print", "--pdf", pdf, "-"}, "first,last\nAnn,\"Lee\n");
+        QCOMPARE(bad.status, 1);
+        QVERIFY2(bad.err.contains(QLatin1String("standard input: line 3: column 2")),
+                 qPrintable(bad.err));
+    }
+
+    void outputPathKinds_data()
+    {
+        QTest::addColumn<QString>("kind"); // what stands at the --pdf path
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("message");
+
+        QTest::newRow("fifo") << "fifo" << 1 << "is a named pipe (FIFO); --pdf needs";
+        QTest::newRow("device") << "device" << 1 << "is a device; --pdf needs";
+        QTest::newRow("symlink-followed") << "symlink" << 0 << "4 records, 4 pages";
+        QTest::newRow("private-file-stays-private") << "file-0600" << 0 << "4 records, 4 pages";
+    }
+
+    void outputPathKinds()
+    {
+        QFETCH(QString, kind);
+        QFETCH(int, status);
+        QFETCH(QString, message);
+
+        const QString path = out(QStringLiteral("out.pdf"));
+        const QByteArray native = QFile::encodeName(path);
+        const QString real = out(QStringLiteral("real.pdf"));
+        if (kind == QLatin1String("fifo")) {
+            QCOMPARE(::mkfifo(native.constData(), 0644), 0);
+        } else if (kind == QLatin1String("device")) {
+            // The null device's numbers, made here: replacing it would need root.
+            if (::mknod(native.constData(), S_IFCHR | 0600, makedev(1, 3)) != 0)
+                QSKIP("cannot make a device node here (needs root)");
+        } else if (kind == QLatin1String("symlink")) {
+            QVERIFY(fixture::overwrite(real, "older run"));
+            QVERIFY(QFile::link(QStringLiteral("real.pdf"), path));
+        } else {
+            QVERIFY(fixture::overwrite(path, "older run"));
+            QCOMPARE(::chmod(native.constData(), 0600), 0);
+        }
+        struct stat before;
+        QCOMPARE(::lstat(native.constData(), &before), 0);
+
+        const Run run = quirra({"print", "--pdf", path, dataFile("people.csv")});
+        QCOMPARE(run.status, status);
+        QVERIFY2(run.err.contains(message), qPrintable(run.err));
+        struct stat after;
+        QCOMPARE(::lstat(native.constData(), &after), 0);
+        if (status != 0) {
+            // Refused before any work: the thing is as it was, nothing beside it.
+            QCOMPARE(after.st_mode, before.st_mode);
+            QCOMPARE(after.st_rdev, before.st_rdev);
+            QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden | QDir::System),
+                     QStringList{QStringLiteral("out.pdf")});
+            return;
+        }
+        QCOMPARE(after.st_mode, before.st_mode); // the link is still a link; the mode kept
+        QCOMPARE(pdfprobe::pageSizes(kind == QLatin1String("symlink") ? real : path).size(), 4);
+    }
+
+    void versionAndHelp_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("output"); // the start of standard output
+
+        QTest::newRow("version") << QStringList{"--version"} << "quirra 0.";
+        QTest::newRow("help") << QStringList{"--help"} << "usage: quirra print";
+        QTest::newRow("print-help") << QStringList{"print", "--help"} << "Usage: quirra print";
+    }
+
+    void versionAndHelp()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, output);
+
+        const Run run = quirra(arguments);
+        QCOMPARE(run.status, 0);
+        QVERIFY2(run.out.startsWith(output), qPrintable(run.out));
+        QCOMPARE(run.err, QString());
+        // A command's options take one line each, every one of them listed.
+        if (output.startsWith(QLatin1String("Usage:"))) {
+            QVERIFY2(!run.out.contains(QLatin1String("\n      ")), qPrintable(run.out));
+            for (const char *option :
+                 {"--piece", "--layout", "--set", "--pdf", "--pages", "--printer", "--start",
+                  "--outlines", "--copies-column", "--strict"})
+                QVERIFY2(run.out.contains(QLatin1String("\n  ") + QLatin1String(option)), option);
+        }
+    }
+
+    void progressOnRequestOnly()
+    {
+        const QString pdf = out(QStringLiteral("progress.pdf"));
+        const Run quiet = quirra({"print", "--pdf", pdf, examples("addresses.csv")});
+        QCOMPARE(quiet.status, 0);
+        QVERIFY2(!quiet.err.contains(QLatin1Char('\r')), qPrintable(quiet.err));
+
+        const Run shown = quirra({"print", "--progress", "--piece", "5160 - Address Labels",
+                                  "--pdf", pdf, examples("addresses.csv")});
+        QCOMPARE(shown.status, 0);
+        QVERIFY2(shown.err.contains(QLatin1String("100%  69 records\n")), qPrintable(shown.err));
+        QVERIFY2(shown.err.contains(QLatin1String("100%  page 3 of 3\n")), qPrintable(shown.err));
+    }
+
+    void previewWithoutDisplay()
+    {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            env.remove(QLatin1String(name));
+        const Run run = runQuirra(m_dir->path(), {"preview", dataFile("people.csv")}, {}, env);
+        QVERIFY2(run.status == 1 && run.err.contains(QLatin1String("no display")),
+                 qPrintable(run.err));
+    }
+
+    // With the label-template database installed the list holds its products,
+    // and the brand and search narrow it down to the one imported sheet.
+    void piecesListsTheDatabase()
+    {
+        const QByteArray own = qgetenv("QUIRRA_TEMPLATE_DIR");
+        qunsetenv("QUIRRA_TEMPLATE_DIR");
+        const Run all = quirra({"pieces"});
+        const Run one = quirra({"pieces", "--brand", "avery", "--search", "l7163"});
+        const Run none = quirra({"pieces", "--search", "no such sheet"});
+        qputenv("QUIRRA_TEMPLATE_DIR", own);
+        QCOMPARE(all.status, 0);
+        QCOMPARE(none.status, 1);
+        QVERIFY2(none.err.contains(QLatin1String("no piece matches")), qPrintable(none.err));
+        if (!QFileInfo::exists(QStringLiteral("/usr/share/libglabels-3.0/templates")))
+            QSKIP("the label-template database (Debian glabels-data) is not installed");
+        QVERIFY2(all.out.count(QLatin1Char('\n')) > 1000, qPrintable(all.out.left(200)));
+        QCOMPARE(one.out,
+                 QStringLiteral("Laser/InkJet Products\tAvery\tAvery L7163\t3.90139 x 1.5 in"
+                                "\t2 x 7\tA4 (210 x 297 mm)\tMailing labels\n"));
+    }
+
+    void calibrationSheet_data()
+    {
+        QTest::addColumn<QString>("piece");
+        QTest::addColumn<QSizeF>("paper");  // points
+        QTest::addColumn<QRectF>("pieces"); // the first piece's centre and the pitch, inches
+        QTest::addColumn<QSize>("grid");
+        QTest::addColumn<QStringList>("measured"); // a reading, the settings it gives
+        // The sheets' real geometry. A reading 1 % too wide over the 5.5 in
+        // between the outer crosses, and one 0.6 % too tall over 9 in.
+        QTest::newRow("letter-30-up")
+            << "5160 - Address Labels" << QSizeF(612, 792) << QRectF(1.5, 1.0, 2.75, 1.0)
+            << QSize(3, 10)
+            << QStringList{"0,0.1,0.055,0.1",
+                           "--set PrinterLeft=0.235 --set PrinterTop=0.350 "
+                           "--set PrinterScaleX=99.01 --set PrinterScaleY=100.00\n"};
+        QTest::newRow("a4-21-up") << "L7160 - Address Labels" << QSizeF(595.3, 841.9)
+                                  << QRectF(1.5339, 1.3465, 2.6, 1.5) << QSize(3, 7)
+                                  << QStringList{
+                                         "-0.05,0,-0.05,0.06",
+                                         "--set PrinterLeft=0.200 --set PrinterTop=0.241 "
+                                         "--set PrinterScaleX=100.00 --set PrinterScaleY=99.34\n"};
+    }
+
+    void calibrationSheet()
+    {
+        QFETCH(QString, piece);
+        QFETCH(QSizeF, paper);
+        QFETCH(QRectF, pieces);
+        QFETCH(QSize, grid);
+        QFETCH(QStringList, measured);
+        const QString pdf = out(QStringLiteral("calibration.pdf"));
+        const Run run = quirra({"calibrate", "--piece", piece, "--pdf", pdf});
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
+        QVERIFY(sizes.size() == 1 && qAbs(sizes[0].width() - paper.width()) < 1 &&
+                qAbs(sizes[0].height() - paper.height()) < 1);
+
+        // A ruler number stands at its tick, n inches or n cm from the paper's
+        // left edge (across the top) or top edge (down the side), whole on the
+        // paper and covering no other word; each ruler has both kinds.
+        const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
+        QMap<QString, int> count;
+        for (int i = 0; i < words.size(); ++i) {
+            const QRectF box = words[i].box;
+            QVERIFY2(QRectF(QPointF(), paper).contains(box), qPrintable(words[i].text));
+            for (int j = i + 1; j < words.size(); ++j)
+                QVERIFY2(!box.intersects(words[j].box), qPrintable(words[i].text + words[j].text));
+            bool number = false;
+            const int n = words[i].text.toInt(&number);
+            if (!number || (box.top() > 40 && box.left() > 60))
+                continue; // the instruction
+            const bool cm = i + 1 < words.size() && words[i + 1].text == QLatin1String("cm");
+            const bool across = box.top() < 40;
+            QVERIFY2(qAbs((across ? box.left() : box.center().y()) - n * (cm ? 72 / 2.54 : 72)) < 3,
+                     qPrintable(words[i].text));
+            ++count[QLatin1String(across ? "across " : "down ") + QLatin1String(cm ? "cm" : "in")];
+        }
+        QCOMPARE(count.size(), 4);
+        for (int numbers : std::as_const(count))
+            QVERIFY(numbers >= 6);
+
+        // A cross at every real piece's centre (the printer's offsets cancel on
+        // a PDF), plain paper a quarter pitch to its right.
+        constexpr int Dpi = 150;
+        const QImage image = pdfprobe::pages(pdf, Dpi).value(0);
+        QVERIFY(!image.isNull());
+        const auto darkest = [&](double x, double y) {
+            int value = 255;
+            for (int dy = -2; dy <= 2; ++dy)
+                for (int dx = -2; dx <= 2; ++dx)
+                    value =
+                        std::min(value, qGray(image.pixel(int(x * Dpi) + dx, int(y * Dpi) + dy)));
+            return value;
+        };
+        for (int slot = 0; slot < grid.width() * grid.height(); ++slot) {
+            const double x = pieces.x() + slot % grid.width() * pieces.width();
+            const double y = pieces.y() + slot / grid.width() * pieces.height();
+            QVERIFY2(darkest(x, y) < 160 && darkest(x + pieces.width() / 4, y) > 230,
+                     qPrintable(QString::number(slot + 1)));
+        }
+
+        const Run settings = quirra({"calibrate", "--piece", piece, "--measured", measured[0]});
+        QCOMPARE(settings.out, measured[1]);
+    }
+
+    // Every command the usage names, and every option its help lists, has its
+    // entry in the manual page.
+    void manPageListsEveryOption_data()
+    {
+        QTest::addColumn<QString>("command");
+        static const QRegularExpression named(QStringLiteral(R"(quirra ([a-z]+) )"));
+        for (auto it = named.globalMatch(runQuirra(QDir::tempPath(), {"--help"}).out);
+             it.hasNext();) {
+            const QString command = it.next().captured(1);
+            QTest::newRow(qPrintable(command)) << command;
+        }
+    }
+
+    void manPageListsEveryOption()
+    {
+        QFETCH(QString, command);
+        const QString page = QString::fromUtf8(
+            fixture::contents(QStringLiteral(QUIRRA_SOURCE_ROOT "/doc/quirra.1")));
+        QVERIFY(page.contains(QLatin1String(".SS ") + command));
+        const Run help = quirra({command, "--help"});
+        static const QRegularExpression option(QStringLiteral(R"(^  (?:-\w, )?--([\w-]+))"),
+                                               QRegularExpression::MultilineOption);
+        int listed = 0;
+        for (auto it = option.globalMatch(help.out); it.hasNext(); ++listed) {
+            const QString name = it.next().captured(1);
+            if (name == QLatin1String("help-all"))
+                continue; // Qt's own
+            QVERIFY2(page.contains(QLatin1String("\\-\\-") + QString(name).replace('-', "\\-")),
+                     qPrintable(name));
+        }
+        QVERIFY(listed > 2);
+    }
 
 private:
     Run quirra(const QStringList &arguments, const QByteArray &input = {});
@@ -86,19 +568,6 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-void TestCli::initTestCase()
-{
-    if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
-        QSKIP("pdftotext (poppler-utils) is not installed; scripts/install-deps installs it");
-    QVERIFY(QFileInfo::exists(QStringLiteral(QUIRRA_BINARY)));
-}
-
-void TestCli::init()
-{
-    m_dir = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_dir->isValid());
-}
 
 Run TestCli::quirra(const QStringList &arguments, const QByteArray &input)
 {
@@ -113,546 +582,6 @@ QStringList TestCli::expand(QStringList arguments) const
         a.replace(QLatin1String("%OUT%"), m_dir->path());
     }
     return arguments;
-}
-
-void TestCli::badInputLeavesNoFile_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QStringList>("message");
-
-    const QString pdf = QStringLiteral("--pdf=%OUT%/out.pdf");
-    auto csv = [](const char *name) -> QString {
-        return QStringLiteral("%DATA%/") + QLatin1String(name);
-    };
-    QTest::newRow("value-with-double-quote")
-        << QStringList{pdf, csv("bad_quote.csv")} << 1
-        << QStringList{"bad_quote.csv: line 3: column 2 (\"last\") holds a double quote"};
-    QTest::newRow("empty-file") << QStringList{pdf, csv("empty.csv")} << 1
-                                << QStringList{"empty.csv: the file is empty", "header row"};
-    QTest::newRow("header-only") << QStringList{pdf, csv("header_only.csv")} << 1
-                                 << QStringList{"header_only.csv: no records after the header"};
-    QTest::newRow("no-address-column") << QStringList{pdf, csv("no_address.csv")} << 1
-                                       << QStringList{"line 1: the header row names no address"};
-    QTest::newRow("ragged-row") << QStringList{pdf, csv("ragged.csv")} << 1
-                                << QStringList{"ragged.csv: line 4: the row has 5 fields but the "
-                                               "header has 6"};
-    QTest::newRow("unknown-property")
-        << QStringList{pdf, "--set", "AdressTop=1", csv("people.csv")} << 1
-        << QStringList{"--set AdressTop: the control has no property \"AdressTop\""};
-    QTest::newRow("set-without-equals")
-        << QStringList{pdf, "--set", "ReturnText", csv("people.csv")} << 2
-        << QStringList{"write it as NAME=VALUE"};
-    QTest::newRow("layout-not-json")
-        << QStringList{pdf, "--layout", csv("broken_layout.json"), csv("people.csv")} << 1
-        << QStringList{"--layout", "broken_layout.json"};
-    QTest::newRow("pdf-folder-missing")
-        << QStringList{"--pdf", "%OUT%/no/such/folder/out.pdf", csv("people.csv")} << 1
-        << QStringList{"does not exist"};
-    QTest::newRow("pdf-and-printer") << QStringList{pdf, "--printer", "lp", csv("people.csv")} << 2
-                                     << QStringList{"either --pdf or --printer"};
-    QTest::newRow("unknown-printer")
-        << QStringList{"--printer", "no-such-printer", csv("people.csv")} << 1
-        << QStringList{"there is no printer named \"no-such-printer\""};
-    QTest::newRow("unknown-piece")
-        << QStringList{pdf, "--piece", "5160", csv("people.csv")} << 2
-        << QStringList{"no piece \"5160\"; did you mean \"5160 - Address Labels\""};
-    QTest::newRow("unknown-piece-in-layout")
-        << QStringList{pdf, "--layout", csv("unknown_piece_layout.json"), csv("people.csv")} << 2
-        << QStringList{"unknown_piece_layout.json: the catalogue has no piece \"5160 Address "
-                       "Labels\"; did you mean \"5160 - Address Labels\""};
-    QTest::newRow("text-over-64-kib")
-        << QStringList{pdf, "--set", "ReturnText=" + QString(70000, QLatin1Char('x')),
-                       csv("people.csv")}
-        << 1 << QStringList{"ReturnText is 70000 characters long; a text may have at most 65536"};
-    QTest::newRow("length-beyond-any-sheet")
-        << QStringList{pdf, "--set", "AddressTop=250", csv("people.csv")} << 1
-        << QStringList{"AddressTop is 250 in; a length on a sheet is from 0 to 100 in"};
-    QTest::newRow("scale-beyond-the-range")
-        << QStringList{pdf, "--set", "PrinterScaleX=120", csv("people.csv")} << 1
-        << QStringList{"PrinterScaleX is 120 %; the printer's scale is from 90 to 110 %"};
-    QTest::newRow("unknown-option") << QStringList{pdf, "--colour", "red", csv("people.csv")} << 2
-                                    << QStringList{"quirra print: Unknown option 'colour'"};
-    QTest::newRow("copies-not-a-whole-number")
-        << QStringList{pdf, "--copies-column", "Last", csv("people.csv")} << 1
-        << QStringList{"people.csv: line 2: the copies column \"Last\" holds \"Holloway\""};
-    QTest::newRow("pages-beyond-the-run")
-        << QStringList{pdf, "--pages", "5-6", csv("people.csv")} << 1
-        << QStringList{"pages 5-6: the pieces fill fewer pages than that"};
-    QTest::newRow("pages-backwards") << QStringList{pdf, "--pages", "3-2", csv("people.csv")} << 2
-                                     << QStringList{"--pages 3-2: give a page or a range"};
-    QTest::newRow("start-beyond-the-sheet")
-        << QStringList{pdf, "--piece", "5160 - Address Labels", "--start", "31", csv("people.csv")}
-        << 1 << QStringList{"--start 31: the sheet of \"5160 - Address Labels\" has 30 slots"};
-    // A layout that cannot be laid out fails in the print run itself.
-    QTest::newRow("no-piece-across")
-        << QStringList{pdf, "--set", "PieceNumAcross=0", csv("people.csv")} << 1
-        << QStringList{"has 0 pieces across; set PieceNumAcross to 1 or more"};
-}
-
-void TestCli::badInputLeavesNoFile()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, status);
-    QFETCH(QStringList, message);
-
-    // An older file of the target's name stays as it was.
-    QFile old(out(QStringLiteral("out.pdf")));
-    QVERIFY(old.open(QIODevice::WriteOnly));
-    old.write("older run");
-    old.close();
-
-    const Run run = quirra(QStringList{QStringLiteral("print")} + expand(arguments));
-    QCOMPARE(run.status, status);
-    for (const QString &part : message)
-        QVERIFY2(run.err.contains(part), qPrintable(run.err));
-    QVERIFY2(!run.err.contains(QLatin1String("records,")), qPrintable(run.err));
-
-    QVERIFY(old.open(QIODevice::ReadOnly));
-    QCOMPARE(old.readAll(), QByteArray("older run"));
-    const QStringList left = QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden);
-    QCOMPARE(left, QStringList{QStringLiteral("out.pdf")});
-}
-
-void TestCli::printsEveryRecordOnItsPiece_data()
-{
-    QTest::addColumn<QString>("csv");
-    QTest::addColumn<QString>("piece");
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<QSizeF>("pageSize");
-    QTest::addColumn<QString>("lastFirstName"); // the last record's first name
-    QTest::addColumn<int>("column");            // the last record's column, from 0
-    QTest::addColumn<QStringList>("options");
-
-    QTest::newRow("labels-30-up-69-records")
-        << examples("addresses.csv") << "5160 - Address Labels" << 3 << QSizeF(612, 792) << "Albert"
-        << 2 << QStringList();
-    QTest::newRow("envelope-one-a-page") << dataFile("people.csv") << "Size 10 - Envelope" << 4
-                                         << QSizeF(684, 297) << "Li" << 0 << QStringList();
-    QTest::newRow("shipping-labels-2-across")
-        << dataFile("people.csv") << "5163 - Shipping Labels" << 1 << QSizeF(612, 792) << "Li" << 1
-        << QStringList();
-    // Three of the first record, none of the second, one of the last.
-    QTest::newRow("copies-from-a-column")
-        << dataFile("copies.csv") << "Size 10 - Envelope" << 4 << QSizeF(684, 297) << "Li" << 0
-        << QStringList{"--copies-column", "count"};
-}
-
-void TestCli::printsEveryRecordOnItsPiece()
-{
-    QFETCH(QString, csv);
-    QFETCH(QString, piece);
-    QFETCH(int, pages);
-    QFETCH(QSizeF, pageSize);
-    QFETCH(QString, lastFirstName);
-    QFETCH(int, column);
-    QFETCH(QStringList, options);
-
-    const QString pdf = out(QStringLiteral("run.pdf"));
-    const Run run = quirra(QStringList{"print", "--piece", piece, "--pdf", pdf, csv} + options);
-    QVERIFY2(run.status == 0, qPrintable(run.err));
-    QVERIFY2(
-        run.err.contains(
-            QStringLiteral("%1 %2 on \"%3\"").arg(pages).arg(pages == 1 ? "page" : "pages", piece)),
-        qPrintable(run.err));
-
-    // Written through a private temporary file, the PDF still gets the
-    // permissions of any new file.
-    const mode_t mask = umask(0);
-    umask(mask);
-    struct stat info;
-    QCOMPARE(::stat(QFile::encodeName(pdf).constData(), &info), 0);
-    QCOMPARE(info.st_mode & 0777, 0666 & ~mask);
-
-    const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
-    QCOMPARE(sizes.size(), pages);
-    QVERIFY(qAbs(sizes.first().width() - pageSize.width()) < 1);
-    QVERIFY(qAbs(sizes.first().height() - pageSize.height()) < 1);
-
-    // The first record starts the first label; the last one is on the last
-    // page, whole columns of the sheet to the right of it.
-    const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
-    QVERIFY(!words.isEmpty());
-    const pdfprobe::Word &first = words.first();
-    QCOMPARE(first.text, QStringLiteral("Margaret"));
-    QCOMPARE(first.page, 1);
-    const pdfprobe::Word *last = nullptr;
-    for (const pdfprobe::Word &w : words) {
-        if (w.text == lastFirstName)
-            last = &w;
-    }
-    QVERIFY(last);
-    QCOMPARE(last->page, pages);
-    Quirra sheet;
-    sheet.PieceName(piece);
-    const double expectedLeft = first.box.left() + column * sheet.PiecePitchHorz() * 72;
-    QVERIFY2(
-        qAbs(last->box.left() - expectedLeft) < 0.5,
-        qPrintable(QStringLiteral("left %1, expected %2").arg(last->box.left()).arg(expectedLeft)));
-}
-
-void TestCli::setReachesProperties_data()
-{
-    QTest::addColumn<QStringList>("settings");
-    QTest::addColumn<QStringList>("lines"); // expected on page 1, top to bottom, among others
-    QTest::addColumn<QStringList>("absent");
-
-    QTest::newRow("text-with-line-break")
-        << QStringList{"ReturnText=ACME Mail\\n1 Main St"}
-        << QStringList{"ACME Mail", "1 Main St", "Margaret Holloway"} << QStringList();
-    QTest::newRow("token-from-a-column")
-        << QStringList{"Message1Text=Dear <<salutation>>"}
-        << QStringList{"Margaret Holloway", "Dear Ms. Holloway"} << QStringList{"<<salutation>>"};
-    QTest::newRow("later-set-wins") << QStringList{"ReturnText=First", "ReturnText=Second"}
-                                    << QStringList{"Second"} << QStringList{"First"};
-    QTest::newRow("bool-hides-the-address")
-        << QStringList{"ReturnText=Sender", "AddressVisible=false"} << QStringList{"Sender"}
-        << QStringList{"Margaret Holloway"};
-    QTest::newRow("bool-as-number") << QStringList{"AddressVisible=0", "AddressVisible=1"}
-                                    << QStringList{"Margaret Holloway"} << QStringList();
-}
-
-void TestCli::setReachesProperties()
-{
-    QFETCH(QStringList, settings);
-    QFETCH(QStringList, lines);
-    QFETCH(QStringList, absent);
-
-    QStringList arguments{"print", "--pdf", out(QStringLiteral("set.pdf"))};
-    for (const QString &s : settings)
-        arguments << QStringLiteral("--set") << s;
-    const Run run = quirra(arguments << dataFile("people.csv"));
-    QVERIFY2(run.status == 0, qPrintable(run.err));
-
-    QStringList found;
-    for (const pdfprobe::Line &l : pageLines(out(QStringLiteral("set.pdf")), 1))
-        found << l.text;
-    qsizetype from = 0;
-    for (const QString &expected : lines) {
-        const qsizetype at = found.indexOf(expected, from);
-        QVERIFY2(at >= 0, qPrintable(expected + QStringLiteral(" in ") + found.join(" / ")));
-        from = at + 1;
-    }
-    for (const QString &text : absent)
-        QVERIFY2(!found.join('\n').contains(text), qPrintable(found.join(" / ")));
-}
-
-void TestCli::layoutRoundTrip_data()
-{
-    QTest::addColumn<QStringList>("after"); // options after --layout
-    QTest::addColumn<QString>("returnText");
-    QTest::addColumn<double>("addressLeft"); // points from the paper's edge
-
-    // The saved layout moves the address to 0.5 inch from the envelope's edge.
-    QTest::newRow("layout-alone") << QStringList() << "From the layout" << 36.0;
-    QTest::newRow("set-overrides-layout")
-        << QStringList{"--set", "ReturnText=Overridden"} << "Overridden" << 36.0;
-    // Choosing the piece again lays the items out afresh; texts stay, and
-    // the empty ones get no placeholder.
-    QTest::newRow("piece-reloads-default-boxes")
-        << QStringList{"--piece", "Size 10 - Envelope"} << "From the layout" << 312.0;
-    // --set comes after --piece, wherever it stands on the command line.
-    QTest::newRow("set-applies-after-piece")
-        << QStringList{"--set", "AddressLeft=0.5", "--piece", "Size 10 - Envelope"}
-        << "From the layout" << 36.0;
-}
-
-void TestCli::layoutRoundTrip()
-{
-    QFETCH(QStringList, after);
-    QFETCH(QString, returnText);
-    QFETCH(double, addressLeft);
-
-    const QString layout = out(QStringLiteral("layout.json"));
-    {
-        Quirra control;
-        control.AddressLeft(0.5f);
-        control.ReturnText(QStringLiteral("From the layout"));
-        quirra::JsonPropertyBag bag;
-        control.WriteProperties(bag);
-        bag.save(layout);
-    }
-    const QString pdf = out(QStringLiteral("layout.pdf"));
-    const Run run = quirra(QStringList{"print", "--pdf", pdf, "--layout", layout} + after
-                           << dataFile("people.csv"));
-    QVERIFY2(run.status == 0, qPrintable(run.err));
-    QCOMPARE(pdfprobe::pageSizes(pdf).size(), 4);
-
-    const QList<pdfprobe::Line> lines = pageLines(pdf, 1);
-    QStringList texts;
-    for (const pdfprobe::Line &l : lines)
-        texts << l.text;
-    QCOMPARE(texts, (QStringList{returnText, "Margaret Holloway", "1427 Birchwood Lane",
-                                 "Springfield, IL 62704"}));
-    QVERIFY2(
-        qAbs(lines.at(1).left - addressLeft) < 1,
-        qPrintable(QStringLiteral("left %1, expected %2").arg(lines.at(1).left).arg(addressLeft)));
-}
-
-void TestCli::readsStandardInput()
-{
-    QFile csv(dataFile(QStringLiteral("people.csv")));
-    QVERIFY(csv.open(QIODevice::ReadOnly));
-    const QByteArray bytes = csv.readAll();
-    const QString pdf = out(QStringLiteral("stdin.pdf"));
-    // The second run replaces the first one's file.
-    for (const QStringList &source : {QStringList{"-"}, QStringList()}) {
-        const Run run = quirra(QStringList{"print", "--pdf", pdf} + source, bytes);
-        QVERIFY2(run.status == 0, qPrintable(run.err));
-        QVERIFY(run.err.contains(QLatin1String("4 records, 4 pages")));
-        QVERIFY(pdfprobe::find(pdfprobe::words(pdf), QStringLiteral("Ångström")));
-    }
-    const Run bad = quirra({"print", "--pdf", pdf, "-"}, "first,last\nAnn,\"Lee\n");
-    QCOMPARE(bad.status, 1);
-    QVERIFY2(bad.err.contains(QLatin1String("standard input: line 3: column 2")),
-             qPrintable(bad.err));
-}
-
-void TestCli::outputPathKinds_data()
-{
-    QTest::addColumn<QString>("kind"); // what stands at the --pdf path
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("message");
-
-    QTest::newRow("fifo") << "fifo" << 1 << "is a named pipe (FIFO); --pdf needs";
-    QTest::newRow("device") << "device" << 1 << "is a device; --pdf needs";
-    QTest::newRow("symlink-followed") << "symlink" << 0 << "4 records, 4 pages";
-    QTest::newRow("private-file-stays-private") << "file-0600" << 0 << "4 records, 4 pages";
-}
-
-void TestCli::outputPathKinds()
-{
-    QFETCH(QString, kind);
-    QFETCH(int, status);
-    QFETCH(QString, message);
-
-    const QString path = out(QStringLiteral("out.pdf"));
-    const QByteArray native = QFile::encodeName(path);
-    const QString real = out(QStringLiteral("real.pdf"));
-    if (kind == QLatin1String("fifo")) {
-        QCOMPARE(::mkfifo(native.constData(), 0644), 0);
-    } else if (kind == QLatin1String("device")) {
-        // The null device's numbers, made here: replacing it would need root.
-        if (::mknod(native.constData(), S_IFCHR | 0600, makedev(1, 3)) != 0)
-            QSKIP("cannot make a device node here (needs root)");
-    } else if (kind == QLatin1String("symlink")) {
-        QFile old(real);
-        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("older run") > 0);
-        old.close();
-        QVERIFY(QFile::link(QStringLiteral("real.pdf"), path));
-    } else {
-        QFile old(path);
-        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("older run") > 0);
-        old.close();
-        QCOMPARE(::chmod(native.constData(), 0600), 0);
-    }
-    struct stat before;
-    QCOMPARE(::lstat(native.constData(), &before), 0);
-
-    const Run run = quirra({"print", "--pdf", path, dataFile("people.csv")});
-    QCOMPARE(run.status, status);
-    QVERIFY2(run.err.contains(message), qPrintable(run.err));
-    struct stat after;
-    QCOMPARE(::lstat(native.constData(), &after), 0);
-    if (status != 0) {
-        // Refused before any work: the thing is as it was, nothing beside it.
-        QCOMPARE(after.st_mode, before.st_mode);
-        QCOMPARE(after.st_rdev, before.st_rdev);
-        QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden | QDir::System),
-                 QStringList{QStringLiteral("out.pdf")});
-        return;
-    }
-    QCOMPARE(after.st_mode, before.st_mode); // the link is still a link; the mode kept
-    QCOMPARE(pdfprobe::pageSizes(kind == QLatin1String("symlink") ? real : path).size(), 4);
-}
-
-void TestCli::versionAndHelp_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("output"); // the start of standard output
-
-    QTest::newRow("version") << QStringList{"--version"} << "quirra 0.";
-    QTest::newRow("help") << QStringList{"--help"} << "usage: quirra print";
-    QTest::newRow("print-help") << QStringList{"print", "--help"} << "Usage: quirra print";
-}
-
-void TestCli::versionAndHelp()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, output);
-
-    const Run run = quirra(arguments);
-    QCOMPARE(run.status, 0);
-    QVERIFY2(run.out.startsWith(output), qPrintable(run.out));
-    QCOMPARE(run.err, QString());
-    // A command's options take one line each, every one of them listed.
-    if (output.startsWith(QLatin1String("Usage:"))) {
-        QVERIFY2(!run.out.contains(QLatin1String("\n      ")), qPrintable(run.out));
-        for (const char *option : {"--piece", "--layout", "--set", "--pdf", "--pages", "--printer",
-                                   "--start", "--outlines", "--copies-column", "--strict"})
-            QVERIFY2(run.out.contains(QLatin1String("\n  ") + QLatin1String(option)), option);
-    }
-}
-
-void TestCli::progressOnRequestOnly()
-{
-    const QString pdf = out(QStringLiteral("progress.pdf"));
-    const Run quiet = quirra({"print", "--pdf", pdf, examples("addresses.csv")});
-    QCOMPARE(quiet.status, 0);
-    QVERIFY2(!quiet.err.contains(QLatin1Char('\r')), qPrintable(quiet.err));
-
-    const Run shown = quirra({"print", "--progress", "--piece", "5160 - Address Labels", "--pdf",
-                              pdf, examples("addresses.csv")});
-    QCOMPARE(shown.status, 0);
-    QVERIFY2(shown.err.contains(QLatin1String("100%  69 records\n")), qPrintable(shown.err));
-    QVERIFY2(shown.err.contains(QLatin1String("100%  page 3 of 3\n")), qPrintable(shown.err));
-}
-
-void TestCli::previewWithoutDisplay()
-{
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        env.remove(QLatin1String(name));
-    const Run run = runQuirra(m_dir->path(), {"preview", dataFile("people.csv")}, {}, env);
-    QVERIFY2(run.status == 1 && run.err.contains(QLatin1String("no display")), qPrintable(run.err));
-}
-
-// With the label-template database installed the list holds its products,
-// and the brand and search narrow it down to the one imported sheet.
-void TestCli::piecesListsTheDatabase()
-{
-    const QByteArray own = qgetenv("QUIRRA_TEMPLATE_DIR");
-    qunsetenv("QUIRRA_TEMPLATE_DIR");
-    const Run all = quirra({"pieces"});
-    const Run one = quirra({"pieces", "--brand", "avery", "--search", "l7163"});
-    const Run none = quirra({"pieces", "--search", "no such sheet"});
-    qputenv("QUIRRA_TEMPLATE_DIR", own);
-    QCOMPARE(all.status, 0);
-    QCOMPARE(none.status, 1);
-    QVERIFY2(none.err.contains(QLatin1String("no piece matches")), qPrintable(none.err));
-    if (!QFileInfo::exists(QStringLiteral("/usr/share/libglabels-3.0/templates")))
-        QSKIP("the label-template database (Debian glabels-data) is not installed");
-    QVERIFY2(all.out.count(QLatin1Char('\n')) > 1000, qPrintable(all.out.left(200)));
-    QCOMPARE(one.out, QStringLiteral("Laser/InkJet Products\tAvery\tAvery L7163\t3.90139 x 1.5 in"
-                                     "\t2 x 7\tA4 (210 x 297 mm)\tMailing labels\n"));
-}
-
-void TestCli::calibrationSheet_data()
-{
-    QTest::addColumn<QString>("piece");
-    QTest::addColumn<QSizeF>("paper");  // points
-    QTest::addColumn<QRectF>("pieces"); // the first piece's centre and the pitch, inches
-    QTest::addColumn<QSize>("grid");
-    QTest::addColumn<QStringList>("measured"); // a reading, the settings it gives
-    // The sheets' real geometry. A reading 1 % too wide over the 5.5 in
-    // between the outer crosses, and one 0.6 % too tall over 9 in.
-    QTest::newRow("letter-30-up") << "5160 - Address Labels" << QSizeF(612, 792)
-                                  << QRectF(1.5, 1.0, 2.75, 1.0) << QSize(3, 10)
-                                  << QStringList{
-                                         "0,0.1,0.055,0.1",
-                                         "--set PrinterLeft=0.235 --set PrinterTop=0.350 "
-                                         "--set PrinterScaleX=99.01 --set PrinterScaleY=100.00\n"};
-    QTest::newRow("a4-21-up") << "L7160 - Address Labels" << QSizeF(595.3, 841.9)
-                              << QRectF(1.5339, 1.3465, 2.6, 1.5) << QSize(3, 7)
-                              << QStringList{
-                                     "-0.05,0,-0.05,0.06",
-                                     "--set PrinterLeft=0.200 --set PrinterTop=0.241 "
-                                     "--set PrinterScaleX=100.00 --set PrinterScaleY=99.34\n"};
-}
-
-void TestCli::calibrationSheet()
-{
-    QFETCH(QString, piece);
-    QFETCH(QSizeF, paper);
-    QFETCH(QRectF, pieces);
-    QFETCH(QSize, grid);
-    QFETCH(QStringList, measured);
-    const QString pdf = out(QStringLiteral("calibration.pdf"));
-    const Run run = quirra({"calibrate", "--piece", piece, "--pdf", pdf});
-    QVERIFY2(run.status == 0, qPrintable(run.err));
-    const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
-    QVERIFY(sizes.size() == 1 && qAbs(sizes[0].width() - paper.width()) < 1 &&
-            qAbs(sizes[0].height() - paper.height()) < 1);
-
-    // A ruler number stands at its tick, n inches or n cm from the paper's
-    // left edge (across the top) or top edge (down the side), whole on the
-    // paper and covering no other word; each ruler has both kinds.
-    const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
-    QMap<QString, int> count;
-    for (int i = 0; i < words.size(); ++i) {
-        const QRectF box = words[i].box;
-        QVERIFY2(QRectF(QPointF(), paper).contains(box), qPrintable(words[i].text));
-        for (int j = i + 1; j < words.size(); ++j)
-            QVERIFY2(!box.intersects(words[j].box), qPrintable(words[i].text + words[j].text));
-        bool number = false;
-        const int n = words[i].text.toInt(&number);
-        if (!number || (box.top() > 40 && box.left() > 60))
-            continue; // the instruction
-        const bool cm = i + 1 < words.size() && words[i + 1].text == QLatin1String("cm");
-        const bool across = box.top() < 40;
-        QVERIFY2(qAbs((across ? box.left() : box.center().y()) - n * (cm ? 72 / 2.54 : 72)) < 3,
-                 qPrintable(words[i].text));
-        ++count[QLatin1String(across ? "across " : "down ") + QLatin1String(cm ? "cm" : "in")];
-    }
-    QCOMPARE(count.size(), 4);
-    for (int numbers : std::as_const(count))
-        QVERIFY(numbers >= 6);
-
-    // A cross at every real piece's centre (the printer's offsets cancel on
-    // a PDF), plain paper a quarter pitch to its right.
-    constexpr int Dpi = 150;
-    QCOMPARE(QProcess::execute("pdftoppm", {"-gray", "-r", "150", "-singlefile", pdf, out("s")}),
-             0);
-    const QImage image(out("s.pgm"));
-    const auto darkest = [&](double x, double y) {
-        int value = 255;
-        for (int dy = -2; dy <= 2; ++dy)
-            for (int dx = -2; dx <= 2; ++dx)
-                value = std::min(value, qGray(image.pixel(int(x * Dpi) + dx, int(y * Dpi) + dy)));
-        return value;
-    };
-    for (int slot = 0; slot < grid.width() * grid.height(); ++slot) {
-        const double x = pieces.x() + slot % grid.width() * pieces.width();
-        const double y = pieces.y() + slot / grid.width() * pieces.height();
-        QVERIFY2(darkest(x, y) < 160 && darkest(x + pieces.width() / 4, y) > 230,
-                 qPrintable(QString::number(slot + 1)));
-    }
-
-    const Run settings = quirra({"calibrate", "--piece", piece, "--measured", measured[0]});
-    QCOMPARE(settings.out, measured[1]);
-}
-
-// Every command the usage names, and every option its help lists, has its
-// entry in the manual page.
-void TestCli::manPageListsEveryOption_data()
-{
-    QTest::addColumn<QString>("command");
-    static const QRegularExpression named(QStringLiteral(R"(quirra ([a-z]+) )"));
-    for (auto it = named.globalMatch(runQuirra(QDir::tempPath(), {"--help"}).out); it.hasNext();) {
-        const QString command = it.next().captured(1);
-        QTest::newRow(qPrintable(command)) << command;
-    }
-}
-
-void TestCli::manPageListsEveryOption()
-{
-    QFETCH(QString, command);
-    QFile file(QStringLiteral(QUIRRA_SOURCE_ROOT "/doc/quirra.1"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QString page = QString::fromUtf8(file.readAll());
-    QVERIFY(page.contains(QLatin1String(".SS ") + command));
-    const Run help = quirra({command, "--help"});
-    static const QRegularExpression option(QStringLiteral(R"(^  (?:-\w, )?--([\w-]+))"),
-                                           QRegularExpression::MultilineOption);
-    int listed = 0;
-    for (auto it = option.globalMatch(help.out); it.hasNext(); ++listed) {
-        const QString name = it.next().captured(1);
-        if (name == QLatin1String("help-all"))
-            continue; // Qt's own
-        QVERIFY2(page.contains(QLatin1String("\\-\\-") + QString(name).replace('-', "\\-")),
-                 qPrintable(name));
-    }
-    QVERIFY(listed > 2);
 }
 
 QTEST_MAIN(TestCli)

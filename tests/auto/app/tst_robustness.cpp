@@ -5,7 +5,9 @@
 // a value of ten thousand characters, a hundred thousand columns, bytes that
 // are no text, a catalogue of junk. Each run ends in a clear message or a
 // correct PDF, in bounded time and memory, and leaves no spool or half
-// written file behind - also when the run fails inside the control.
+// written file behind - also when the run fails inside the control. And
+// the preflight as the program tells it: quirra check, print's summary of
+// what needs a look, and print --strict that writes nothing.
 #include "pdfprobe.h"
 #include "quirrarun.h"
 
@@ -70,6 +72,9 @@ QStringList leftFiles(const QString &folder)
 }
 
 const QByteArray Header = "first,last,address1,city,state,zip\n";
+const QByteArray Clean = "Ann,Lee,12 Elm St,Troy,NY,12180\n";
+// The state is far too long for the city line: the line is left out.
+const QByteArray LongState = "Bob,Roe,4 Oak Ave,Troy,NEW YORK STATE OF AMERICA,12180\n";
 
 // The inputs, by name: a CSV file's bytes, or a catalogue's.
 QByteArray makeCsv(const QString &kind)
@@ -103,292 +108,363 @@ class TestRobustness : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
+    void initTestCase()
+    {
+        if (QStandardPaths::findExecutable(QStringLiteral("pdfinfo")).isEmpty())
+            QSKIP("pdfinfo (poppler-utils) is not installed; scripts/install-deps installs it");
+        QVERIFY(QFileInfo::exists(QStringLiteral(QUIRRA_BINARY)));
+    }
 
-    void hostileInput_data();
-    void hostileInput();
-    void spoolIsPrivateAndRemoved_data();
-    void spoolIsPrivateAndRemoved();
-    void staleSpoolsAreRemoved();
-    void fullOrMissingFolder_data();
-    void fullOrMissingFolder();
-    void interruptedPrinterRunLeavesNothing();
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_tmp = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_dir->isValid() && m_tmp->isValid());
+    }
+
+    void hostileInput_data()
+    {
+        QTest::addColumn<QString>("csv");        // what makeCsv() makes
+        QTest::addColumn<bool>("junkCatalogue"); // 10 MB of random bytes as quirra.cfg
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("message"); // on standard error
+        QTest::addColumn<int>("pages");       // of the PDF when the run succeeds
+
+        const QStringList labels{"print", "--piece", "5160 - Address Labels", "--pdf", "%OUT%"};
+        QTest::newRow("value-of-10000-characters")
+            << "long-value" << false << labels << 0 << "2 records, 1 page" << 1;
+        QTest::newRow("100000-columns")
+            << "wide" << false << labels << 0 << "1 record, 1 page" << 1;
+        QTest::newRow("csv-of-random-bytes")
+            << "random-bytes" << false << labels << 1 << "line 1" << 0;
+        QTest::newRow("csv-of-nul-bytes") << "nul-bytes" << false << labels << 1 << "line 2" << 0;
+        QTest::newRow("print-with-junk-catalogue")
+            << "plain" << true << labels << 1 << "quirra.cfg: line 1: the text is not UTF-8" << 0;
+        QTest::newRow("list-junk-catalogue") << "" << true << QStringList{"pieces"} << 1
+                                             << "quirra.cfg: line 1: the text is not UTF-8" << 0;
+    }
+
+    void hostileInput()
+    {
+        QFETCH(QString, csv);
+        QFETCH(bool, junkCatalogue);
+        QFETCH(QStringList, arguments);
+        QFETCH(int, status);
+        QFETCH(QString, message);
+
+        QProcessEnvironment env = environment();
+        if (junkCatalogue) {
+            const QString folder = m_dir->filePath(QStringLiteral("catalogue"));
+            QVERIFY(QDir().mkpath(folder));
+            QFile file(folder + QStringLiteral("/quirra.cfg"));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(junk(10 << 20, 42));
+            file.close();
+            env.insert(QStringLiteral("QUIRRA_SYSTEM_DIR"), folder);
+            env.insert(QStringLiteral("QUIRRA_PAPER_CATALOGUE"), file.fileName());
+        }
+        const QString pdf = m_dir->filePath(QStringLiteral("out.pdf"));
+        arguments.replaceInStrings(QStringLiteral("%OUT%"), pdf);
+        if (!csv.isEmpty()) {
+            arguments << write(QStringLiteral("in.csv"), makeCsv(csv));
+        }
+
+        const QuirraRun run = runQuirra(m_dir->path(), arguments, {}, env);
+        QVERIFY2(run.status == status, qPrintable(run.err));
+        QVERIFY2(run.err.contains(message), qPrintable(run.err));
+        // A damaged catalogue is one message, not a cascade.
+        if (junkCatalogue)
+            QVERIFY2(run.err.trimmed().count(QLatin1Char('\n')) == 0, qPrintable(run.err));
+        QVERIFY2(childrenPeakMb() < PeakLimitMb,
+                 qPrintable(QStringLiteral("peak memory %1 MB").arg(childrenPeakMb())));
+
+        if (status == 0) {
+            QTEST(int(pdfprobe::pageSizes(pdf).size()), "pages");
+            QVERIFY(pdfprobe::find(pdfprobe::words(pdf), QStringLiteral("Holloway")));
+        } else {
+            QVERIFY(!QFileInfo::exists(pdf));
+        }
+        // Neither the spool nor a hidden PDF in the making is left anywhere.
+        QCOMPARE(leftFiles(m_tmp->path()), QStringList());
+        const QStringList left = QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden);
+        for (const QString &name : left)
+            QVERIFY2(!name.startsWith(QLatin1Char('.')), qPrintable(name));
+    }
+
+    void spoolIsPrivateAndRemoved_data()
+    {
+        QTest::addColumn<QStringList>("settings");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("message");
+
+        QTest::newRow("run-completes") << QStringList() << 0 << "2 records, 1 page";
+        // The control's print run raises its error: the method fails with an exception.
+        QTest::newRow("run-fails-in-the-control")
+            << QStringList{"--set", "PieceNumAcross=0"} << 1 << "0 pieces across";
+    }
+
+    void spoolIsPrivateAndRemoved()
+    {
+        QFETCH(QStringList, settings);
+        QFETCH(int, status);
+        QFETCH(QString, message);
+
+        // Records come down a pipe, so the run waits, spool open, until the
+        // pipe is closed.
+        QProcess quirra;
+        quirra.setProcessEnvironment(environment());
+        quirra.start(QStringLiteral(QUIRRA_BINARY),
+                     QStringList{"print", "--piece", "5160 - Address Labels", "--pdf",
+                                 m_dir->filePath(QStringLiteral("out.pdf"))} +
+                         settings + QStringList{"-"});
+        QVERIFY(quirra.waitForStarted());
+        quirra.write(Header + "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704\n");
+        QVERIFY(quirra.waitForBytesWritten());
+
+        QString spool;
+        QTRY_VERIFY_WITH_TIMEOUT(
+            [&] {
+                const QStringList found =
+                    QDir(m_tmp->path()).entryList({QStringLiteral("qzv*")}, QDir::Files);
+                if (found.size() == 1)
+                    spool = QDir(m_tmp->path()).filePath(found.first());
+                return !spool.isEmpty();
+            }(),
+            30000);
+        struct stat info;
+        QCOMPARE(::stat(QFile::encodeName(spool).constData(), &info), 0);
+        QCOMPARE(info.st_mode & 07777, mode_t(0600));
+        // Held while in use, so no other run takes it for a stale one.
+        const int fd = ::open(QFile::encodeName(spool).constData(), O_RDONLY);
+        QVERIFY(fd >= 0);
+        QVERIFY(::flock(fd, LOCK_EX | LOCK_NB) != 0);
+        ::close(fd);
+
+        quirra.write("Daniel,Okafor,88 Harbor View Dr,Portland,ME,04101\n");
+        quirra.closeWriteChannel();
+        QVERIFY(quirra.waitForFinished(60000));
+        const QString err = QString::fromUtf8(quirra.readAllStandardError());
+        QVERIFY2(quirra.exitCode() == status, qPrintable(err));
+        QVERIFY2(err.contains(message), qPrintable(err));
+        QVERIFY2(!QFileInfo::exists(spool), qPrintable(spool + QStringLiteral(" is left")));
+        QCOMPARE(leftFiles(m_tmp->path()), QStringList());
+    }
+
+    void staleSpoolsAreRemoved()
+    {
+        // One left by a killed run; one a running process holds.
+        const QString stale = m_tmp->filePath(QStringLiteral("qzvKILLED.tmp"));
+        const QString held = m_tmp->filePath(QStringLiteral("qzvINUSE1.tmp"));
+        for (const QString &path : {stale, held}) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("\"FirstName\"\r\n");
+            file.close();
+            const timespec hourAgo[2] = {{::time(nullptr) - 3600, 0}, {::time(nullptr) - 3600, 0}};
+            QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), hourAgo, 0), 0);
+        }
+        const int fd = ::open(QFile::encodeName(held).constData(), O_RDONLY);
+        QVERIFY(fd >= 0);
+        QCOMPARE(::flock(fd, LOCK_EX | LOCK_NB), 0);
+
+        const QuirraRun run = runQuirra(
+            m_dir->path(), {"print", "--pdf", m_dir->filePath(QStringLiteral("out.pdf")), "-"},
+            Header + "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704\n", environment());
+        ::close(fd);
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QCOMPARE(leftFiles(m_tmp->path()), QStringList{held});
+    }
+
+    void fullOrMissingFolder_data()
+    {
+        QTest::addColumn<QString>("full"); // "pdf" or "tmp": the folder on a full disk
+        QTest::addColumn<QString>("message");
+
+        QTest::newRow("pdf-folder-full") << "pdf"
+                                         << "the disk is full (no space left in";
+        QTest::newRow("temporary-folder-full") << "tmp"
+                                               << "\" is full (";
+        QTest::newRow("temporary-folder-missing") << "missing"
+                                                  << "\" is missing (";
+    }
+
+    void fullOrMissingFolder()
+    {
+        QFETCH(QString, full);
+        QFETCH(QString, message);
+
+        // A small disk of its own: the older file fits, three pages of labels do not.
+        const QString disk = m_dir->filePath(QStringLiteral("disk"));
+        QVERIFY(QDir().mkpath(disk));
+        const QByteArray mountPoint = QFile::encodeName(disk);
+        if (full != QLatin1String("missing") &&
+            ::mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=12k") != 0) {
+            QSKIP("cannot mount a small tmpfs here (needs root)");
+        }
+        const auto unmount = qScopeGuard([&] {
+            if (full != QLatin1String("missing"))
+                ::umount(mountPoint.constData());
+        });
+        const QString pdf =
+            (full == QLatin1String("pdf") ? disk : m_dir->path()) + QStringLiteral("/out.pdf");
+        QFile old(pdf);
+        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("older run") > 0);
+        old.close();
+        QProcessEnvironment env = environment();
+        if (full == QLatin1String("tmp")) {
+            QFile filler(disk + QStringLiteral("/filler"));
+            QVERIFY(filler.open(QIODevice::WriteOnly));
+            while (filler.write(QByteArray(4096, 'x')) > 0 && filler.flush()) {
+            }
+            env.insert(QStringLiteral("TMPDIR"), disk);
+        } else if (full == QLatin1String("missing")) {
+            env.insert(QStringLiteral("TMPDIR"), m_dir->filePath(QStringLiteral("gone")));
+        }
+
+        const QuirraRun run =
+            runQuirra(m_dir->path(),
+                      {"print", "--piece", "5160 - Address Labels", "--pdf", pdf,
+                       QStringLiteral(QUIRRA_SOURCE_ROOT "/examples/addresses.csv")},
+                      {}, env);
+        QVERIFY2(run.status == 1 && run.err.contains(message), qPrintable(run.err));
+        QVERIFY(old.open(QIODevice::ReadOnly));
+        QCOMPARE(old.readAll(), QByteArray("older run"));
+        const QStringList left = QDir(QFileInfo(pdf).path()).entryList(QDir::Files | QDir::Hidden);
+        for (const QString &name : left)
+            QVERIFY2(!name.startsWith(QLatin1Char('.')), qPrintable(name));
+    }
+
+    void interruptedPrinterRunLeavesNothing()
+    {
+        const QString queue = qEnvironmentVariable("QUIRRA_CUPS_QUEUE");
+        if (queue.isEmpty())
+            QSKIP("no CUPS queue (run under scripts/with-cups)");
+        // Enough records that the pages take a while to write.
+        QFile csv(m_dir->filePath(QStringLiteral("many.csv")));
+        QVERIFY(csv.open(QIODevice::WriteOnly));
+        csv.write(Header);
+        for (int i = 0; i < 20000; ++i)
+            csv.write("Margaret,Holloway" + QByteArray::number(i) +
+                      ",1427 Birchwood Ln,Springfield,IL,62704\n");
+        csv.close();
+
+        QProcess quirra;
+        quirra.setProcessEnvironment(environment());
+        quirra.start(QStringLiteral(QUIRRA_BINARY), {"print", "--piece", "5160 - Address Labels",
+                                                     "--printer", queue, csv.fileName()});
+        QVERIFY(quirra.waitForStarted());
+        // Interrupted once the pages are being written: a file beside the spool.
+        QTRY_VERIFY_WITH_TIMEOUT(
+            QDir(m_tmp->path()).entryList(QDir::Files | QDir::Hidden).size() >= 2, 60000);
+        QTest::qWait(200);
+        ::kill(pid_t(quirra.processId()), SIGINT);
+        QVERIFY(quirra.waitForFinished(30000));
+        // Cancelled between pieces: the job aborted, the files removed, the
+        // command ending as a shell reports Ctrl-C.
+        const QString err = QString::fromUtf8(quirra.readAllStandardError());
+        QCOMPARE(quirra.exitStatus(), QProcess::NormalExit);
+        QVERIFY2(quirra.exitCode() == 130 && err.contains(QLatin1String("interrupted")),
+                 qPrintable(err));
+        QCOMPARE(leftFiles(m_tmp->path()), QStringList());
+    }
+
+    void check_data()
+    {
+        QTest::addColumn<QByteArray>("rows");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("said");
+
+        QTest::newRow("clean") << Clean + Clean << QStringList() << 0
+                               << "2 records on \"Size 10 - Envelope\": nothing to note";
+        QTest::newRow("city-line-left-out")
+            << Clean + LongState << QStringList() << 3
+            << "1 record needs a look:\nquirra check:   record 2 (Bob Roe): the city line was left "
+               "out: \"Troy,  NEW YORK STATE OF AMERICA  12180\" is ";
+        QTest::newRow("address-below-the-envelope")
+            << Clean + Clean << QStringList{"--set", "AddressTop=25"} << 3
+            << "record 1 (Ann Lee): an item box lies outside the page: the Address box lies wholly "
+               "outside the page (and 1 more record)";
+    }
+
+    void check()
+    {
+        QFETCH(QByteArray, rows);
+        QFETCH(QStringList, options);
+        QFETCH(int, status);
+        QFETCH(QString, said);
+        const QString csv = write(QStringLiteral("in.csv"), Header + rows);
+        const QuirraRun run = quirra(QStringList{"check"} + options + QStringList{csv});
+        QVERIFY2(run.err.contains(said), qPrintable(run.err));
+        QCOMPARE(run.status, status);
+        // Nothing but the input in the folder: no PDF, no spool left behind.
+        QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList{"in.csv"});
+        QCOMPARE(leftFiles(m_tmp->path()), QStringList());
+    }
+
+    void print_data()
+    {
+        QTest::addColumn<bool>("strict");
+        QTest::newRow("strict-writes-nothing") << true;
+        QTest::newRow("lenient-prints-and-tells") << false;
+    }
+
+    void print()
+    {
+        QFETCH(bool, strict);
+        // Three records need a look, on three envelope pages.
+        const QString csv =
+            write(QStringLiteral("in.csv"), Header + LongState + Clean + LongState + LongState);
+        const QString pdf = write(QStringLiteral("out.pdf"), "an older file\n");
+        QStringList arguments{"print", "--pdf", pdf, csv};
+        if (strict)
+            arguments.insert(1, QStringLiteral("--strict"));
+        const QuirraRun run = quirra(arguments);
+
+        const QString summary = QStringLiteral(
+            "quirra print: 3 records need a look:\nquirra print:   record 1 (Bob Roe): the city "
+            "line was left out: ");
+        QVERIFY2(run.err.contains(summary), qPrintable(run.err));
+        QCOMPARE(run.err.count(QStringLiteral("the city line was left out")), 1);
+        QVERIFY2(run.err.contains(QStringLiteral("(and 2 more records)")), qPrintable(run.err));
+        QFile out(pdf);
+        QVERIFY(out.open(QIODevice::ReadOnly));
+        const QByteArray written = out.readAll();
+        if (strict) {
+            QCOMPARE(run.status, 3);
+            QCOMPARE(written, QByteArray("an older file\n"));
+            QVERIFY(!run.err.contains(QStringLiteral("-> ")));
+        } else {
+            QCOMPARE(run.status, 0);
+            QVERIFY(written.startsWith("%PDF"));
+            QVERIFY2(run.err.contains(QStringLiteral("4 records, 4 pages")), qPrintable(run.err));
+        }
+        QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), (QStringList{"in.csv", "out.pdf"}));
+    }
 
 private:
     QProcessEnvironment environment() const;
+    QuirraRun quirra(const QStringList &arguments)
+    {
+        return runQuirra(m_dir->path(), arguments, {}, environment());
+    }
+    QString write(const QString &name, const QByteArray &bytes)
+    {
+        QFile file(m_dir->filePath(name));
+        const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+        return written ? file.fileName() : QString();
+    }
 
     std::unique_ptr<QTemporaryDir> m_dir; // inputs and outputs
     std::unique_ptr<QTemporaryDir> m_tmp; // the program's TMPDIR: its spool goes here
 };
-
-void TestRobustness::initTestCase()
-{
-    if (QStandardPaths::findExecutable(QStringLiteral("pdfinfo")).isEmpty())
-        QSKIP("pdfinfo (poppler-utils) is not installed; scripts/install-deps installs it");
-    QVERIFY(QFileInfo::exists(QStringLiteral(QUIRRA_BINARY)));
-}
-
-void TestRobustness::init()
-{
-    m_dir = std::make_unique<QTemporaryDir>();
-    m_tmp = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_dir->isValid() && m_tmp->isValid());
-}
 
 QProcessEnvironment TestRobustness::environment() const
 {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert(QStringLiteral("TMPDIR"), m_tmp->path());
     return env;
-}
-
-void TestRobustness::hostileInput_data()
-{
-    QTest::addColumn<QString>("csv");        // what makeCsv() makes
-    QTest::addColumn<bool>("junkCatalogue"); // 10 MB of random bytes as quirra.cfg
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("message"); // on standard error
-    QTest::addColumn<int>("pages");       // of the PDF when the run succeeds
-
-    const QStringList labels{"print", "--piece", "5160 - Address Labels", "--pdf", "%OUT%"};
-    QTest::newRow("value-of-10000-characters")
-        << "long-value" << false << labels << 0 << "2 records, 1 page" << 1;
-    QTest::newRow("100000-columns") << "wide" << false << labels << 0 << "1 record, 1 page" << 1;
-    QTest::newRow("csv-of-random-bytes") << "random-bytes" << false << labels << 1 << "line 1" << 0;
-    QTest::newRow("csv-of-nul-bytes") << "nul-bytes" << false << labels << 1 << "line 2" << 0;
-    QTest::newRow("print-with-junk-catalogue")
-        << "plain" << true << labels << 1 << "quirra.cfg: line 1: the text is not UTF-8" << 0;
-    QTest::newRow("list-junk-catalogue") << "" << true << QStringList{"pieces"} << 1
-                                         << "quirra.cfg: line 1: the text is not UTF-8" << 0;
-}
-
-void TestRobustness::hostileInput()
-{
-    QFETCH(QString, csv);
-    QFETCH(bool, junkCatalogue);
-    QFETCH(QStringList, arguments);
-    QFETCH(int, status);
-    QFETCH(QString, message);
-    QFETCH(int, pages);
-
-    QProcessEnvironment env = environment();
-    if (junkCatalogue) {
-        const QString folder = m_dir->filePath(QStringLiteral("catalogue"));
-        QVERIFY(QDir().mkpath(folder));
-        QFile file(folder + QStringLiteral("/quirra.cfg"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(junk(10 << 20, 42));
-        file.close();
-        env.insert(QStringLiteral("QUIRRA_SYSTEM_DIR"), folder);
-        env.insert(QStringLiteral("QUIRRA_PAPER_CATALOGUE"), file.fileName());
-    }
-    const QString pdf = m_dir->filePath(QStringLiteral("out.pdf"));
-    arguments.replaceInStrings(QStringLiteral("%OUT%"), pdf);
-    if (!csv.isEmpty()) {
-        QFile input(m_dir->filePath(QStringLiteral("in.csv")));
-        QVERIFY(input.open(QIODevice::WriteOnly));
-        input.write(makeCsv(csv));
-        arguments << input.fileName();
-    }
-
-    const QuirraRun run = runQuirra(m_dir->path(), arguments, {}, env);
-    QVERIFY2(run.status == status, qPrintable(run.err));
-    QVERIFY2(run.err.contains(message), qPrintable(run.err));
-    // A damaged catalogue is one message, not a cascade.
-    if (junkCatalogue)
-        QVERIFY2(run.err.trimmed().count(QLatin1Char('\n')) == 0, qPrintable(run.err));
-    QVERIFY2(childrenPeakMb() < PeakLimitMb,
-             qPrintable(QStringLiteral("peak memory %1 MB").arg(childrenPeakMb())));
-
-    if (status == 0) {
-        QCOMPARE(pdfprobe::pageSizes(pdf).size(), pages);
-        QVERIFY(pdfprobe::find(pdfprobe::words(pdf), QStringLiteral("Holloway")));
-    } else {
-        QVERIFY(!QFileInfo::exists(pdf));
-    }
-    // Neither the spool nor a hidden PDF in the making is left anywhere.
-    QCOMPARE(leftFiles(m_tmp->path()), QStringList());
-    const QStringList left = QDir(m_dir->path()).entryList(QDir::Files | QDir::Hidden);
-    for (const QString &name : left)
-        QVERIFY2(!name.startsWith(QLatin1Char('.')), qPrintable(name));
-}
-
-void TestRobustness::spoolIsPrivateAndRemoved_data()
-{
-    QTest::addColumn<QStringList>("settings");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("message");
-
-    QTest::newRow("run-completes") << QStringList() << 0 << "2 records, 1 page";
-    // The control's print run raises its error: the method fails with an exception.
-    QTest::newRow("run-fails-in-the-control")
-        << QStringList{"--set", "PieceNumAcross=0"} << 1 << "0 pieces across";
-}
-
-void TestRobustness::spoolIsPrivateAndRemoved()
-{
-    QFETCH(QStringList, settings);
-    QFETCH(int, status);
-    QFETCH(QString, message);
-
-    // Records come down a pipe, so the run waits, spool open, until the
-    // pipe is closed.
-    QProcess quirra;
-    quirra.setProcessEnvironment(environment());
-    quirra.start(QStringLiteral(QUIRRA_BINARY),
-                 QStringList{"print", "--piece", "5160 - Address Labels", "--pdf",
-                             m_dir->filePath(QStringLiteral("out.pdf"))} +
-                     settings + QStringList{"-"});
-    QVERIFY(quirra.waitForStarted());
-    quirra.write(Header + "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704\n");
-    QVERIFY(quirra.waitForBytesWritten());
-
-    QString spool;
-    QTRY_VERIFY_WITH_TIMEOUT(
-        [&] {
-            const QStringList found =
-                QDir(m_tmp->path()).entryList({QStringLiteral("qzv*")}, QDir::Files);
-            if (found.size() == 1)
-                spool = QDir(m_tmp->path()).filePath(found.first());
-            return !spool.isEmpty();
-        }(),
-        30000);
-    struct stat info;
-    QCOMPARE(::stat(QFile::encodeName(spool).constData(), &info), 0);
-    QCOMPARE(info.st_mode & 07777, mode_t(0600));
-    // Held while in use, so no other run takes it for a stale one.
-    const int fd = ::open(QFile::encodeName(spool).constData(), O_RDONLY);
-    QVERIFY(fd >= 0);
-    QVERIFY(::flock(fd, LOCK_EX | LOCK_NB) != 0);
-    ::close(fd);
-
-    quirra.write("Daniel,Okafor,88 Harbor View Dr,Portland,ME,04101\n");
-    quirra.closeWriteChannel();
-    QVERIFY(quirra.waitForFinished(60000));
-    const QString err = QString::fromUtf8(quirra.readAllStandardError());
-    QVERIFY2(quirra.exitCode() == status, qPrintable(err));
-    QVERIFY2(err.contains(message), qPrintable(err));
-    QVERIFY2(!QFileInfo::exists(spool), qPrintable(spool + QStringLiteral(" is left")));
-    QCOMPARE(leftFiles(m_tmp->path()), QStringList());
-}
-
-void TestRobustness::staleSpoolsAreRemoved()
-{
-    // One left by a killed run; one a running process holds.
-    const QString stale = m_tmp->filePath(QStringLiteral("qzvKILLED.tmp"));
-    const QString held = m_tmp->filePath(QStringLiteral("qzvINUSE1.tmp"));
-    for (const QString &path : {stale, held}) {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("\"FirstName\"\r\n");
-        file.close();
-        const timespec hourAgo[2] = {{::time(nullptr) - 3600, 0}, {::time(nullptr) - 3600, 0}};
-        QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), hourAgo, 0), 0);
-    }
-    const int fd = ::open(QFile::encodeName(held).constData(), O_RDONLY);
-    QVERIFY(fd >= 0);
-    QCOMPARE(::flock(fd, LOCK_EX | LOCK_NB), 0);
-
-    const QuirraRun run = runQuirra(
-        m_dir->path(), {"print", "--pdf", m_dir->filePath(QStringLiteral("out.pdf")), "-"},
-        Header + "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704\n", environment());
-    ::close(fd);
-    QVERIFY2(run.status == 0, qPrintable(run.err));
-    QCOMPARE(leftFiles(m_tmp->path()), QStringList{held});
-}
-
-void TestRobustness::fullOrMissingFolder_data()
-{
-    QTest::addColumn<QString>("full"); // "pdf" or "tmp": the folder on a full disk
-    QTest::addColumn<QString>("message");
-
-    QTest::newRow("pdf-folder-full") << "pdf"
-                                     << "the disk is full (no space left in";
-    QTest::newRow("temporary-folder-full") << "tmp"
-                                           << "\" is full (";
-    QTest::newRow("temporary-folder-missing") << "missing"
-                                              << "\" is missing (";
-}
-
-void TestRobustness::fullOrMissingFolder()
-{
-    QFETCH(QString, full);
-    QFETCH(QString, message);
-
-    // A small disk of its own: the older file fits, three pages of labels do not.
-    const QString disk = m_dir->filePath(QStringLiteral("disk"));
-    QVERIFY(QDir().mkpath(disk));
-    const QByteArray mountPoint = QFile::encodeName(disk);
-    if (full != QLatin1String("missing") &&
-        ::mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=12k") != 0) {
-        QSKIP("cannot mount a small tmpfs here (needs root)");
-    }
-    const auto unmount = qScopeGuard([&] {
-        if (full != QLatin1String("missing"))
-            ::umount(mountPoint.constData());
-    });
-    const QString pdf =
-        (full == QLatin1String("pdf") ? disk : m_dir->path()) + QStringLiteral("/out.pdf");
-    QFile old(pdf);
-    QVERIFY(old.open(QIODevice::WriteOnly) && old.write("older run") > 0);
-    old.close();
-    QProcessEnvironment env = environment();
-    if (full == QLatin1String("tmp")) {
-        QFile filler(disk + QStringLiteral("/filler"));
-        QVERIFY(filler.open(QIODevice::WriteOnly));
-        while (filler.write(QByteArray(4096, 'x')) > 0 && filler.flush()) {
-        }
-        env.insert(QStringLiteral("TMPDIR"), disk);
-    } else if (full == QLatin1String("missing")) {
-        env.insert(QStringLiteral("TMPDIR"), m_dir->filePath(QStringLiteral("gone")));
-    }
-
-    const QuirraRun run = runQuirra(m_dir->path(),
-                                    {"print", "--piece", "5160 - Address Labels", "--pdf", pdf,
-                                     QStringLiteral(QUIRRA_SOURCE_ROOT "/examples/addresses.csv")},
-                                    {}, env);
-    QVERIFY2(run.status == 1 && run.err.contains(message), qPrintable(run.err));
-    QVERIFY(old.open(QIODevice::ReadOnly));
-    QCOMPARE(old.readAll(), QByteArray("older run"));
-    const QStringList left = QDir(QFileInfo(pdf).path()).entryList(QDir::Files | QDir::Hidden);
-    for (const QString &name : left)
-        QVERIFY2(!name.startsWith(QLatin1Char('.')), qPrintable(name));
-}
-
-void TestRobustness::interruptedPrinterRunLeavesNothing()
-{
-    const QString queue = qEnvironmentVariable("QUIRRA_CUPS_QUEUE");
-    if (queue.isEmpty())
-        QSKIP("no CUPS queue (run under scripts/with-cups)");
-    // Enough records that the pages take a while to write.
-    QFile csv(m_dir->filePath(QStringLiteral("many.csv")));
-    QVERIFY(csv.open(QIODevice::WriteOnly));
-    csv.write(Header);
-    for (int i = 0; i < 20000; ++i)
-        csv.write("Margaret,Holloway" + QByteArray::number(i) +
-                  ",1427 Birchwood Ln,Springfield,IL,62704\n");
-    csv.close();
-
-    QProcess quirra;
-    quirra.setProcessEnvironment(environment());
-    quirra.start(QStringLiteral(QUIRRA_BINARY),
-                 {"print", "--piece", "5160 - Address Labels", "--printer", queue, csv.fileName()});
-    QVERIFY(quirra.waitForStarted());
-    // Interrupted once the pages are being written: a file beside the spool.
-    QTRY_VERIFY_WITH_TIMEOUT(QDir(m_tmp->path()).entryList(QDir::Files | QDir::Hidden).size() >= 2,
-                             60000);
-    QTest::qWait(200);
-    ::kill(pid_t(quirra.processId()), SIGINT);
-    QVERIFY(quirra.waitForFinished(30000));
-    // Cancelled between pieces: the job aborted, the files removed, the
-    // command ending as a shell reports Ctrl-C.
-    const QString err = QString::fromUtf8(quirra.readAllStandardError());
-    QCOMPARE(quirra.exitStatus(), QProcess::NormalExit);
-    QVERIFY2(quirra.exitCode() == 130 && err.contains(QLatin1String("interrupted")),
-             qPrintable(err));
-    QCOMPARE(leftFiles(m_tmp->path()), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TestRobustness)

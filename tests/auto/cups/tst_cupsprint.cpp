@@ -7,7 +7,7 @@
 
 #include "hostrecorder.h"
 #include "pdfprobe.h"
-#include "records/sharedspool.h"
+#include "spoolfixture.h"
 
 #include "printing/printsurface.h"
 #include <optional>
@@ -80,21 +80,6 @@ QString spooledPdf(const QString &folder, const QString &title, int timeoutMs)
     return {};
 }
 
-// Every page of a PDF in grey at 100 dots an inch, through pdftoppm.
-QList<QImage> render(const QString &pdf)
-{
-    QTemporaryDir folder;
-    if (QProcess::execute(QStringLiteral("pdftoppm"),
-                          {QStringLiteral("-r"), QStringLiteral("100"), QStringLiteral("-gray"),
-                           pdf, folder.filePath(QStringLiteral("page"))}) != 0)
-        return {};
-    QList<QImage> pages;
-    // The page numbers in the names have one width, so they sort as names.
-    for (const QString &name : QDir(folder.path()).entryList(QDir::Files, QDir::Name))
-        pages << QImage(folder.filePath(name)).convertToFormat(QImage::Format_Grayscale8);
-    return pages;
-}
-
 // The share of a's ink with no ink of b on it or a pixel beside it.
 double inkMissing(const QImage &a, const QImage &b)
 {
@@ -127,8 +112,8 @@ double inkMissing(const QImage &a, const QImage &b)
 // turns what is printed on it a quarter. Returns the first difference.
 QString differences(const QString &spooled, const QString &direct)
 {
-    const QList<QImage> got = render(spooled);
-    const QList<QImage> want = render(direct);
+    const QList<QImage> got = pdfprobe::pages(spooled, 100);
+    const QList<QImage> want = pdfprobe::pages(direct, 100);
     if (got.size() != want.size() || want.isEmpty())
         return QStringLiteral("%1 pages rendered, not %2").arg(got.size()).arg(want.size());
     for (qsizetype p = 0; p < want.size(); ++p) {
@@ -165,16 +150,215 @@ class TestCupsPrint : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase()
+    {
+        m_queue = qEnvironmentVariable("QUIRRA_CUPS_QUEUE");
+        m_outDir = qEnvironmentVariable("QUIRRA_CUPS_PDF_DIR");
+        if (m_queue.isEmpty() || qEnvironmentVariableIsEmpty("CUPS_SERVER"))
+            QSKIP("no private CUPS spooler: run the suite through scripts/with-cups (make test "
+                  "does)");
+        QVERIFY2(!QPrinterInfo::printerInfo(m_queue).isNull(),
+                 qPrintable(QStringLiteral("the queue %1 is not seen; the printers are: %2")
+                                .arg(m_queue, QPrinterInfo::availablePrinterNames().join(", "))));
+    }
+    void init() { m_host.emplace(); }
 
-    void printsThroughTheSpooler_data();
-    void printsThroughTheSpooler();
-    void unknownPrinterIsReported();
-    void refusingQueueIsReported_data();
-    void refusingQueueIsReported();
-    void jobTheQueueCannotPrintIsReported();
+    void cleanup()
+    {
+        m_host.reset();
+        for (const QString &file : std::as_const(m_made))
+            QFile::remove(file);
+        m_made.clear();
+    }
+
+    void printsThroughTheSpooler_data()
+    {
+        QTest::addColumn<QString>("piece");
+        QTest::addColumn<int>("records");
+        QTest::addColumn<int>("pages");
+        QTest::addColumn<QString>("returnText");
+        QTest::addColumn<QSizeF>("paper"); // points, as the spooler's file has it
+
+        QTest::newRow("labels-two-sheets")
+            << "5160 - Address Labels" << 35 << 2 << QString() << QSizeF(612, 792);
+        QTest::newRow("envelopes-with-return-address")
+            << "Size 10 - Envelope" << 3 << 3 << "Northwind Mail Room" << QSizeF(684, 297);
+        QTest::newRow("a4-labels-on-a4")
+            << "L7160 - Address Labels" << 4 << 1 << QString() << QSizeF(595, 842);
+        QTest::newRow("pin-fed-row-on-its-own-custom-paper")
+            << "4-Up 3 1/2 x 15/16 - Pin-Fed Address Labels" << 5 << 2 << QString()
+            << QSizeF(1066, 72);
+    }
+
+    void printsThroughTheSpooler()
+    {
+        QFETCH(QString, piece);
+        QFETCH(int, records);
+        QFETCH(QString, returnText);
+        QFETCH(QSizeF, paper);
+
+        Quirra control;
+        control.PieceName(piece);
+        control.ClearReturn();
+        control.ClearStamp();
+        if (!returnText.isEmpty())
+            control.SetReturnText(returnText);
+        feed(control, records);
+
+        const QString job = title(QTest::currentDataTag()).remove(QLatin1Char('-'));
+        control.surface()->setPrinterName(m_queue);
+        control.printer()->setDocName(job);
+        control.PrintNow();
+        QVERIFY2(m_host->messages.isEmpty(), qPrintable(m_host->messages.join('\n')));
+        QCOMPARE(control.surface()->errorCode(), 0);
+
+        const QString pdf = spooledPdf(m_outDir, job, 120000);
+        QVERIFY2(!pdf.isEmpty(),
+                 qPrintable(QStringLiteral("no PDF for job %1 in %2; spooler log:\n%3")
+                                .arg(job, m_outDir, spoolerLog())));
+        m_made << pdf;
+        // The sheet's own paper, fed in either orientation (a printer turns a
+        // landscape page onto upright media).
+        const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
+        QTEST(int(sizes.size()), "pages");
+        const QSizeF fed =
+            (sizes.first().width() > sizes.first().height()) == (paper.width() > paper.height())
+                ? sizes.first()
+                : sizes.first().transposed();
+        QVERIFY2(qAbs(fed.width() - paper.width()) <= 1.5 &&
+                     qAbs(fed.height() - paper.height()) <= 1.5,
+                 qPrintable(QString::asprintf("the spooler's page is %g x %g pt",
+                                              sizes.first().width(), sizes.first().height())));
+
+        // The same run as Qt writes it to a file (other tests check that file
+        // piece by piece): here it holds the last record and the return address.
+        QTemporaryDir folder;
+        const QString direct = folder.filePath(QStringLiteral("direct.pdf"));
+        control.printer()->setOutputFileName(direct);
+        control.PrintNow();
+        QCOMPARE(control.surface()->errorCode(), 0);
+        QStringList words;
+        for (const pdfprobe::Word &w : pdfprobe::words(direct))
+            words << w.text;
+        const Person &last = People[(records - 1) % std::size(People)];
+        QVERIFY(words.contains(QString::fromLatin1(last.last) + QString::number(records - 1)));
+        QCOMPARE(words.contains(QStringLiteral("Northwind")), !returnText.isEmpty());
+
+        // And the spooler printed exactly that.
+        const QString problem = differences(pdf, direct);
+        QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    }
+
+    void unknownPrinterIsReported()
+    {
+        Quirra control;
+        control.PieceName(QStringLiteral("5160 - Address Labels"));
+        feed(control, 3);
+        const QString spool = SharedSpool::instance().spoolPath();
+        const QByteArray spooled = fixture::contents(spool);
+
+        control.surface()->setPrinterName(QStringLiteral("No Such Printer Here"));
+        control.PrintNow();
+        QCOMPARE(m_host->messages.size(), 1);
+        QVERIFY2(m_host->messages.first().startsWith(QLatin1String("Ptr.error = ")),
+                 qPrintable(m_host->messages.first()));
+        QVERIFY(m_host->messages.first().mid(12).toInt() != 0);
+        QVERIFY(control.surface()->errorCode() != 0);
+
+        // Nothing else is harmed: the spool holds its records, and the same
+        // control prints them on the real queue next.
+        QCOMPARE(fixture::contents(spool), spooled);
+        m_host->messages.clear();
+        const QString job = title("afterunknown");
+        control.surface()->setPrinterName(m_queue);
+        control.printer()->setDocName(job);
+        control.PrintNow();
+        QVERIFY2(m_host->messages.isEmpty(), qPrintable(m_host->messages.join('\n')));
+        QCOMPARE(control.surface()->errorCode(), 0);
+        const QString pdf = spooledPdf(m_outDir, job, 120000);
+        QVERIFY2(!pdf.isEmpty(), qPrintable(spoolerLog()));
+        m_made << pdf;
+        QCOMPARE(pdfprobe::pageSizes(pdf).size(), 1);
+    }
+
+    void refusingQueueIsReported_data()
+    {
+        QTest::addColumn<QString>("refuse"); // the administrator's command, with -r REASON
+        QTest::addColumn<QString>("restore");
+        QTest::addColumn<QString>("reason");
+
+        QTest::newRow("not-accepting-jobs") << "cupsreject"
+                                            << "cupsaccept"
+                                            << "not accepting jobs: Out of labels until Monday";
+        QTest::newRow("stopped") << "cupsdisable"
+                                 << "cupsenable"
+                                 << "is stopped: Paper jam in tray 2";
+    }
+
+    void refusingQueueIsReported()
+    {
+        QFETCH(QString, refuse);
+        QFETCH(QString, restore);
+        QFETCH(QString, reason);
+
+        const QString server = qEnvironmentVariable("CUPS_SERVER");
+        const QString given = reason.section(QStringLiteral(": "), 1);
+        QCOMPARE(QProcess::execute(refuse, {"-h", server, "-r", given, m_queue}), 0);
+        const auto restored = qScopeGuard([&] {
+            QProcess::execute(restore, {"-h", server, m_queue});
+        });
+
+        Quirra control;
+        control.PieceName(QStringLiteral("5160 - Address Labels"));
+        feed(control, 3);
+        const QString job = title(QTest::currentDataTag()).remove(QLatin1Char('-'));
+        control.surface()->setPrinterName(m_queue);
+        control.printer()->setDocName(job);
+        control.PrintNow();
+        QCOMPARE(m_host->messages, QStringList{QStringLiteral("Ptr.error = 2")});
+        QVERIFY(control.surface()->errorCode() != 0);
+        QVERIFY2(control.surface()->printerFailure().contains(reason),
+                 qPrintable(control.surface()->printerFailure()));
+        // Nothing waits in the queue to come out later.
+        QProcess::execute(restore, {"-h", server, m_queue});
+        QVERIFY(spooledPdf(m_outDir, job, 3000).isEmpty());
+    }
+
+    void jobTheQueueCannotPrintIsReported()
+    {
+        // A second queue whose driver names a filter that is not installed:
+        // CUPS takes the job, then stops it.
+        QFile driver(QStringLiteral("/usr/share/ppd/cups-pdf/CUPS-PDF_opt.ppd"));
+        QVERIFY(driver.open(QIODevice::ReadOnly));
+        QTemporaryDir folder;
+        QFile broken(folder.filePath(QStringLiteral("broken.ppd")));
+        QVERIFY(broken.open(QIODevice::WriteOnly));
+        for (const QByteArray &line : driver.readAll().split('\n')) {
+            if (!line.startsWith("*cupsFilter"))
+                broken.write(line + '\n');
+        }
+        broken.write(
+            "*cupsFilter2: \"application/pdf application/vnd.cups-pdf 0 quirra-no-filter\"\n");
+        broken.close();
+        const QString server = qEnvironmentVariable("CUPS_SERVER");
+        const QString queue = QStringLiteral("QuirraBroken");
+        QCOMPARE(QProcess::execute(QStringLiteral("lpadmin"),
+                                   {"-h", server, "-p", queue, "-E", "-v", "cups-pdf:/", "-P",
+                                    broken.fileName(), "-o", "printer-error-policy=abort-job"}),
+                 0);
+        const auto removed = qScopeGuard([&] {
+            QProcess::execute(QStringLiteral("lpadmin"), {"-h", server, "-x", queue});
+        });
+
+        Quirra control;
+        control.PieceName(QStringLiteral("5160 - Address Labels"));
+        feed(control, 3);
+        control.surface()->setPrinterName(queue);
+        control.PrintNow();
+        QVERIFY(control.surface()->errorCode() != 0);
+        const QString failure = control.surface()->printerFailure();
+        QVERIFY2(failure.contains(QLatin1String("quirra-no-filter")), qPrintable(failure));
+    }
 
 private:
     QString title(const char *what) const;
@@ -185,225 +369,11 @@ private:
     QStringList m_made;
 };
 
-void TestCupsPrint::initTestCase()
-{
-    m_queue = qEnvironmentVariable("QUIRRA_CUPS_QUEUE");
-    m_outDir = qEnvironmentVariable("QUIRRA_CUPS_PDF_DIR");
-    if (m_queue.isEmpty() || qEnvironmentVariableIsEmpty("CUPS_SERVER"))
-        QSKIP("no private CUPS spooler: run the suite through scripts/with-cups (make test does)");
-    QVERIFY2(!QPrinterInfo::printerInfo(m_queue).isNull(),
-             qPrintable(QStringLiteral("the queue %1 is not seen; the printers are: %2")
-                            .arg(m_queue, QPrinterInfo::availablePrinterNames().join(", "))));
-}
-
-void TestCupsPrint::init()
-{
-    m_host.emplace();
-}
-
-void TestCupsPrint::cleanup()
-{
-    m_host.reset();
-    for (const QString &file : std::as_const(m_made))
-        QFile::remove(file);
-    m_made.clear();
-}
-
 // Job titles unique to this process, in letters and digits only: the driver
 // turns anything else in a title into "_".
 QString TestCupsPrint::title(const char *what) const
 {
     return QStringLiteral("quirratest%1%2").arg(QCoreApplication::applicationPid()).arg(what);
-}
-
-void TestCupsPrint::printsThroughTheSpooler_data()
-{
-    QTest::addColumn<QString>("piece");
-    QTest::addColumn<int>("records");
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<QString>("returnText");
-    QTest::addColumn<QSizeF>("paper"); // points, as the spooler's file has it
-
-    QTest::newRow("labels-two-sheets")
-        << "5160 - Address Labels" << 35 << 2 << QString() << QSizeF(612, 792);
-    QTest::newRow("envelopes-with-return-address")
-        << "Size 10 - Envelope" << 3 << 3 << "Northwind Mail Room" << QSizeF(684, 297);
-    QTest::newRow("a4-labels-on-a4")
-        << "L7160 - Address Labels" << 4 << 1 << QString() << QSizeF(595, 842);
-    QTest::newRow("pin-fed-row-on-its-own-custom-paper")
-        << "4-Up 3 1/2 x 15/16 - Pin-Fed Address Labels" << 5 << 2 << QString() << QSizeF(1066, 72);
-}
-
-void TestCupsPrint::printsThroughTheSpooler()
-{
-    QFETCH(QString, piece);
-    QFETCH(int, records);
-    QFETCH(int, pages);
-    QFETCH(QString, returnText);
-    QFETCH(QSizeF, paper);
-
-    Quirra control;
-    control.PieceName(piece);
-    control.ClearReturn();
-    control.ClearStamp();
-    if (!returnText.isEmpty())
-        control.SetReturnText(returnText);
-    feed(control, records);
-
-    const QString job = title(QTest::currentDataTag()).remove(QLatin1Char('-'));
-    control.surface()->setPrinterName(m_queue);
-    control.printer()->setDocName(job);
-    control.PrintNow();
-    QVERIFY2(m_host->messages.isEmpty(), qPrintable(m_host->messages.join('\n')));
-    QCOMPARE(control.surface()->errorCode(), 0);
-
-    const QString pdf = spooledPdf(m_outDir, job, 120000);
-    QVERIFY2(!pdf.isEmpty(), qPrintable(QStringLiteral("no PDF for job %1 in %2; spooler log:\n%3")
-                                            .arg(job, m_outDir, spoolerLog())));
-    m_made << pdf;
-    // The sheet's own paper, fed in either orientation (a printer turns a
-    // landscape page onto upright media).
-    const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
-    QCOMPARE(sizes.size(), pages);
-    const QSizeF fed =
-        (sizes.first().width() > sizes.first().height()) == (paper.width() > paper.height())
-            ? sizes.first()
-            : sizes.first().transposed();
-    QVERIFY2(qAbs(fed.width() - paper.width()) <= 1.5 && qAbs(fed.height() - paper.height()) <= 1.5,
-             qPrintable(QStringLiteral("the spooler's page is %1 x %2 pt")
-                            .arg(sizes.first().width())
-                            .arg(sizes.first().height())));
-
-    // The same run as Qt writes it to a file (other tests check that file
-    // piece by piece): here it holds the last record and the return address.
-    QTemporaryDir folder;
-    const QString direct = folder.filePath(QStringLiteral("direct.pdf"));
-    control.printer()->setOutputFileName(direct);
-    control.PrintNow();
-    QCOMPARE(control.surface()->errorCode(), 0);
-    QStringList words;
-    for (const pdfprobe::Word &w : pdfprobe::words(direct))
-        words << w.text;
-    const Person &last = People[(records - 1) % std::size(People)];
-    QVERIFY(words.contains(QString::fromLatin1(last.last) + QString::number(records - 1)));
-    QCOMPARE(words.contains(QStringLiteral("Northwind")), !returnText.isEmpty());
-
-    // And the spooler printed exactly that.
-    const QString problem = differences(pdf, direct);
-    QVERIFY2(problem.isEmpty(), qPrintable(problem));
-}
-
-void TestCupsPrint::unknownPrinterIsReported()
-{
-    Quirra control;
-    control.PieceName(QStringLiteral("5160 - Address Labels"));
-    feed(control, 3);
-    const QString spool = SharedSpool::instance().spoolPath();
-    const QByteArray spooled = [&] {
-        QFile f(spool);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }();
-
-    control.surface()->setPrinterName(QStringLiteral("No Such Printer Here"));
-    control.PrintNow();
-    QCOMPARE(m_host->messages.size(), 1);
-    QVERIFY2(m_host->messages.first().startsWith(QLatin1String("Ptr.error = ")),
-             qPrintable(m_host->messages.first()));
-    QVERIFY(m_host->messages.first().mid(12).toInt() != 0);
-    QVERIFY(control.surface()->errorCode() != 0);
-
-    // Nothing else is harmed: the spool holds its records, and the same
-    // control prints them on the real queue next.
-    QFile file(spool);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), spooled);
-    m_host->messages.clear();
-    const QString job = title("afterunknown");
-    control.surface()->setPrinterName(m_queue);
-    control.printer()->setDocName(job);
-    control.PrintNow();
-    QVERIFY2(m_host->messages.isEmpty(), qPrintable(m_host->messages.join('\n')));
-    QCOMPARE(control.surface()->errorCode(), 0);
-    const QString pdf = spooledPdf(m_outDir, job, 120000);
-    QVERIFY2(!pdf.isEmpty(), qPrintable(spoolerLog()));
-    m_made << pdf;
-    QCOMPARE(pdfprobe::pageSizes(pdf).size(), 1);
-}
-
-void TestCupsPrint::refusingQueueIsReported_data()
-{
-    QTest::addColumn<QString>("refuse"); // the administrator's command, with -r REASON
-    QTest::addColumn<QString>("restore");
-    QTest::addColumn<QString>("reason");
-
-    QTest::newRow("not-accepting-jobs") << "cupsreject"
-                                        << "cupsaccept"
-                                        << "not accepting jobs: Out of labels until Monday";
-    QTest::newRow("stopped") << "cupsdisable"
-                             << "cupsenable"
-                             << "is stopped: Paper jam in tray 2";
-}
-
-void TestCupsPrint::refusingQueueIsReported()
-{
-    QFETCH(QString, refuse);
-    QFETCH(QString, restore);
-    QFETCH(QString, reason);
-
-    const QString server = qEnvironmentVariable("CUPS_SERVER");
-    const QString given = reason.section(QStringLiteral(": "), 1);
-    QCOMPARE(QProcess::execute(refuse, {"-h", server, "-r", given, m_queue}), 0);
-    const auto restored = qScopeGuard([&] { QProcess::execute(restore, {"-h", server, m_queue}); });
-
-    Quirra control;
-    control.PieceName(QStringLiteral("5160 - Address Labels"));
-    feed(control, 3);
-    const QString job = title(QTest::currentDataTag()).remove(QLatin1Char('-'));
-    control.surface()->setPrinterName(m_queue);
-    control.printer()->setDocName(job);
-    control.PrintNow();
-    QCOMPARE(m_host->messages, QStringList{QStringLiteral("Ptr.error = 2")});
-    QVERIFY(control.surface()->errorCode() != 0);
-    QVERIFY2(control.surface()->printerFailure().contains(reason),
-             qPrintable(control.surface()->printerFailure()));
-    // Nothing waits in the queue to come out later.
-    QProcess::execute(restore, {"-h", server, m_queue});
-    QVERIFY(spooledPdf(m_outDir, job, 3000).isEmpty());
-}
-
-void TestCupsPrint::jobTheQueueCannotPrintIsReported()
-{
-    // A second queue whose driver names a filter that is not installed:
-    // CUPS takes the job, then stops it.
-    QFile driver(QStringLiteral("/usr/share/ppd/cups-pdf/CUPS-PDF_opt.ppd"));
-    QVERIFY(driver.open(QIODevice::ReadOnly));
-    QTemporaryDir folder;
-    QFile broken(folder.filePath(QStringLiteral("broken.ppd")));
-    QVERIFY(broken.open(QIODevice::WriteOnly));
-    for (const QByteArray &line : driver.readAll().split('\n')) {
-        if (!line.startsWith("*cupsFilter"))
-            broken.write(line + '\n');
-    }
-    broken.write("*cupsFilter2: \"application/pdf application/vnd.cups-pdf 0 quirra-no-filter\"\n");
-    broken.close();
-    const QString server = qEnvironmentVariable("CUPS_SERVER");
-    const QString queue = QStringLiteral("QuirraBroken");
-    QCOMPARE(QProcess::execute(QStringLiteral("lpadmin"),
-                               {"-h", server, "-p", queue, "-E", "-v", "cups-pdf:/", "-P",
-                                broken.fileName(), "-o", "printer-error-policy=abort-job"}),
-             0);
-    const auto removed = qScopeGuard([&] {
-        QProcess::execute(QStringLiteral("lpadmin"), {"-h", server, "-x", queue});
-    });
-
-    Quirra control;
-    control.PieceName(QStringLiteral("5160 - Address Labels"));
-    feed(control, 3);
-    control.surface()->setPrinterName(queue);
-    control.PrintNow();
-    QVERIFY(control.surface()->errorCode() != 0);
-    const QString failure = control.surface()->printerFailure();
-    QVERIFY2(failure.contains(QLatin1String("quirra-no-filter")), qPrintable(failure));
 }
 
 QTEST_MAIN(TestCupsPrint)

@@ -3,6 +3,7 @@
 //
 // The run's report of what will not come out as the user expects, and the
 // clip that keeps a piece's overflow off its neighbours.
+#include "pdfprobe.h"
 #include "spoolfixture.h"
 
 #include "catalogue/pieceloader.h"
@@ -14,7 +15,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QProcess>
 #include <QRectF>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -89,259 +89,246 @@ class TestPreflight : public QObject
 private Q_SLOTS:
     void init() { PieceModel::resetShared(); }
 
-    void notes_data();
-    void notes();
-    void longRunKeepsFewNotes();
-    void previewDrawsEachPageAsTheWholeRun_data();
-    void previewDrawsEachPageAsTheWholeRun();
-    void overflowStaysOnItsPiece_data();
-    void overflowStaysOnItsPiece();
-};
+    void notes_data()
+    {
+        QTest::addColumn<QString>("piece");
+        QTest::addColumn<int>("tweak");
+        QTest::addColumn<QStringList>("second"); // the record after a clean "Ann Lee"
+        QTest::addColumn<QList<int>>("kinds");   // every kind noted
+        QTest::addColumn<int>("record");         // the first record noted
+        QTest::addColumn<int>("count");          // records with the first kind
+        QTest::addColumn<QString>("detail");     // part of the first kind's detail
 
-void TestPreflight::notes_data()
-{
-    QTest::addColumn<QString>("piece");
-    QTest::addColumn<int>("tweak");
-    QTest::addColumn<QStringList>("second"); // the record after a clean "Ann Lee"
-    QTest::addColumn<QList<int>>("kinds");   // every kind noted
-    QTest::addColumn<int>("record");         // the first record noted
-    QTest::addColumn<int>("count");          // records with the first kind
-    QTest::addColumn<QString>("detail");     // part of the first kind's detail
-
-    const QStringList bob = person("Bob", "Roe");
-    const auto kinds = [](std::initializer_list<NoteKind> list) {
-        QList<int> k;
-        for (NoteKind kind : list)
-            k << int(kind);
-        return k;
-    };
-    QTest::newRow("clean") << Envelope << int(None) << bob << QList<int>() << 0 << 0 << QString();
-    // 162 mm is 459.2 pt; the paper is 459 pt, and nothing is lost.
-    QTest::newRow("clean-c6-on-its-whole-point-paper")
-        << "C6 - Envelope" << int(None) << bob << QList<int>() << 0 << 0 << QString();
-    QTest::newRow("city-line-left-out")
-        << Envelope << int(None)
-        << person("Bob", "Roe", "Troy", "NEW YORK STATE OF AMERICA", "12180-0000-0000-0000")
-        << kinds({NoteKind::CityLineLeftOut}) << 2 << 1 << "twips wide, the limit is 3,500";
-    QTest::newRow("city-shortened")
-        << Envelope << int(None)
-        << person("Bob", "Roe", "Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch")
-        << kinds({NoteKind::CityLineShortened}) << 2 << 1 << "gogogoch,\" cut";
-    QTest::newRow("text-beyond-item")
-        << Envelope << int(LowAddressBox) << bob << kinds({NoteKind::TextBeyondItem}) << 1 << 2
-        << "Address text is";
-    QTest::newRow("text-cut-at-piece")
-        << Labels << int(None) << person("Bob", QStringLiteral("Longname ").repeated(70))
-        << kinds({NoteKind::TextCutAtPiece}) << 2 << 1 << "past the piece's bottom edge";
-    QTest::newRow("item-off-piece")
-        << Labels << int(FramedMessageOffLabel) << bob << kinds({NoteKind::ItemOffPiece}) << 1 << 2
-        << "Message1 box lies wholly outside the piece";
-    QTest::newRow("item-off-page") << Envelope << int(AddressTop25) << bob
-                                   << kinds({NoteKind::TextCutAtPiece, NoteKind::ItemOffPage}) << 1
-                                   << 2 << "lies wholly outside the piece";
-    QTest::newRow("piece-off-page")
-        << Labels << int(MarginTop127) << bob << kinds({NoteKind::PieceOffPage}) << 1 << 2
-        << "lies wholly outside the page";
-    QTest::newRow("undrawable-characters")
-        << Envelope << int(None) << person("Bob", QStringLiteral("Roe\u0378"))
-        << kinds({NoteKind::UndrawableCharacters}) << 2 << 1 << "U+0378";
-    QTest::newRow("accented-letters-are-drawn")
-        << Envelope << int(None) << person("Zoë", QStringLiteral("Ångström")) << QList<int>() << 0
-        << 0 << QString();
-    QTest::newRow("empty-record") << Envelope << int(None) << QStringList(8, QString())
-                                  << kinds({NoteKind::EmptyRecord}) << 2 << 1
-                                  << "no name and no address";
-    // The second digit of the tracking code is 0 to 4.
-    QTest::newRow("barcode-invalid")
-        << Envelope << int(Barcode) << bob + QStringList{QString(), "05234567094987654321"}
-        << kinds({NoteKind::BarcodeInvalid}) << 2 << 1
-        << "\"05234567094987654321\": the second digit";
-}
-
-void TestPreflight::notes()
-{
-    QFETCH(QString, piece);
-    QFETCH(int, tweak);
-    QFETCH(QStringList, second);
-    QFETCH(QList<int>, kinds);
-    QFETCH(int, record);
-    QFETCH(int, count);
-    QFETCH(QString, detail);
-
-    PieceModel &model = PieceModel::shared();
-    QVERIFY(LoadPieceByName(piece, model));
-    apply(Tweak(tweak), model);
-    fixture::newSpool();
-    fixture::feed({person("Ann", "Lee").join(';'), second.join(';')});
-
-    MeasuringSurface surface;
-    surface.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
-                               inchesToTwips(model.piece.PrinterTop));
-    PrintRun run(model, SharedSpool::instance().reader());
-    run.RunPrintJob(surface);
-    QCOMPARE(run.piecesDrawn(), qint64(2));
-
-    const RunReport &report = run.report();
-    QList<int> noted;
-    for (int k = 0; k < NoteKindCount; ++k) {
-        if (report.count(NoteKind(k)) > 0)
-            noted << k;
+        const QStringList bob = person("Bob", "Roe");
+        const auto kinds = [](std::initializer_list<NoteKind> list) {
+            QList<int> k;
+            for (NoteKind kind : list)
+                k << int(kind);
+            return k;
+        };
+        const auto row = [](const char *tag, const QString &piece, int tweak,
+                            const QStringList &second, const QList<int> &kinds, int record,
+                            int count, const QString &detail) {
+            QTest::newRow(tag) << piece << tweak << second << kinds << record << count << detail;
+        };
+        row("clean", Envelope, int(None), bob, QList<int>(), 0, 0, QString());
+        // 162 mm is 459.2 pt; the paper is 459 pt, and nothing is lost.
+        row("clean-c6-on-its-whole-point-paper", "C6 - Envelope", int(None), bob, QList<int>(), 0,
+            0, QString());
+        row("city-line-left-out", Envelope, int(None),
+            person("Bob", "Roe", "Troy", "NEW YORK STATE OF AMERICA", "12180-0000-0000-0000"),
+            kinds({NoteKind::CityLineLeftOut}), 2, 1, "twips wide, the limit is 3,500");
+        row("city-shortened", Envelope, int(None),
+            person("Bob", "Roe", "Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch"),
+            kinds({NoteKind::CityLineShortened}), 2, 1, "gogogoch,\" cut");
+        row("text-beyond-item", Envelope, int(LowAddressBox), bob,
+            kinds({NoteKind::TextBeyondItem}), 1, 2, "Address text is");
+        row("text-cut-at-piece", Labels, int(None),
+            person("Bob", QStringLiteral("Longname ").repeated(70)),
+            kinds({NoteKind::TextCutAtPiece}), 2, 1, "past the piece's bottom edge");
+        row("item-off-piece", Labels, int(FramedMessageOffLabel), bob,
+            kinds({NoteKind::ItemOffPiece}), 1, 2, "Message1 box lies wholly outside the piece");
+        row("item-off-page", Envelope, int(AddressTop25), bob,
+            kinds({NoteKind::TextCutAtPiece, NoteKind::ItemOffPage}), 1, 2,
+            "lies wholly outside the piece");
+        row("piece-off-page", Labels, int(MarginTop127), bob, kinds({NoteKind::PieceOffPage}), 1, 2,
+            "lies wholly outside the page");
+        row("undrawable-characters", Envelope, int(None),
+            person("Bob", QStringLiteral("Roe\u0378")), kinds({NoteKind::UndrawableCharacters}), 2,
+            1, "U+0378");
+        row("accented-letters-are-drawn", Envelope, int(None),
+            person("Zoë", QStringLiteral("Ångström")), QList<int>(), 0, 0, QString());
+        row("empty-record", Envelope, int(None), QStringList(8, QString()),
+            kinds({NoteKind::EmptyRecord}), 2, 1, "no name and no address");
+        // The second digit of the tracking code is 0 to 4.
+        row("barcode-invalid", Envelope, int(Barcode),
+            bob + QStringList{QString(), "05234567094987654321"}, kinds({NoteKind::BarcodeInvalid}),
+            2, 1, "\"05234567094987654321\": the second digit");
     }
-    QCOMPARE(noted, kinds);
-    if (kinds.isEmpty())
-        return;
-    const Note *first = report.firstOf(NoteKind(kinds.first()));
-    QVERIFY(first);
-    QCOMPARE(first->record, qint64(record));
-    const QString name = QStringList{second[0], second[2]}.join(' ').trimmed();
-    QCOMPARE(first->name, record == 1 ? QStringLiteral("Ann Lee") : name);
-    QVERIFY2(first->detail.contains(detail), qPrintable(first->detail));
-    QCOMPARE(report.count(NoteKind(kinds.first())), qint64(count));
-}
 
-void TestPreflight::longRunKeepsFewNotes()
-{
-    PieceModel &model = PieceModel::shared();
-    QVERIFY(LoadPieceByName(Labels, model));
-    fixture::newSpool();
-    QStringList records;
-    for (int i = 0; i < 200; ++i)
-        records.append(
-            person(QStringLiteral("P%1").arg(i), "Roe", "Troy", "NEW YORK STATE OF AMERICA")
-                .join(';'));
-    fixture::feed(records);
-    MeasuringSurface surface;
-    surface.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
-                               inchesToTwips(model.piece.PrinterTop));
-    PrintRun run(model, SharedSpool::instance().reader());
-    run.RunPrintJob(surface);
-    const RunReport &report = run.report();
-    QCOMPARE(report.count(NoteKind::CityLineLeftOut), qint64(200));
-    QCOMPARE(report.recordsNoted(), qint64(200));
-    QCOMPARE(int(report.notes().size()), RunReport::ExamplesPerKind);
-    QCOMPARE(report.notes().back().record, qint64(RunReport::ExamplesPerKind));
-    QCOMPARE(surface.pageCount(), 7);
-}
+    void notes()
+    {
+        QFETCH(QString, piece);
+        QFETCH(int, tweak);
+        QFETCH(QStringList, second);
+        QFETCH(QList<int>, kinds);
+        QFETCH(int, record);
+        QFETCH(int, count);
+        QFETCH(QString, detail);
 
-void TestPreflight::previewDrawsEachPageAsTheWholeRun_data()
-{
-    QTest::addColumn<QString>("piece");
-    QTest::addColumn<int>("rows");    // 0: as the piece has them
-    QTest::addColumn<int>("records"); // the last one overflows its piece
-    QTest::addColumn<int>("firstSlot");
-    QTest::addColumn<QPoint>("range");
-    QTest::addColumn<int>("pages");
-    QTest::newRow("labels-from-slot-25") << Labels << 0 << 40 << 25 << QPoint() << 3;
-    QTest::newRow("envelopes-one-a-page") << Envelope << 0 << 3 << 1 << QPoint() << 3;
-    QTest::newRow("continuous-one-row-a-page") << Labels << 1 << 7 << 1 << QPoint() << 3;
-    QTest::newRow("pages-2-to-3-of-3") << Labels << 0 << 70 << 1 << QPoint(2, 3) << 2;
-}
+        PieceModel &model = PieceModel::shared();
+        QVERIFY(LoadPieceByName(piece, model));
+        apply(Tweak(tweak), model);
+        fixture::newSpool();
+        fixture::feed({person("Ann", "Lee").join(';'), second.join(';')});
 
-void TestPreflight::previewDrawsEachPageAsTheWholeRun()
-{
-    QFETCH(QString, piece);
-    QFETCH(int, rows);
-    QFETCH(int, records);
-    QFETCH(int, firstSlot);
-    QFETCH(QPoint, range);
-    QFETCH(int, pages);
-    PieceModel &model = PieceModel::shared();
-    QVERIFY(LoadPieceByName(piece, model));
-    if (rows > 0)
-        model.piece.PieceNumDown = qint16(rows);
-    model.PieceStartSlot = short(firstSlot);
-    model.PieceOutlines = true;
-    model.PrinterScaleX = 105;
-    model.PrinterScaleY = 95;
-    fixture::newSpool();
-    QStringList feed;
-    for (int i = 1; i < records; ++i)
-        feed.append(person(QStringLiteral("Eve%1").arg(i), "Ray").join(';'));
-    feed.append(person("Cy", QStringLiteral("Longname ").repeated(70)).join(';'));
-    fixture::feed(feed);
-
-    PageEngine whole, shown;
-    for (PageEngine *engine : {&whole, &shown})
-        engine->setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
+        MeasuringSurface surface;
+        surface.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
                                    inchesToTwips(model.piece.PrinterTop));
-    PrintRun run(model, SharedSpool::instance().reader());
-    run.setPageRange({range.x(), range.y()});
-    run.RunPrintJob(whole);
-    PreviewRun preview(model, SharedSpool::instance().spoolPath());
-    preview.setPageRange({range.x(), range.y()});
-    preview.run(shown);
-
-    QCOMPARE(whole.pageCount(), pages);
-    QCOMPARE(shown.pageCount(), pages);
-    QVERIFY(!run.report().isEmpty());
-    QCOMPARE(preview.report().recordsNoted(), run.report().recordsNoted());
-    QCOMPARE(preview.report().notes().size(), run.report().notes().size());
-    // Paged back and forth, the last page twice: each as the whole run drew it.
-    for (int page : {pages, 1, 2, pages}) {
-        std::array<QImage, 2> images;
-        for (int i = 0; i < 2; ++i) {
-            const PageEngine &engine = i == 0 ? whole : shown;
-            images[i] = QImage((engine.pageSizeTwips(page) / 40).toSize(), QImage::Format_RGB32);
-            images[i].fill(Qt::white);
-            QPainter painter(&images[i]);
-            engine.paintPage(painter, page, 36);
-        }
-        QVERIFY2(!images[1].isNull() && images[0] == images[1], qPrintable(QString::number(page)));
-    }
-}
-
-void TestPreflight::overflowStaysOnItsPiece_data()
-{
-    QTest::addColumn<bool>("pdf");
-    QTest::newRow("pdf-file") << true;
-    QTest::newRow("preview") << false;
-}
-
-void TestPreflight::overflowStaysOnItsPiece()
-{
-    QFETCH(bool, pdf);
-    PieceModel &model = PieceModel::shared();
-    QVERIFY(LoadPieceByName(Labels, model));
-    fixture::newSpool();
-    // Label 1's name wraps on far below the label, down the first column.
-    QStringList records{person("Cy", QStringLiteral("Longname ").repeated(70)).join(';')};
-    for (int i = 2; i <= 4; ++i)
-        records.append(person(QStringLiteral("Eve%1").arg(i), "Ray").join(';'));
-    fixture::feed(records);
-
-    const double dpi = 50;
-    QImage page;
-    if (pdf) {
-        if (QStandardPaths::findExecutable(QStringLiteral("pdftoppm")).isEmpty())
-            QSKIP("pdftoppm (poppler-utils) is not installed");
-        QTemporaryDir dir;
-        const QString file = dir.filePath(QStringLiteral("clip.pdf"));
-        QCOMPARE(PrintSpoolToPdf(file, model, SharedSpool::instance().reader()).errorCode, 0);
-        QCOMPARE(QProcess::execute(QStringLiteral("pdftoppm"),
-                                   {QStringLiteral("-r"), QString::number(dpi),
-                                    QStringLiteral("-png"), QStringLiteral("-singlefile"), file,
-                                    dir.filePath(QStringLiteral("page"))}),
-                 0);
-        QVERIFY(page.load(dir.filePath(QStringLiteral("page.png"))));
-    } else {
-        PageEngine engine;
-        engine.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
-                                  inchesToTwips(model.piece.PrinterTop));
         PrintRun run(model, SharedSpool::instance().reader());
-        run.RunPrintJob(engine);
-        page = QImage(int(8.5 * dpi), int(11 * dpi), QImage::Format_RGB32);
-        page.fill(Qt::white);
-        QPainter painter(&page);
-        engine.paintPage(painter, 1, dpi);
+        run.RunPrintJob(surface);
+        QCOMPARE(run.piecesDrawn(), qint64(2));
+
+        const RunReport &report = run.report();
+        QList<int> noted;
+        for (int k = 0; k < NoteKindCount; ++k) {
+            if (report.count(NoteKind(k)) > 0)
+                noted << k;
+        }
+        QCOMPARE(noted, kinds);
+        if (kinds.isEmpty())
+            return;
+        const Note *first = report.firstOf(NoteKind(kinds.first()));
+        QVERIFY(first);
+        QCOMPARE(first->record, qint64(record));
+        const QString name = QStringList{second[0], second[2]}.join(' ').trimmed();
+        QCOMPARE(first->name, record == 1 ? QStringLiteral("Ann Lee") : name);
+        QVERIFY2(first->detail.contains(detail), qPrintable(first->detail));
+        QCOMPARE(report.count(NoteKind(kinds.first())), qint64(count));
     }
-    // 5160: the first column at 0.1875 in, rows an inch apart from 0.5 in.
-    // The lower half of label 1 is full of its name; that of label 4, under
-    // it, shows nothing of it (label 4's own three lines are at its top).
-    QVERIFY(ink(page, dpi, QRectF(0.3, 1.0, 2.3, 0.45)) > 0.02);
-    QCOMPARE(ink(page, dpi, QRectF(0.3, 2.05, 2.3, 0.4)), 0.0);
-    // Label 4 itself is there.
-    QVERIFY(ink(page, dpi, QRectF(0.3, 1.55, 1.0, 0.4)) > 0.01);
-}
+
+    void longRunKeepsFewNotes()
+    {
+        PieceModel &model = PieceModel::shared();
+        QVERIFY(LoadPieceByName(Labels, model));
+        fixture::newSpool();
+        QStringList records;
+        for (int i = 0; i < 200; ++i)
+            records.append(
+                person(QStringLiteral("P%1").arg(i), "Roe", "Troy", "NEW YORK STATE OF AMERICA")
+                    .join(';'));
+        fixture::feed(records);
+        MeasuringSurface surface;
+        surface.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
+                                   inchesToTwips(model.piece.PrinterTop));
+        PrintRun run(model, SharedSpool::instance().reader());
+        run.RunPrintJob(surface);
+        const RunReport &report = run.report();
+        QCOMPARE(report.count(NoteKind::CityLineLeftOut), qint64(200));
+        QCOMPARE(report.recordsNoted(), qint64(200));
+        QCOMPARE(int(report.notes().size()), RunReport::ExamplesPerKind);
+        QCOMPARE(report.notes().back().record, qint64(RunReport::ExamplesPerKind));
+        QCOMPARE(surface.pageCount(), 7);
+    }
+
+    void previewDrawsEachPageAsTheWholeRun_data()
+    {
+        QTest::addColumn<QString>("piece");
+        QTest::addColumn<int>("rows");    // 0: as the piece has them
+        QTest::addColumn<int>("records"); // the last one overflows its piece
+        QTest::addColumn<int>("firstSlot");
+        QTest::addColumn<QPoint>("range");
+        QTest::addColumn<int>("pages");
+        QTest::newRow("labels-from-slot-25") << Labels << 0 << 40 << 25 << QPoint() << 3;
+        QTest::newRow("envelopes-one-a-page") << Envelope << 0 << 3 << 1 << QPoint() << 3;
+        QTest::newRow("continuous-one-row-a-page") << Labels << 1 << 7 << 1 << QPoint() << 3;
+        QTest::newRow("pages-2-to-3-of-3") << Labels << 0 << 70 << 1 << QPoint(2, 3) << 2;
+    }
+
+    void previewDrawsEachPageAsTheWholeRun()
+    {
+        QFETCH(QString, piece);
+        QFETCH(int, rows);
+        QFETCH(int, records);
+        QFETCH(int, firstSlot);
+        QFETCH(QPoint, range);
+        QFETCH(int, pages);
+        PieceModel &model = PieceModel::shared();
+        QVERIFY(LoadPieceByName(piece, model));
+        if (rows > 0)
+            model.piece.PieceNumDown = qint16(rows);
+        model.PieceStartSlot = short(firstSlot);
+        model.PieceOutlines = true;
+        model.PrinterScaleX = 105;
+        model.PrinterScaleY = 95;
+        fixture::newSpool();
+        QStringList feed;
+        for (int i = 1; i < records; ++i)
+            feed.append(person(QStringLiteral("Eve%1").arg(i), "Ray").join(';'));
+        feed.append(person("Cy", QStringLiteral("Longname ").repeated(70)).join(';'));
+        fixture::feed(feed);
+
+        PageEngine whole, shown;
+        for (PageEngine *engine : {&whole, &shown})
+            engine->setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
+                                       inchesToTwips(model.piece.PrinterTop));
+        PrintRun run(model, SharedSpool::instance().reader());
+        run.setPageRange({range.x(), range.y()});
+        run.RunPrintJob(whole);
+        PreviewRun preview(model, SharedSpool::instance().spoolPath());
+        preview.setPageRange({range.x(), range.y()});
+        preview.run(shown);
+
+        QCOMPARE(whole.pageCount(), pages);
+        QCOMPARE(shown.pageCount(), pages);
+        QVERIFY(!run.report().isEmpty());
+        QCOMPARE(preview.report().recordsNoted(), run.report().recordsNoted());
+        QCOMPARE(preview.report().notes().size(), run.report().notes().size());
+        // Paged back and forth, the last page twice: each as the whole run drew it.
+        for (int page : {pages, 1, 2, pages}) {
+            std::array<QImage, 2> images;
+            for (int i = 0; i < 2; ++i) {
+                const PageEngine &engine = i == 0 ? whole : shown;
+                images[i] =
+                    QImage((engine.pageSizeTwips(page) / 40).toSize(), QImage::Format_RGB32);
+                images[i].fill(Qt::white);
+                QPainter painter(&images[i]);
+                engine.paintPage(painter, page, 36);
+            }
+            QVERIFY2(!images[1].isNull() && images[0] == images[1],
+                     qPrintable(QString::number(page)));
+        }
+    }
+
+    void overflowStaysOnItsPiece_data()
+    {
+        QTest::addColumn<bool>("pdf");
+        QTest::newRow("pdf-file") << true;
+        QTest::newRow("preview") << false;
+    }
+
+    void overflowStaysOnItsPiece()
+    {
+        QFETCH(bool, pdf);
+        PieceModel &model = PieceModel::shared();
+        QVERIFY(LoadPieceByName(Labels, model));
+        fixture::newSpool();
+        // Label 1's name wraps on far below the label, down the first column.
+        QStringList records{person("Cy", QStringLiteral("Longname ").repeated(70)).join(';')};
+        for (int i = 2; i <= 4; ++i)
+            records.append(person(QStringLiteral("Eve%1").arg(i), "Ray").join(';'));
+        fixture::feed(records);
+
+        const double dpi = 50;
+        QImage page;
+        if (pdf) {
+            if (QStandardPaths::findExecutable(QStringLiteral("pdftoppm")).isEmpty())
+                QSKIP("pdftoppm (poppler-utils) is not installed");
+            QTemporaryDir dir;
+            const QString file = dir.filePath(QStringLiteral("clip.pdf"));
+            QCOMPARE(PrintSpoolToPdf(file, model, SharedSpool::instance().reader()).errorCode, 0);
+            page = pdfprobe::pages(file, int(dpi)).value(0);
+            QVERIFY(!page.isNull());
+        } else {
+            PageEngine engine;
+            engine.setPrintableOrigin(inchesToTwips(model.piece.PrinterLeft),
+                                      inchesToTwips(model.piece.PrinterTop));
+            PrintRun run(model, SharedSpool::instance().reader());
+            run.RunPrintJob(engine);
+            page = QImage(int(8.5 * dpi), int(11 * dpi), QImage::Format_RGB32);
+            page.fill(Qt::white);
+            QPainter painter(&page);
+            engine.paintPage(painter, 1, dpi);
+        }
+        // 5160: the first column at 0.1875 in, rows an inch apart from 0.5 in.
+        // The lower half of label 1 is full of its name; that of label 4, under
+        // it, shows nothing of it (label 4's own three lines are at its top).
+        QVERIFY(ink(page, dpi, QRectF(0.3, 1.0, 2.3, 0.45)) > 0.02);
+        QCOMPARE(ink(page, dpi, QRectF(0.3, 2.05, 2.3, 0.4)), 0.0);
+        // Label 4 itself is there.
+        QVERIFY(ink(page, dpi, QRectF(0.3, 1.55, 1.0, 0.4)) > 0.01);
+    }
+};
 
 QTEST_MAIN(TestPreflight)
 #include "tst_preflight.moc"
