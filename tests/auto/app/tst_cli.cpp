@@ -503,6 +503,14 @@ private Q_SLOTS:
         QCOMPARE(count.size(), 4);
         for (int numbers : std::as_const(count))
             QVERIFY(numbers >= 6);
+        // The instruction stands in the second row's upper half, above its crosses.
+        const double rowTop = (pieces.y() + pieces.height() / 2) * 72;
+        const double crossTop = (pieces.y() + pieces.height() - 0.125) * 72;
+        for (const pdfprobe::Word &word : words) {
+            if (word.box.top() > 40 && word.box.left() > 60)
+                QVERIFY2(word.box.top() > rowTop && word.box.bottom() < crossTop,
+                         qPrintable(word.text));
+        }
 
         // A cross at every real piece's centre (the printer's offsets cancel on
         // a PDF), plain paper a quarter pitch to its right.
