@@ -160,8 +160,6 @@ private Q_SLOTS:
         QTest::newRow("labels-30-up-69-records")
             << examples("addresses.csv") << "5160 - Address Labels" << 3 << QSizeF(612, 792)
             << "Albert" << QStringList();
-        QTest::newRow("envelope-one-a-page") << dataFile("people.csv") << "Size 10 - Envelope" << 4
-                                             << QSizeF(684, 297) << "Li" << QStringList();
         // Three of the first record, none of the second, one of the last.
         QTest::newRow("copies-from-a-column")
             << dataFile("copies.csv") << "Size 10 - Envelope" << 4 << QSizeF(684, 297) << "Li"
