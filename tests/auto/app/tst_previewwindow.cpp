@@ -142,11 +142,9 @@ private Q_SLOTS:
             << PrintRow{"mc_p_all", "2-3", 0, "", QStringList{"Okafor", "Ångström"}};
         QTest::newRow("all-dialog-pages-of-the-host-range")
             << PrintRow{"mc_p_all", "2-3", 2, "", QStringList{"Ångström", "Wu"}};
-        // A failed "Pr Pg" reaches the host as a failed "Pr All" does.
+        // A failed "Pr Pg" reaches the host as a failed print run does.
         QTest::newRow("page-no-such-printer")
             << PrintRow{"mc_p_pg", "", 0, "no-such-queue", missing};
-        QTest::newRow("all-no-such-printer")
-            << PrintRow{"mc_p_all", "", 0, "no-such-queue", missing};
     }
 
     void printButtons()

@@ -562,25 +562,6 @@ private Q_SLOTS:
                      QLatin1String("test-templates.xml:7: template \"Acme 200\"")),
                  qPrintable(result.warnings.first()));
     }
-
-    void installedDatabase()
-    {
-        const QString folder = QStringLiteral("/usr/share/libglabels-3.0/templates");
-        if (!QDir(folder).exists(QStringLiteral("paper-sizes.xml")))
-            QSKIP("the template database (Debian glabels-data) is not installed");
-        const TemplateReadResult result = readTemplateFolder(folder);
-        QVERIFY(result.templates.size() > 1000);
-
-        const auto letter =
-            std::find_if(result.templates.begin(), result.templates.end(),
-                         [](const LabelTemplate &t) { return t.name() == u"Avery 5160"; });
-        QVERIFY(letter != result.templates.end());
-        QCOMPARE(letter->paperId, QStringLiteral("US-Letter"));
-        QCOMPARE(letter->across, 3);
-        QCOMPARE(letter->down, 10);
-        QCOMPARE(letter->labelWidth, 2.625);
-        QCOMPARE(letter->pitchHorz, 2.78125);
-    }
 };
 
 QTEST_GUILESS_MAIN(TestCatalogue)

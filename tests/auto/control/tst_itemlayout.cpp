@@ -92,32 +92,6 @@ private Q_SLOTS:
         QCOMPARE(int(control.PieceNumAcross()), 3);
     }
 
-    void everyPropertyRoundTrips()
-    {
-        const QStringList names = QStringList{"PieceName"} + applyOrder();
-        Quirra control;
-        control.PieceName(QStringLiteral("5163 - Shipping Labels"));
-        for (int i = 1; i < names.size(); ++i)
-            PropertyTable::find(names[i])->write(control,
-                                                 distinctValue(*PropertyTable::find(names[i]), i));
-        QVariantList before;
-        for (const QString &name : names)
-            before.append(PropertyTable::find(name)->read(control));
-
-        ItemLayout page;
-        page.setSelectedControls({&control});
-        // Everything the page read is overwritten on the control.
-        control.PieceName(QStringLiteral("Size 10 - Envelope"));
-        for (int i = 1; i < names.size(); ++i)
-            PropertyTable::find(names[i])->write(
-                control, distinctValue(*PropertyTable::find(names[i]), i + 37));
-        page.applyChanges();
-
-        for (int i = 0; i < names.size(); ++i)
-            QVERIFY2(PropertyTable::find(names[i])->read(control) == before[i],
-                     qPrintable(names[i]));
-    }
-
     void itemInformation_data()
     {
         QTest::addColumn<ItemRow>("row");
