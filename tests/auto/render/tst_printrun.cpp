@@ -314,7 +314,7 @@ private Q_SLOTS:
         QTest::newRow("pieces-per-page-overflow") << 200 << 200 << QStringLiteral("Overflow") << 1;
         QTest::newRow("zero-down-fits-nothing") << 3 << 0 << QStringLiteral("no piece fits") << 1;
         QTest::newRow("start-slot-beyond-the-sheet")
-            << 3 << 2 << QStringLiteral("its sheet has 6 slots") << 7;
+            << 3 << 2 << QStringLiteral("has 6 slots. Set PieceStartSlot to 1 to 6.") << 7;
     }
 
     void badGeometryIsAnErrorOfTheRun()
