@@ -447,6 +447,9 @@ private Q_SLOTS:
       <Template brand="Acme" part="CD1" size="Other" width="51pc" height="792" description="Business CD">
         <Label-cd id="0" radius="1.5in" hole="0.5in" width="3.5in"><Layout nx="2" ny="3" x0="36pt" y0="0.5in" dx="4in" dy="3.1in"/></Label-cd>
       </Template>
+      <Template brand="Acme" part="CD2" size="US-Letter" description="Short CD">
+        <Label-cd id="0" radius="1.5in" height="2.5in"><Layout nx="1" ny="1" x0="1in" y0="1in"/></Label-cd>
+      </Template>
       <Template brand="Acme" part="E1" size="US-Letter" _description="Ovals">
         <Label-ellipse id="0" width="3in" height="2in"><Layout nx="1" ny="5" x0="1in" y0="0.5in" dy="2in"/></Label-ellipse>
       </Template>
@@ -476,9 +479,10 @@ private Q_SLOTS:
                     .filter(QLatin1String("broken-templates.xml:2: template "
                                           "\"Acme 100\": width=\"-2in\" is negative"))
                     .size() == 1);
-        QCOMPARE(catalogue->importedCount(), 6);
+        QCOMPARE(catalogue->importedCount(), 7);
         QCOMPARE(catalogue->pieces(QStringLiteral("Acme")),
-                 QStringList({"Acme A1", "Acme CD1", "Acme E1", "Acme R1", "Acme RL1", "Acme T1"}));
+                 QStringList({"Acme A1", "Acme CD1", "Acme CD2", "Acme E1", "Acme R1", "Acme RL1",
+                              "Acme T1"}));
         QVERIFY(catalogue->products(QStringLiteral("Laser/InkJet Products")).endsWith("Acme"));
         // The shipped piece of that name keeps its own sheet.
         QCOMPARE(catalogue->piece(QStringLiteral("5160 - Address Labels")).NumDown, 10);
@@ -498,8 +502,10 @@ private Q_SLOTS:
         QCOMPARE(entry("Acme A1"),
                  "1 mm 38.1 x 38.1 mm 1.50157 1.50157 8.26772 11.6929 0.393701 0.472441 "
                  "1.9685 1.77165 4 6 Acme A1");
-        // A CD cut off at the sides: its own width bounds it, no height given: the disc's.
+        // A CD cut off at the sides: its own width or height bounds it, the
+        // one not given is the disc's.
         QCOMPARE(entry("Acme CD1"), "3 in 3.5 x 3 in. 3.5 3 8.5 11 0.5 0.5 4 3.1 2 3 Acme CD1");
+        QCOMPARE(entry("Acme CD2"), "3 in 3 x 2.5 in. 3 2.5 8.5 11 1 1 3 2.5 1 1 Acme CD2");
         QCOMPARE(catalogue->piece(QStringLiteral("Acme CD1")).PageDesc,
                  QStringLiteral("Custom (8.5 x 11 in.)"));
         // One column: a piece's own width is its step.
