@@ -113,6 +113,7 @@ public:
     Qt::Alignment alignment = Qt::AlignLeft;
     int textHeight = 0;
     int textWidth = 0;
+    QRect textInk; ///< textInkBounds() of the last text box
     int error = pageengine::NoError;
     PrintTarget *target = nullptr;
 

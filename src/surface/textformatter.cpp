@@ -9,6 +9,8 @@
 #include <QHashFunctions>
 #include <QTextOption>
 
+#include <algorithm>
+
 namespace quirra {
 
 namespace {
@@ -161,7 +163,7 @@ void TextFormatter::setStrikeOut(bool on)
     }
 }
 
-const TextFormatter::FontEntry &TextFormatter::currentFont()
+TextFormatter::FontEntry &TextFormatter::currentFont()
 {
     if (m_current)
         return *m_current;
@@ -194,6 +196,35 @@ QFont TextFormatter::font()
 double TextFormatter::lineHeight()
 {
     return currentFont().lineHeight;
+}
+
+double TextFormatter::inkRoom(QStringView text)
+{
+    if (m_key.underline || m_key.strikeOut)
+        return -1;
+    FontEntry &entry = currentFont();
+    if (entry.inkRoom < 0) {
+        // Once per font: every Latin-1 glyph's ink against its line and advance.
+        FontEntry &e = entry;
+        const QFontMetricsF metrics(e.font);
+        double room = 0;
+        for (char16_t c = 0x20; c < 0x100; ++c) {
+            if (!metrics.inFont(QChar(c)))
+                continue;
+            e.latin1Glyphs.set(c);
+            const QRectF ink = metrics.boundingRect(QChar(c));
+            room = std::max({room, -ink.top() - metrics.ascent(), ink.bottom() - metrics.descent(),
+                             -ink.left(), ink.right() - metrics.horizontalAdvance(QChar(c))});
+        }
+        for (const char16_t c : {u'\t', u'\n', u'\r'}) // no ink
+            e.latin1Glyphs.set(c);
+        e.inkRoom = room;
+    }
+    for (const QChar c : text) {
+        if (c.unicode() >= 0x100 || !entry.latin1Glyphs.test(c.unicode()))
+            return -1;
+    }
+    return entry.inkRoom;
 }
 
 double TextFormatter::textWidth(const QString &text)
