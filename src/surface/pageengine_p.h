@@ -79,6 +79,8 @@ public:
     void endPage();
     void drawMarginLine(const QString &text, bool top);
     void drawFrame(const QRectF &box);
+    /** @brief textInkBounds() of text laid out as block, lines textWidth wide. */
+    QRect inkBounds(const QString &text, const TextBlock &block, double textWidth);
     QSizeF printableSize() const;
     int previewPageCount() const;
     const pageengine::RecordedPage *previewPageAt(int page);

@@ -239,10 +239,10 @@ public:
      */
     virtual int textWidthLaidOut() const;
     /**
-     * @brief Where ink of the text the last textBox() laid out can land, in
-     * twips from the top-left of the box it was laid out in: its lines, and
-     * room round them for glyphs that reach past their line (an accent over
-     * a capital, an italic's overhang). Empty when the surface cannot tell
+     * @brief Where ink of the text the last layout-only textBox() laid out
+     * can land, in twips from the top-left of its box: its lines, and room
+     * round them for glyphs that reach past their line (an accent over a
+     * capital, an italic's overhang). Empty when the surface cannot tell
      * (the base class, or a character its font does not vouch for): the ink
      * may then land anywhere.
      */

@@ -203,27 +203,32 @@ double TextFormatter::inkRoom(QStringView text)
     if (m_key.underline || m_key.strikeOut)
         return -1;
     FontEntry &entry = currentFont();
-    if (entry.inkRoom < 0) {
-        // Once per font: every Latin-1 glyph's ink against its line and advance.
-        FontEntry &e = entry;
-        const QFontMetricsF metrics(e.font);
-        double room = 0;
-        for (char16_t c = 0x20; c < 0x100; ++c) {
-            if (!metrics.inFont(QChar(c)))
-                continue;
-            e.latin1Glyphs.set(c);
-            const QRectF ink = metrics.boundingRect(QChar(c));
-            room = std::max({room, -ink.top() - metrics.ascent(), ink.bottom() - metrics.descent(),
-                             -ink.left(), ink.right() - metrics.horizontalAdvance(QChar(c))});
-        }
-        for (const char16_t c : {u'\t', u'\n', u'\r'}) // no ink
-            e.latin1Glyphs.set(c);
-        e.inkRoom = room;
-    }
     for (const QChar c : text) {
-        if (c.unicode() >= 0x100 || !entry.latin1Glyphs.test(c.unicode()))
+        const char16_t u = c.unicode();
+        if (u >= 0x100)
             return -1;
+        if (entry.latin1Seen.test(u)) {
+            if (!entry.latin1Glyphs.test(u))
+                return -1;
+            continue;
+        }
+        // Each character once per font: its glyph's ink against its line
+        // and its advance. Line breaks and tabs leave no ink.
+        entry.latin1Seen.set(u);
+        if (u == u'\r' || u == u'\n' || u == u'\t') {
+            entry.latin1Glyphs.set(u);
+            continue;
+        }
+        const QFontMetricsF metrics(entry.font);
+        if (u < 0x20 || !metrics.inFont(c))
+            return -1;
+        entry.latin1Glyphs.set(u);
+        const QRectF ink = metrics.boundingRect(c);
+        entry.inkRoom = std::max({entry.inkRoom, -ink.top() - metrics.ascent(),
+                                  ink.bottom() - metrics.descent(), -ink.left(),
+                                  ink.right() - metrics.horizontalAdvance(c)});
     }
+    // The most any character met so far needs: enough for these.
     return entry.inkRoom;
 }
 

@@ -109,8 +109,9 @@ private:
     {
         QFont font;
         double lineHeight;
-        double inkRoom = -1;             ///< over the characters in latin1, once asked
-        std::bitset<256> latin1Glyphs{}; ///< the Latin-1 characters the font has
+        double inkRoom = 0;              ///< ink past the line of any character seen
+        std::bitset<256> latin1Seen{};   ///< the Latin-1 characters measured
+        std::bitset<256> latin1Glyphs{}; ///< those the font has glyphs for
     };
     FontEntry &currentFont();
 
