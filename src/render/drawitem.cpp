@@ -4,6 +4,7 @@
 
 #include "surface/surface.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace quirra {
@@ -44,8 +45,19 @@ void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface)
 
 void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface, DrawnText *drawn)
 {
-    if (!item.Visible)
+    DrawnText laidOut;
+    if (!LayOutItem(item, piece, slot, surface, laidOut))
         return;
+    if (drawn)
+        *drawn = laidOut;
+    DrawLaidOutItem(item, surface, laidOut);
+}
+
+bool LayOutItem(const Item &item, const Piece &piece, int slot, Surface &surface,
+                DrawnText &laidOut)
+{
+    if (!item.Visible)
+        return false;
     const ItemBox box = itemBoxOnSurface(item, piece, slot, surface.marginLeft());
 
     const ItemFont &font = item.Font;
@@ -59,30 +71,48 @@ void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface, 
     surface.setLineSpacing(item.LineSpacing);
     surface.setTextAlign(item.HorzAlign == haFull ? SurfaceJustified : int(item.HorzAlign));
 
-    const bool border = item.Border > 0;
-    surface.textBox(item.Text, box.left, box.top, box.width, box.height, item.Wrap, true, border);
-    const int laidOut = surface.textHeight();
-    const int laidOutWidth = surface.textWidthLaidOut();
+    surface.textBox(item.Text, box.left, box.top, box.width, box.height, item.Wrap, true,
+                    item.Border > 0);
+    const int height = surface.textHeight();
 
     int offset = 0;
-    if (laidOut < box.height) {
+    if (height < box.height) {
         if (item.VertAlign == vaMiddle)
-            offset = (box.height - laidOut) / 2; // truncated toward zero
+            offset = (box.height - height) / 2; // truncated toward zero
         else if (item.VertAlign == vaBottom)
-            offset = box.height - laidOut;
+            offset = box.height - height;
     }
+    laidOut = DrawnText{box, box.top + offset, surface.textWidthLaidOut(), height};
+    return true;
+}
 
-    if (drawn)
-        *drawn = DrawnText{box, box.top + offset, laidOutWidth, laidOut};
-
-    if (border) {
+void DrawLaidOutItem(const Item &item, Surface &surface, const DrawnText &laidOut)
+{
+    const ItemBox &box = laidOut.box;
+    if (item.Border > 0) {
         // The frame goes round the whole box, however tall the text is.
         surface.setPenWidth(FramePenWidth);
         surface.textBox(QString(), box.left, box.top, box.width, box.height, item.Wrap, false,
                         true);
     }
-    surface.textBox(item.Text, box.left, box.top + offset, box.width, box.height - offset,
-                    item.Wrap, false, false);
+    const int offset = laidOut.top - box.top;
+    surface.textBox(item.Text, box.left, laidOut.top, box.width, box.height - offset, item.Wrap,
+                    false, false);
+}
+
+bool ItemMayCross(const Item &item, const DrawnText &laidOut, const QRect &ink,
+                  const QRect &pieceBox)
+{
+    const ItemBox &box = laidOut.box;
+    if (item.Border > 0) {
+        const QRect frame(box.left, box.top, box.width, box.height);
+        if (!pieceBox.contains(
+                frame.adjusted(-FramePenWidth, -FramePenWidth, FramePenWidth, FramePenWidth)))
+            return true;
+    }
+    if (ink.isNull())
+        return true;
+    return !pieceBox.contains(ink.translated(box.left, laidOut.top));
 }
 
 } // namespace quirra

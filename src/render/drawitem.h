@@ -5,6 +5,8 @@
 #include "model/item.h"
 #include "model/piece.h"
 
+#include <QRect>
+
 namespace quirra {
 
 class Surface;
@@ -45,5 +47,26 @@ void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface);
 
 /** @brief DrawItem(), telling where the text went (untouched for an invisible item). */
 void DrawItem(const Item &item, const Piece &piece, int slot, Surface &surface, DrawnText *drawn);
+
+/**
+ * @brief The first half of DrawItem(): sets the item's font and paragraph on
+ * the surface and lays its text out, drawing nothing. False (and @p laidOut
+ * untouched) for an invisible item. DrawLaidOutItem() draws it, with nothing
+ * set on the surface in between but a clip.
+ */
+bool LayOutItem(const Item &item, const Piece &piece, int slot, Surface &surface,
+                DrawnText &laidOut);
+
+/** @brief The second half of DrawItem(): frame and text where LayOutItem() put them. */
+void DrawLaidOutItem(const Item &item, Surface &surface, const DrawnText &laidOut);
+
+/**
+ * @brief Whether anything an item laid out by LayOutItem() draws can reach
+ * outside @p pieceBox: its frame's pen, or ink of its text (@p ink, the
+ * surface's textInkBounds() for it; null when the surface cannot tell, and
+ * then it may reach anywhere).
+ */
+bool ItemMayCross(const Item &item, const DrawnText &laidOut, const QRect &ink,
+                  const QRect &pieceBox);
 
 } // namespace quirra

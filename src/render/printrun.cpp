@@ -243,13 +243,28 @@ void PrintRun::DrawPiece(int slot, Surface &surface, const PieceTexts &texts)
     const QRect paper = surface.paperRect();
     const bool onPaper = m_checks.checkPiece(pieceBox, paper);
 
-    surface.setClipBox(pieceBox.x(), pieceBox.y(), pieceBox.width(), pieceBox.height());
+    // Nothing drawn leaves the piece's box. The clip that makes sure costs a
+    // path and two graphics states on every piece, so it is set only once an
+    // item could reach out of the box (an over-long line, text taller than
+    // its box, a barcode, the outline); what was drawn before it lies inside.
+    bool clipped = false;
+    const auto clip = [&] {
+        if (!clipped)
+            surface.setClipBox(pieceBox.x(), pieceBox.y(), pieceBox.width(), pieceBox.height());
+        clipped = true;
+    };
+    if (!m_barcode.isEmpty() || m_model.PieceOutlines)
+        clip();
     // Later items paint over earlier ones where boxes overlap.
     for (ItemId id : StorageOrder) {
         Item item = this->item(id);
         item.Text = texts[int(id)];
         DrawnText drawn;
-        DrawItem(item, piece, slot, surface, &drawn);
+        if (LayOutItem(item, piece, slot, surface, drawn)) {
+            if (ItemMayCross(item, drawn, surface.textInkBounds(), pieceBox))
+                clip();
+            DrawLaidOutItem(item, surface, drawn);
+        }
         if (id == ItemId::Address)
             m_barcode.draw(surface, item, item.Text, drawn);
         m_checks.checkItem(id, item, itemBoxWhereItLies(item, piece, slot, marginLeft), drawn,
@@ -257,7 +272,8 @@ void PrintRun::DrawPiece(int slot, Surface &surface, const PieceTexts &texts)
     }
     if (m_model.PieceOutlines)
         outlinePiece(surface, pieceBox);
-    surface.clearClipBox();
+    if (clipped)
+        surface.clearClipBox();
     ++m_piecesDrawn;
 }
 

@@ -328,6 +328,27 @@ void PageEngine::setTextAlign(int code)
     d->alignment = TextFormatter::alignmentForCode(code);
 }
 
+QRect PageEngine::Private::inkBounds(const QString &laidOut, const TextBlock &block,
+                                     double textWidth)
+{
+    const double room = text.inkRoom(laidOut);
+    if (room < 0)
+        return QRect();
+    // Lines start at the indent and fill the width, or run on past it; one
+    // that a wrap could not break, centred or set right, starts before it by
+    // as much. Each line's glyphs stand on its baseline.
+    const double over = std::max(0.0, block.naturalWidth() - textWidth);
+    const double lines = std::max(block.lineCount(), 1);
+    const double pitch = text.lineHeight() * lineSpacing / 100.0;
+    const QRectF ink(QPointF(indentLeft - over - room, -room),
+                     QPointF(indentLeft + std::max(textWidth, block.naturalWidth()) + room,
+                             (lines - 1) * pitch + text.lineHeight() + room));
+    constexpr double farTwips = 1e9; // far past any paper, well inside an int
+    if (ink.left() > -farTwips && ink.right() < farTwips && ink.bottom() < farTwips)
+        return ink.toAlignedRect();
+    return QRect();
+}
+
 void PageEngine::textBox(const QString &text, int left, int top, int width, int height, bool wrap,
                          bool layoutOnly, bool border)
 {
@@ -337,6 +358,8 @@ void PageEngine::textBox(const QString &text, int left, int top, int width, int 
     auto block = d->text.layOut(text, textWidth, wrap, d->alignment, d->lineSpacing);
     d->textHeight = clampToInt(block->height());
     d->textWidth = clampToInt(block->naturalWidth());
+    if (layoutOnly)
+        d->textInk = d->inkBounds(text, *block, textWidth);
     if (layoutOnly || !d->docOpen)
         return;
     const QRectF box(double(d->marginLeft) + left, double(d->marginTop) + top, width, height);
@@ -356,6 +379,11 @@ int PageEngine::textHeight() const
 int PageEngine::textWidthLaidOut() const
 {
     return d->textWidth;
+}
+
+QRect PageEngine::textInkBounds() const
+{
+    return d->textInk;
 }
 
 void PageEngine::setClipBox(int left, int top, int width, int height)

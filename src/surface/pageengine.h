@@ -137,6 +137,7 @@ public:
                  bool layoutOnly, bool border) override;
     int textHeight() const override;
     int textWidthLaidOut() const override;
+    QRect textInkBounds() const override;
     void setClipBox(int left, int top, int width, int height) override;
     void clearClipBox() override;
     void fillRectangle(const QRect &box, QRgb color) override;

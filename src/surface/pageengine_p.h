@@ -79,6 +79,8 @@ public:
     void endPage();
     void drawMarginLine(const QString &text, bool top);
     void drawFrame(const QRectF &box);
+    /** @brief textInkBounds() of text laid out as block, lines textWidth wide. */
+    QRect inkBounds(const QString &text, const TextBlock &block, double textWidth);
     QSizeF printableSize() const;
     int previewPageCount() const;
     const pageengine::RecordedPage *previewPageAt(int page);
@@ -113,6 +115,7 @@ public:
     Qt::Alignment alignment = Qt::AlignLeft;
     int textHeight = 0;
     int textWidth = 0;
+    QRect textInk; ///< textInkBounds() of the last text box
     int error = pageengine::NoError;
     PrintTarget *target = nullptr;
 

@@ -16,6 +16,11 @@ int Surface::textWidthLaidOut() const
     return 0;
 }
 
+QRect Surface::textInkBounds() const
+{
+    return QRect();
+}
+
 void Surface::setClipBox(int, int, int, int) {}
 
 void Surface::clearClipBox() {}

@@ -238,6 +238,15 @@ public:
      * answers 0.
      */
     virtual int textWidthLaidOut() const;
+    /**
+     * @brief Where ink of the text the last layout-only textBox() laid out
+     * can land, in twips from the top-left of its box: its lines, and room
+     * round them for glyphs that reach past their line (an accent over a
+     * capital, an italic's overhang). Empty when the surface cannot tell
+     * (the base class, or a character its font does not vouch for): the ink
+     * may then land anywhere.
+     */
+    virtual QRect textInkBounds() const;
 
     /**
      * @brief Keeps the drawing that follows inside a box (twips from the

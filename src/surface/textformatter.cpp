@@ -9,6 +9,8 @@
 #include <QHashFunctions>
 #include <QTextOption>
 
+#include <algorithm>
+
 namespace quirra {
 
 namespace {
@@ -161,7 +163,7 @@ void TextFormatter::setStrikeOut(bool on)
     }
 }
 
-const TextFormatter::FontEntry &TextFormatter::currentFont()
+TextFormatter::FontEntry &TextFormatter::currentFont()
 {
     if (m_current)
         return *m_current;
@@ -194,6 +196,40 @@ QFont TextFormatter::font()
 double TextFormatter::lineHeight()
 {
     return currentFont().lineHeight;
+}
+
+double TextFormatter::inkRoom(QStringView text)
+{
+    if (m_key.underline || m_key.strikeOut)
+        return -1;
+    FontEntry &entry = currentFont();
+    for (const QChar c : text) {
+        const char16_t u = c.unicode();
+        if (u >= 0x100)
+            return -1;
+        if (entry.latin1Seen.test(u)) {
+            if (!entry.latin1Glyphs.test(u))
+                return -1;
+            continue;
+        }
+        // Each character once per font: its glyph's ink against its line
+        // and its advance. Line breaks and tabs leave no ink.
+        entry.latin1Seen.set(u);
+        if (u == u'\r' || u == u'\n' || u == u'\t') {
+            entry.latin1Glyphs.set(u);
+            continue;
+        }
+        const QFontMetricsF metrics(entry.font);
+        if (u < 0x20 || !metrics.inFont(c))
+            return -1;
+        entry.latin1Glyphs.set(u);
+        const QRectF ink = metrics.boundingRect(c);
+        entry.inkRoom = std::max({entry.inkRoom, -ink.top() - metrics.ascent(),
+                                  ink.bottom() - metrics.descent(), -ink.left(),
+                                  ink.right() - metrics.horizontalAdvance(c)});
+    }
+    // The most any character met so far needs: enough for these.
+    return entry.inkRoom;
 }
 
 double TextFormatter::textWidth(const QString &text)

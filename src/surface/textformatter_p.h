@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <array>
+#include <bitset>
 #include <memory>
 
 namespace quirra {
@@ -55,6 +56,15 @@ public:
     /** @brief The current font's line height (ascent, descent and leading), in twips. */
     double lineHeight();
 
+    /**
+     * @brief How far, in twips, glyphs of text in the current font can reach
+     * past their line: above its ascent, below its descent, before their
+     * origin or after their advance. Negative when the font does not vouch
+     * for the text: a character beyond Latin-1 or one the font lacks (another
+     * font draws it), or underlined or struck-out text.
+     */
+    double inkRoom(QStringView text);
+
     /** @brief The width of the widest line of text, in twips, in the current font. */
     double textWidth(const QString &text);
 
@@ -99,11 +109,14 @@ private:
     {
         QFont font;
         double lineHeight;
+        double inkRoom = 0;              ///< ink past the line of any character seen
+        std::bitset<256> latin1Seen{};   ///< the Latin-1 characters measured
+        std::bitset<256> latin1Glyphs{}; ///< those the font has glyphs for
     };
-    const FontEntry &currentFont();
+    FontEntry &currentFont();
 
     FontKey m_key;
-    const FontEntry *m_current = nullptr;
+    FontEntry *m_current = nullptr;
     QHash<FontKey, FontEntry> m_fonts;
     QCache<BlockKey, std::shared_ptr<const TextBlock>> m_blocks;
     QCache<WidthKey, double> m_widths;
