@@ -283,15 +283,19 @@ private Q_SLOTS:
     void overflowStaysOnItsPiece_data()
     {
         QTest::addColumn<bool>("pdf");
-        QTest::newRow("pdf-file") << true;
-        QTest::newRow("preview") << false;
+        QTest::addColumn<bool>("wrap");
+        QTest::newRow("pdf-file") << true << true;
+        QTest::newRow("preview") << false << true;
+        QTest::newRow("pdf-file-one-line") << true << false;
     }
 
     void overflowStaysOnItsPiece()
     {
         QFETCH(bool, pdf);
+        QFETCH(bool, wrap);
         PieceModel &model = PieceModel::shared();
         QVERIFY(LoadPieceByName(Labels, model));
+        model.item(ItemId::Address).Wrap = wrap;
         fixture::newSpool();
         // Label 1's name wraps on far below the label, down the first column.
         QStringList records{person("Cy", QStringLiteral("Longname ").repeated(70)).join(';')};
@@ -319,6 +323,12 @@ private Q_SLOTS:
             page.fill(Qt::white);
             QPainter painter(&page);
             engine.paintPage(painter, 1, dpi);
+        }
+        if (!wrap) {
+            // Unwrapped, the name runs out of label 1, not into label 2 beside it.
+            QVERIFY(ink(page, dpi, QRectF(1.5, 0.5, 1.0, 0.5)) > 0.02);
+            QCOMPARE(ink(page, dpi, QRectF(4.3, 0.5, 1.1, 0.5)), 0.0);
+            return;
         }
         // 5160: the first column at 0.1875 in, rows an inch apart from 0.5 in.
         // The lower half of label 1 is full of its name; that of label 4, under
