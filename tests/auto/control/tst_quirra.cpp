@@ -29,6 +29,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <tuple>
 
 using namespace quirra;
 using steps::emitted;
@@ -340,21 +341,31 @@ private Q_SLOTS:
 
     void pagingArrowsPointTheirWay()
     {
-        // A triangle is heaviest at its base, away from its tip.
+        // A triangle is heaviest at its base, away from its tip; the arrows to
+        // the first and the last page have a bar beyond their tip, a second
+        // run of full-height columns.
         Quirra control;
-        for (const auto &[name, toLeft] : {std::pair{"mc_first", true},
-                                           {"mc_prev", true},
-                                           {"mc_next", false},
-                                           {"mc_last", false}}) {
+        for (const auto &[name, toLeft, bar] : {std::tuple{"mc_first", true, true},
+                                                {"mc_prev", true, false},
+                                                {"mc_next", false, false},
+                                                {"mc_last", false, true}}) {
             const QImage icon = control.findChild<QAbstractButton *>(QLatin1String(name))
                                     ->icon()
                                     .pixmap(32)
                                     .toImage();
-            int left = 0, right = 0;
-            for (int y = 0; y < icon.height(); ++y)
-                for (int x = 0; x < icon.width(); ++x)
+            int left = 0, right = 0, runs = 0;
+            bool inRun = false;
+            for (int x = 0; x < icon.width(); ++x) {
+                int opaque = 0;
+                for (int y = 0; y < icon.height(); ++y) {
                     (2 * x < icon.width() ? left : right) += qAlpha(icon.pixel(x, y));
-            QVERIFY2((left < right) == toLeft, name);
+                    opaque += qAlpha(icon.pixel(x, y)) > 128 ? 1 : 0;
+                }
+                const bool tall = opaque > icon.height() / 2;
+                runs += tall && !inRun ? 1 : 0;
+                inRun = tall;
+            }
+            QVERIFY2((left < right) == toLeft && runs == (bar ? 2 : 1), name);
         }
     }
 

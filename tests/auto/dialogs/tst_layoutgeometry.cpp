@@ -234,8 +234,10 @@ private Q_SLOTS:
             QCOMPARE(d.pieces().at(1).rect.left() - first.left(), entry.PitchHorz * d.scale());
             QCOMPARE(d.pieces().at(across).rect.top() - first.top(), entry.PitchVert * d.scale());
         }
+        // The width reads across, the height upwards along its line.
         const SheetDrawing::Mark *width = d.mark(QStringLiteral("label_wd_view"));
-        QVERIFY(width);
+        const SheetDrawing::Mark *height = d.mark(QStringLiteral("label_ht_view"));
+        QVERIFY(width && !width->turned && height && height->turned);
         QCOMPARE(width->line.length(), entry.LabelWidth * d.scale());
         QVERIFY(width->line.y1() < d.paper().top());
     }
