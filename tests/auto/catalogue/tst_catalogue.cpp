@@ -530,6 +530,12 @@ private Q_SLOTS:
                                     << "at least one label each way";
         QTest::newRow("too-many-rows") << sheet(goodLabel, R"(nx="1" ny="70000" dy="1in")")
                                        << "more labels than a sheet holds";
+        QTest::newRow("layout-before-its-label")
+            << "<Glabels-templates>\n<Template brand=\"Acme\" part=\"100\" "
+               "size=\"US-Letter\"><Layout " +
+                   goodLayout + "/><Label-rectangle id=\"0\" " + goodLabel +
+                   "/></Template></Glabels-templates>"
+            << "no label or no layout";
         QTest::newRow("pitch-missing") << sheet(goodLabel, R"(nx="3" ny="10" dy="1in")") << "no dx";
         QTest::newRow("off-the-sheet")
             << sheet(goodLabel,
