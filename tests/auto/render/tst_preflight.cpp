@@ -20,6 +20,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <atomic>
+
 using namespace quirra;
 
 Q_DECLARE_METATYPE(QList<int>)
@@ -278,6 +280,22 @@ private Q_SLOTS:
             QVERIFY2(!images[1].isNull() && images[0] == images[1],
                      qPrintable(QString::number(page)));
         }
+    }
+
+    // A preview cancelled before its first piece says so and keeps at most
+    // the page it had begun.
+    void cancelledPreviewSaysSo()
+    {
+        PieceModel &model = PieceModel::shared();
+        QVERIFY(LoadPieceByName(Labels, model));
+        fixture::newSpool();
+        fixture::feed(fixture::numbered(70));
+        const std::atomic_bool cancel = true;
+        PageEngine engine;
+        PreviewRun preview(model, SharedSpool::instance().spoolPath());
+        preview.setCancelFlag(&cancel);
+        preview.run(engine);
+        QVERIFY(preview.cancelled() && engine.pageCount() <= 1);
     }
 
     void overflowStaysOnItsPiece_data()
