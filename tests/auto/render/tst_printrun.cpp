@@ -312,7 +312,11 @@ private Q_SLOTS:
         QTest::newRow("zero-across-divides-by-zero")
             << 0 << 3 << QStringLiteral("Division by zero") << 1;
         QTest::newRow("pieces-per-page-overflow") << 200 << 200 << QStringLiteral("Overflow") << 1;
-        QTest::newRow("zero-down-fits-nothing") << 3 << 0 << QStringLiteral("no piece fits") << 1;
+        QTest::newRow("zero-down-fits-nothing")
+            << 3 << 0
+            << QStringLiteral("no piece fits on a page. Set PieceNumAcross and "
+                              "PieceNumDown to 1 or more.")
+            << 1;
         QTest::newRow("start-slot-beyond-the-sheet")
             << 3 << 2 << QStringLiteral("has 6 slots. Set PieceStartSlot to 1 to 6.") << 7;
     }
