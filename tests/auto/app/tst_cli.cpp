@@ -3,6 +3,7 @@
 //
 // The quirra program run as a user runs it: CSV files in, PDF files and
 // messages out, read back with the poppler tools.
+#include "columns.h"
 #include "pdfprobe.h"
 #include "quirrarun.h"
 #include "spoolfixture.h"
@@ -71,9 +72,7 @@ private Q_SLOTS:
 
     void badInputLeavesNoFile_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QStringList>("message");
+        columns<QStringList, int, QStringList>("arguments", "status", "message");
 
         const QString pdf = QStringLiteral("--pdf=%OUT%/out.pdf");
         auto csv = [](const char *name) -> QString {
@@ -150,12 +149,9 @@ private Q_SLOTS:
 
     void printsEveryRecordOnItsPiece_data()
     {
-        QTest::addColumn<QString>("csv");
-        QTest::addColumn<QString>("piece");
-        QTest::addColumn<int>("pages");
-        QTest::addColumn<QSizeF>("pageSize");
-        QTest::addColumn<QString>("lastFirstName"); // the last record's first name
-        QTest::addColumn<QStringList>("options");
+        // lastFirstName: the last record's first name
+        columns<QString, QString, int, QSizeF, QString, QStringList>(
+            "csv", "piece", "pages", "pageSize", "lastFirstName", "options");
 
         QTest::newRow("labels-30-up-69-records")
             << examples("addresses.csv") << "5160 - Address Labels" << 3 << QSizeF(612, 792)
@@ -214,9 +210,8 @@ private Q_SLOTS:
     // The first page's lines, top to bottom, and where the address starts.
     void printedPage_data()
     {
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QStringList>("lines");
-        QTest::addColumn<double>("addressLeft"); // points from the paper's edge
+        // addressLeft: points from the paper's edge
+        columns<QStringList, QStringList, double>("options", "lines", "addressLeft");
 
         const QStringList address{"Margaret Holloway", "1427 Birchwood Lane",
                                   "Springfield, IL 62704"};
@@ -290,9 +285,8 @@ private Q_SLOTS:
 
     void outputPathKinds_data()
     {
-        QTest::addColumn<QString>("kind"); // what stands at the --pdf path
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("message");
+        // kind: what stands at the --pdf path
+        columns<QString, int, QString>("kind", "status", "message");
 
         QTest::newRow("fifo") << "fifo" << 1 << "is a named pipe (FIFO); --pdf needs";
         QTest::newRow("device") << "device" << 1 << "is a device; --pdf needs";
@@ -344,8 +338,8 @@ private Q_SLOTS:
 
     void versionAndHelp_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("output"); // the start of standard output
+        // output: the start of standard output
+        columns<QStringList, QString>("arguments", "output");
 
         QTest::newRow("version") << QStringList{"--version"} << "quirra 0.";
         QTest::newRow("help") << QStringList{"--help"} << "usage: quirra print";
@@ -418,11 +412,11 @@ private Q_SLOTS:
 
     void calibrationSheet_data()
     {
-        QTest::addColumn<QString>("piece");
-        QTest::addColumn<QSizeF>("paper");  // points
-        QTest::addColumn<QRectF>("pieces"); // the first piece's centre and the pitch, inches
-        QTest::addColumn<QSize>("grid");
-        QTest::addColumn<QStringList>("measured"); // a reading, the settings it gives
+        // paper: points
+        // pieces: the first piece's centre and the pitch, inches
+        // measured: a reading, the settings it gives
+        columns<QString, QSizeF, QRectF, QSize, QStringList>("piece", "paper", "pieces", "grid",
+                                                             "measured");
         // The sheets' real geometry. A reading 1 % too wide over the 5.5 in
         // between the outer crosses, and one 0.6 % too tall over 9 in.
         QTest::newRow("letter-30-up")
@@ -513,7 +507,7 @@ private Q_SLOTS:
     // entry in the manual page.
     void manPageListsEveryOption_data()
     {
-        QTest::addColumn<QString>("command");
+        columns<QString>("command");
         static const QRegularExpression named(QStringLiteral(R"(quirra ([a-z]+) )"));
         for (auto it = named.globalMatch(runQuirra(QDir::tempPath(), {"--help"}).out);
              it.hasNext();) {

@@ -4,6 +4,7 @@
 // What the program takes in: CSV rows, their columns as a recipient, and
 // the --set assignments of properties.
 #include "addresscolumns.h"
+#include "columns.h"
 #include "csvreader.h"
 #include "propertyassignment.h"
 
@@ -102,9 +103,9 @@ class TestInput : public QObject
 private Q_SLOTS:
     void rows_data()
     {
-        QTest::addColumn<QByteArray>("input");
-        QTest::addColumn<QString>("rows");  // read before an error
-        QTest::addColumn<QString>("error"); // how it starts; empty: none
+        // rows: read before an error
+        // error: how it starts; empty: none
+        columns<QByteArray, QString, QString>("input", "rows", "error");
         const auto row = [](const char *tag, const QByteArray &input, const QString &rows,
                             const QString &error = QString()) {
             QTest::newRow(tag) << input << rows << error;
@@ -200,9 +201,8 @@ private Q_SLOTS:
 
     void mapsRows_data()
     {
-        QTest::addColumn<QStringList>("header");
-        QTest::addColumn<QStringList>("row");
-        QTest::addColumn<QString>("recipient"); // or "refused: " and the start of the error
+        // recipient: or "refused: " and the start of the error
+        columns<QStringList, QStringList, QString>("header", "row", "recipient");
         const auto row = [](const char *tag, const QStringList &header, const QStringList &values,
                             const QString &recipient) {
             QTest::newRow(tag) << header << values << recipient;
@@ -272,8 +272,7 @@ private Q_SLOTS:
 
     void setsByType_data()
     {
-        QTest::addColumn<QString>("argument");
-        QTest::addColumn<QVariant>("expected");
+        columns<QString, QVariant>("argument", "expected");
 
         QTest::newRow("short") << "Border=2" << QVariant::fromValue<short>(2);
         QTest::newRow("short-negative-with-blanks")
@@ -323,8 +322,7 @@ private Q_SLOTS:
 
     void refuses_data()
     {
-        QTest::addColumn<QString>("argument");
-        QTest::addColumn<QString>("error");
+        columns<QString, QString>("argument", "error");
         const auto row = [](const char *tag, const QString &assignment, const QString &message) {
             QTest::newRow(tag) << assignment << message;
         };

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "controlsteps.h"
 #include "hostrecorder.h"
 #include "modaldriver.h"
@@ -97,7 +98,7 @@ private Q_SLOTS:
 
     void designActionsRefreshWhenAccepted_data()
     {
-        QTest::addColumn<ActionRow>("row");
+        columns<ActionRow>("row");
         const auto row = [](const char *tag, const QString &action, const QString &dialog,
                             const QString &button, bool refreshed) {
             QTest::newRow(tag) << ActionRow{action, dialog, button, refreshed};
@@ -129,7 +130,7 @@ private Q_SLOTS:
 
     void printButtons_data()
     {
-        QTest::addColumn<PrintRow>("row");
+        columns<PrintRow>("row");
 
         const QStringList none, missing = {"Ptr.error = 2"}, okafor = {"Okafor"};
         QTest::newRow("page-at-once") << PrintRow{"mc_p_pg", "", 0, "", okafor};

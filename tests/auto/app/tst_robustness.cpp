@@ -8,6 +8,7 @@
 // when the run fails inside the control. And the preflight as the program
 // tells it: quirra check, print's summary of what needs a look, and print
 // --strict that writes nothing.
+#include "columns.h"
 #include "pdfprobe.h"
 #include "quirrarun.h"
 
@@ -113,12 +114,12 @@ private Q_SLOTS:
 
     void hostileInput_data()
     {
-        QTest::addColumn<QString>("csv");        // what makeCsv() makes
-        QTest::addColumn<bool>("junkCatalogue"); // 10 MB of random bytes as quirra.cfg
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("message"); // on standard error
-        QTest::addColumn<int>("pages");       // of the PDF when the run succeeds
+        // csv: what makeCsv() makes
+        // junkCatalogue: 10 MB of random bytes as quirra.cfg
+        // message: on standard error
+        // pages: of the PDF when the run succeeds
+        columns<QString, bool, QStringList, int, QString, int>("csv", "junkCatalogue", "arguments",
+                                                               "status", "message", "pages");
 
         const QStringList labels{"print", "--piece", "5160 - Address Labels", "--pdf", "%OUT%"};
         QTest::newRow("value-of-10000-characters")
@@ -181,9 +182,7 @@ private Q_SLOTS:
 
     void spoolIsPrivateAndRemoved_data()
     {
-        QTest::addColumn<QStringList>("settings");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("message");
+        columns<QStringList, int, QString>("settings", "status", "message");
 
         QTest::newRow("run-completes") << QStringList() << 0 << "2 records, 1 page";
         // The control's print run raises its error: the method fails with an exception.
@@ -265,8 +264,8 @@ private Q_SLOTS:
 
     void fullOrMissingFolder_data()
     {
-        QTest::addColumn<QString>("full"); // "pdf" or "tmp": the folder on a full disk
-        QTest::addColumn<QString>("message");
+        // full: "pdf" or "tmp": the folder on a full disk
+        columns<QString, QString>("full", "message");
 
         QTest::newRow("pdf-folder-full") << "pdf"
                                          << "the disk is full (no space left in";
@@ -358,10 +357,7 @@ private Q_SLOTS:
 
     void check_data()
     {
-        QTest::addColumn<QByteArray>("rows");
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("said");
+        columns<QByteArray, QStringList, int, QString>("rows", "options", "status", "said");
 
         QTest::newRow("clean") << Clean + Clean << QStringList() << 0
                                << "2 records on \"Size 10 - Envelope\": nothing to note";
@@ -388,7 +384,7 @@ private Q_SLOTS:
 
     void print_data()
     {
-        QTest::addColumn<bool>("strict");
+        columns<bool>("strict");
         QTest::newRow("strict-writes-nothing") << true;
         QTest::newRow("lenient-prints-and-tells") << false;
     }

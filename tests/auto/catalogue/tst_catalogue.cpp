@@ -8,6 +8,7 @@
 #include "catalogue/piececatalogue.h"
 #include "catalogue/pieceloader.h"
 #include "catalogue/templatereader.h"
+#include "columns.h"
 #include "settings/settings.h"
 
 #include <QBuffer>
@@ -100,11 +101,9 @@ private Q_SLOTS:
 
     void loadPieceByName_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("found");
-        QTest::addColumn<QString>("layout"); // across x down, paper code, orientation
-        QTest::addColumn<QString>("pageSize");
-        QTest::addColumn<bool>("othersVisible");
+        // layout: across x down, paper code, orientation
+        columns<QString, bool, QString, QString, bool>("name", "found", "layout", "pageSize",
+                                                       "othersVisible");
         const auto row = [](const char *tag, const QString &name, bool found, const QString &layout,
                             const QString &pageSize, bool othersVisible) {
             QTest::newRow(tag) << name << found << layout << pageSize << othersVisible;
@@ -251,9 +250,7 @@ private Q_SLOTS:
 
     void generatorRefusesBadFacts_data()
     {
-        QTest::addColumn<QString>("column");
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QString>("message");
+        columns<QString, QString, QString>("column", "value", "message");
         const auto row = [](const char *tag, const QString &column, const QString &value,
                             const QString &message) {
             QTest::newRow(tag) << column << value << message;
@@ -292,9 +289,7 @@ private Q_SLOTS:
 
     void readPieceSpec_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("numbers");
-        QTest::addColumn<QString>("pageDesc");
+        columns<QString, QString, QString>("name", "numbers", "pageDesc");
 
         const auto row = [](const char *tag, const QString &name, const QString &numbers,
                             const QString &pageDesc) {
@@ -327,8 +322,7 @@ private Q_SLOTS:
 
     void readPieceType_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("type");
+        columns<QString, int>("name", "type");
         QTest::newRow("cut") << "Acme 30-up" << int(PieceTypeCut);
         QTest::newRow("lower-case-cont-with-blanks") << "Lower Cont" << int(PieceTypeContinuous);
         QTest::newRow("continuous-spelt-out-is-cut") << "Word Continuous" << int(PieceTypeCut);
@@ -346,9 +340,7 @@ private Q_SLOTS:
 
     void lists_data()
     {
-        QTest::addColumn<bool>("products");
-        QTest::addColumn<QString>("section");
-        QTest::addColumn<QStringList>("expected");
+        columns<bool, QString, QStringList>("products", "section", "expected");
         QTest::newRow("gaps-kept-first-field-only")
             << true << LaserFamilySection << QStringList{"", "", "Acme Labels"};
         QTest::newRow("bare-product-key")
@@ -400,9 +392,7 @@ private Q_SLOTS:
 
     void lengths_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("ok");
-        QTest::addColumn<double>("inches");
+        columns<QString, bool, double>("text", "ok", "inches");
         QTest::newRow("inches") << "2.625in" << true << 2.625;
         QTest::newRow("millimetres") << "25.4mm" << true << 1.0;
         QTest::newRow("centimetres") << "2.54cm" << true << 1.0;
@@ -520,8 +510,7 @@ private Q_SLOTS:
 
     void badTemplates_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("why");
+        columns<QByteArray, QString>("text", "why");
         QTest::newRow("unknown-unit") << sheet(R"(width="2.625furlong" height="1in")")
                                       << "width=\"2.625furlong\" is not a length";
         QTest::newRow("negative-size") << sheet(R"(width="-2in" height="1in")") << "is negative";

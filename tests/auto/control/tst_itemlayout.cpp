@@ -6,6 +6,7 @@
 // three piece dialogs driven through their real modal loops, opened by the
 // control's methods and by the page's buttons (the page works on a copy until
 // it is applied); and the about box.
+#include "columns.h"
 #include "controlsteps.h"
 #include "modaldriver.h"
 #include "nowindowleft.h"
@@ -60,7 +61,7 @@ private Q_SLOTS:
 
     void applyWritesInOrder_data()
     {
-        QTest::addColumn<bool>("renamed");
+        columns<bool>("renamed");
         QTest::newRow("same-name-is-not-written") << false;
         QTest::newRow("other-name-first-then-all") << true;
     }
@@ -94,7 +95,7 @@ private Q_SLOTS:
 
     void itemInformation_data()
     {
-        QTest::addColumn<ItemRow>("row");
+        columns<ItemRow>("row");
         const auto row = [](const char *tag, const QString &label, const QString &item,
                             const QString &shownName, float top, const QString &shownTop) {
             QTest::newRow(tag) << ItemRow{label, item, shownName, top, shownTop};
@@ -132,7 +133,7 @@ private Q_SLOTS:
 
     void miniatureInProportion_data()
     {
-        QTest::addColumn<QString>("piece");
+        columns<QString>("piece");
         QTest::newRow("envelope") << "Size 10 - Envelope";
         QTest::newRow("flat-label") << "5160 - Address Labels";
         QTest::newRow("shipping-label") << "5163 - Shipping Labels";
@@ -247,8 +248,8 @@ private Q_SLOTS:
 
     void calibrationFields_data()
     {
-        QTest::addColumn<QStringList>("edit"); // property, what is typed, the note (none: taken)
-        QTest::addColumn<float>("applied");
+        // edit: property, what is typed, the note (none: taken)
+        columns<QStringList, float>("edit", "applied");
         QTest::newRow("left-offset") << QStringList{"PrinterLeft", "0.125", ""} << 0.125f;
         QTest::newRow("vertical-scale") << QStringList{"PrinterScaleY", "101.5", ""} << 101.5f;
         QTest::newRow("scale-above-the-range")
@@ -281,9 +282,7 @@ private Q_SLOTS:
 
     void dialogShow_data()
     {
-        QTest::addColumn<QString>("form");
-        QTest::addColumn<bool>("ok");
-        QTest::addColumn<bool>("onPage");
+        columns<QString, bool, bool>("form", "ok", "onPage");
         for (const QString form : {"select", "customization", "layout_edit"}) {
             for (const int row : {0, 1, 2, 3}) {
                 const bool ok = row < 2, onPage = row % 2;
@@ -414,10 +413,8 @@ private Q_SLOTS:
 
     void customizingKeepsOrSetsThePaper_data()
     {
-        QTest::addColumn<QString>("piece");
-        QTest::addColumn<QString>("chosen"); // the page size picked; empty: OK at once
-        QTest::addColumn<int>("paper");
-        QTest::addColumn<float>("pageWidth");
+        // chosen: the page size picked; empty: OK at once
+        columns<QString, QString, int, float>("piece", "chosen", "paper", "pageWidth");
 
         QTest::newRow("default-envelope-ok-keeps-envelope")
             << "Size 10 - Envelope" << QString() << 20 << 9.5f;

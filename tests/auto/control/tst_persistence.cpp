@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "properties/jsonpropertybag.h"
 
 #include "controlsteps.h"
@@ -203,9 +204,8 @@ private Q_SLOTS:
 
     void readValues_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QJsonValue>("saved");
-        QTest::addColumn<QVariant>("expected"); // invalid: the inherited font
+        // expected: invalid: the inherited font
+        columns<QString, QJsonValue, QVariant>("name", "saved", "expected");
         const auto row = [](const char *tag, const QString &name, const QJsonValue &saved,
                             const QVariant &expected) {
             QTest::newRow(tag) << name << saved << expected;
@@ -295,8 +295,8 @@ private Q_SLOTS:
 
     void fileErrors_data()
     {
-        QTest::addColumn<QByteArray>("content"); // empty: no file
-        QTest::addColumn<QString>("problem");
+        // content: empty: no file
+        columns<QByteArray, QString>("content", "problem");
         QTest::newRow("missing-file") << QByteArray() << "Cannot read";
         QTest::newRow("broken-json") << QByteArray("{\"PieceName\": ") << "not valid JSON";
         QTest::newRow("array-not-object") << QByteArray("[1, 2]") << "no JSON object";

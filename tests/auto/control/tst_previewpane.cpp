@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "pane/panelayout.h"
 #include "pane/previewpane.h"
 
@@ -113,7 +114,7 @@ private Q_SLOTS:
 
     void paging_data()
     {
-        QTest::addColumn<PagingRow>("row");
+        columns<PagingRow>("row");
 
         const QStringList back = {"mc_first", "mc_prev"}, ahead = {"mc_next", "mc_last"};
         QTest::newRow("first-display")
@@ -158,8 +159,9 @@ private Q_SLOTS:
 
     void pageShownFromItsRecords_data()
     {
-        QTest::addColumn<bool>("recordsAdded"); // after the preview was made
-        QTest::addColumn<QStringList>("words"); // on the last page, printed with "Pr Pg"
+        // recordsAdded: after the preview was made
+        // words: on the last page, printed with "Pr Pg"
+        columns<bool, QStringList>("recordsAdded", "words");
         // Only the first page is kept as drawn: the others come from their
         // records in the spool when shown.
         QTest::newRow("last-page") << false << QStringList{"Name7"};
@@ -190,9 +192,8 @@ private Q_SLOTS:
 
     void layout_data()
     {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<bool>("paging");
-        QTest::addColumn<int>("letterSpacing"); // percent, in the host's font
+        // letterSpacing: percent, in the host's font
+        columns<QSize, bool, int>("size", "paging", "letterSpacing");
 
         QTest::newRow("small-300x200") << QSize(300, 200) << true << 100;
         QTest::newRow("tiny-60x40") << QSize(60, 40) << true << 100;
@@ -239,7 +240,7 @@ private Q_SLOTS:
 
     void zoom_data()
     {
-        QTest::addColumn<ZoomRow>("row");
+        columns<ZoomRow>("row");
 
         const int step = PreviewPane::ZoomStep;
         QTest::newRow("wheel-down-two-notches")
@@ -296,7 +297,7 @@ private Q_SLOTS:
 
     void fit_data()
     {
-        QTest::addColumn<FitRow>("row");
+        columns<FitRow>("row");
 
         const QString sheet = QStringLiteral("5160 - Address Labels");
         const QString envelope = QStringLiteral("Size 10 - Envelope");
@@ -333,11 +334,7 @@ private Q_SLOTS:
 
     void arithmetic_data()
     {
-        QTest::addColumn<QSize>("pane");
-        QTest::addColumn<PaneSettings>("given");
-        QTest::addColumn<int>("inside");
-        QTest::addColumn<int>("top");
-        QTest::addColumn<int>("size");
+        columns<QSize, PaneSettings, int, int, int>("pane", "given", "inside", "top", "size");
 
         const QSize normal(9000, 6750), shortPane(9000, 1500), narrow(3000, 6750);
         QTest::newRow("defaults-capped-at-240") << normal << settings(60, 40) << 60 << 40 << 240;
@@ -381,8 +378,7 @@ private Q_SLOTS:
 
     void partsInsideAndApart_data()
     {
-        QTest::addColumn<QSize>("pane");
-        QTest::addColumn<PaneSettings>("given");
+        columns<QSize, PaneSettings>("pane", "given");
 
         QTest::newRow("small-300x200px") << QSize(4500, 3000) << settings(60, 40);
         QTest::newRow("large-1200x900px") << QSize(18000, 13500) << settings(60, 40, None, 400);

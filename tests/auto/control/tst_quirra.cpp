@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "control/quirra.h"
 
 #include "controlsteps.h"
@@ -100,8 +101,8 @@ private Q_SLOTS:
 
     void properties_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QVariant>("value"); // as a host script passes it
+        // value: as a host script passes it
+        columns<QString, QVariant>("type", "value");
         // A flag is set false (every flag starts true), an enumeration by number
         // (haRight, vaBottom; the envelope's orientation 0).
         const QHash<QString, QVariant> values{
@@ -165,9 +166,8 @@ private Q_SLOTS:
 
     void pieceName_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QList<float>>(
-            "geometry"); // across, down, width, height, paper, orientation
+        // geometry: across, down, width, height, paper, orientation
+        columns<QString, QList<float>>("name", "geometry");
         QTest::newRow("label-sheet") << ShippingLabels << QList<float>{2, 5, 4, 2, 1, 0};
         QTest::newRow("unknown-name-takes-envelope-keeps-name")
             << "No Such Piece" << QList<float>{1, 1, 9.5f, 4.125f, 20, 1};
@@ -254,7 +254,7 @@ private Q_SLOTS:
 
     void spoolRemovedWithControl_data()
     {
-        QTest::addColumn<QString>("before");
+        columns<QString>("before");
         QTest::newRow("fresh-control") << "";
         QTest::newRow("document-still-open") << "open";
         QTest::newRow("after-a-failed-preview") << "failed-preview";
@@ -314,7 +314,7 @@ private Q_SLOTS:
 
     void recordSettersByName_data()
     {
-        QTest::addColumn<int>("column");
+        columns<int>("column");
         const char *setters[] = {"FirstName", "MiddleName", "LastName", "Address1",
                                  "Address2",  "city",       "State",    "zip"};
         for (int column = 0; column < 8; ++column)
@@ -404,7 +404,7 @@ private Q_SLOTS:
 
     void printerErrorShown_data()
     {
-        QTest::addColumn<bool>("hostHook");
+        columns<bool>("hostHook");
         QTest::newRow("through-the-hosts-hook") << true;
         QTest::newRow("in-a-message-box-without-a-hook") << false;
     }

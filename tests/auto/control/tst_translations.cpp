@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "control/translations.h"
 
 #include "dialogs/piece_select_form.h"
@@ -33,7 +34,7 @@ private Q_SLOTS:
 
     void textsFollowTheLocale_data()
     {
-        QTest::addColumn<LocaleRow>("row");
+        columns<LocaleRow>("row");
         QTest::newRow("c-locale") << LocaleRow{QLocale::c(), false, "Piece Selection", "Pr All",
                                                "Cancel"};
         QTest::newRow("english") << LocaleRow{QLocale(QLocale::English, QLocale::UnitedKingdom),

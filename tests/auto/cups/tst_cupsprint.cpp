@@ -3,6 +3,7 @@
 //
 // A run printed through the control to a real CUPS queue (the PDF printer
 // driver on a private spooler), and the file the spooler made read back.
+#include "columns.h"
 #include "control/quirra.h"
 
 #include "hostrecorder.h"
@@ -173,11 +174,9 @@ private Q_SLOTS:
 
     void printsThroughTheSpooler_data()
     {
-        QTest::addColumn<QString>("piece");
-        QTest::addColumn<int>("records");
-        QTest::addColumn<int>("pages");
-        QTest::addColumn<QString>("returnText");
-        QTest::addColumn<QSizeF>("paper"); // points, as the spooler's file has it
+        // paper: points, as the spooler's file has it
+        columns<QString, int, int, QString, QSizeF>("piece", "records", "pages", "returnText",
+                                                    "paper");
 
         QTest::newRow("labels-two-sheets")
             << "5160 - Address Labels" << 35 << 2 << QString() << QSizeF(612, 792);
@@ -283,9 +282,8 @@ private Q_SLOTS:
 
     void refusingQueueIsReported_data()
     {
-        QTest::addColumn<QString>("refuse"); // the administrator's command, with -r REASON
-        QTest::addColumn<QString>("restore");
-        QTest::addColumn<QString>("reason");
+        // refuse: the administrator's command, with -r REASON
+        columns<QString, QString, QString>("refuse", "restore", "reason");
 
         QTest::newRow("not-accepting-jobs") << "cupsreject"
                                             << "cupsaccept"

@@ -4,6 +4,7 @@
 // The Designer plugin loaded as Qt Designer loads it: a form editor core
 // finds it in its plugin folder, opens the example form with a Quirra on it
 // and edits the control through the plugin's property sheet and task menu.
+#include "columns.h"
 #include "control/quirra.h"
 #include "controlsteps.h"
 #include "modaldriver.h"
@@ -101,7 +102,7 @@ private Q_SLOTS:
 
     void sheetGivesDesignerTypes_data()
     {
-        QTest::addColumn<SheetRow>("row");
+        columns<SheetRow>("row");
         QTest::newRow("short-as-int")
             << SheetRow{"ButtonMaxHeight", QVariant(300), QByteArray("int"), QVariant(300)};
         QTest::newRow("short-kept-in-range")
@@ -150,9 +151,7 @@ private Q_SLOTS:
 
     void cancelledDialogChangesNothing_data()
     {
-        QTest::addColumn<int>("action");
-        QTest::addColumn<QString>("dialog");
-        QTest::addColumn<bool>("onForm");
+        columns<int, QString, bool>("action", "dialog", "onForm");
         QTest::newRow("select-piece") << 0 << "piece_select_form" << true;
         QTest::newRow("customize-piece") << 1 << "piece_customization_form" << true;
         QTest::newRow("edit-layout") << 2 << "piece_layout_edit_form" << true;

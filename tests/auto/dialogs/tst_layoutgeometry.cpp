@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // What the layout editor and the sheet drawings work out without a window.
+#include "columns.h"
 #include "dialogs/layoutgeometry.h"
 #include "dialogs/sheetdrawing.h"
 
@@ -48,11 +49,11 @@ class TestLayoutGeometry : public QObject
 private Q_SLOTS:
     void fitScale_data()
     {
-        QTest::addColumn<float>("width");  // inches
-        QTest::addColumn<float>("height"); // inches
-        QTest::addColumn<int>("screenWidth");
-        QTest::addColumn<int>("screenHeight");
-        QTest::addColumn<float>("scale"); // NaN: the piece is refused
+        // width: inches
+        // height: inches
+        // scale: NaN: the piece is refused
+        columns<float, float, int, int, float>("width", "height", "screenWidth", "screenHeight",
+                                               "scale");
 
         const float refused = std::numeric_limits<float>::quiet_NaN();
         QTest::newRow("fits-as-it-is") << 9.5f << 4.125f << 19200 << 15360 << 1.0f;
@@ -90,11 +91,10 @@ private Q_SLOTS:
 
     void moved_data()
     {
-        QTest::addColumn<LayoutGeometry>("piece");
-        QTest::addColumn<int>("handle"); // 0: the box is dragged, pressed at 150, 150
-        QTest::addColumn<QRectF>("box");
-        QTest::addColumn<QPointF>("mouse"); // relative to the press or to the handle's corner
-        QTest::addColumn<QRectF>("result");
+        // handle: 0: the box is dragged, pressed at 150, 150
+        // mouse: relative to the press or to the handle's corner
+        columns<LayoutGeometry, int, QRectF, QPointF, QRectF>("piece", "handle", "box", "mouse",
+                                                              "result");
 
         QTest::newRow("halves-round-to-even")
             << Envelope << 0 << Address << QPointF(150.5, 151.5) << QRectF(3120, 1262, 2160, 1080);
@@ -151,8 +151,7 @@ private Q_SLOTS:
 
     void completed_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("result");
+        columns<QString, QString>("text", "result");
 
         for (const auto &[tag, text, result] :
              {std::tuple{"extra-decimals-rounded", "1.236", "1.24"},
@@ -171,10 +170,7 @@ private Q_SLOTS:
 
     void layout_data()
     {
-        QTest::addColumn<PieceSpec>("entry");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<int>("offPage");
-        QTest::addColumn<QStringList>("marks");
+        columns<PieceSpec, int, int, QStringList>("entry", "count", "offPage", "marks");
 
         QTest::newRow("thirty-labels-on-letter")
             << Labels30 << 30 << 0

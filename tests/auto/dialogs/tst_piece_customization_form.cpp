@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "dialogs/piece_customization_form.h"
 
 #include "catalogue/catalogue.h"
@@ -107,7 +108,7 @@ private Q_SLOTS:
 
     void opensOnItsPage_data()
     {
-        QTest::addColumn<PageRow>("row");
+        columns<PageRow>("row");
 
         QTest::newRow("in-parenthesis-is-not-inches")
             << PageRow{"Letter (8 1/2 x 11 in)", 0, 8.5f, 11.0f, "centimeters"};
@@ -158,7 +159,7 @@ private Q_SLOTS:
 
     void typing_data()
     {
-        QTest::addColumn<TypingRow>("row");
+        columns<TypingRow>("row");
 
         const auto row = [](const char *tag, const char *box, const char *keys, const char *text,
                             int beeps) {
@@ -196,7 +197,7 @@ private Q_SLOTS:
 
     void spinners_data()
     {
-        QTest::addColumn<SpinnerRow>("row");
+        columns<SpinnerRow>("row");
 
         const auto row = [](const char *tag, const char *name, const char *start, int steps,
                             const char *text, int beeps) {
@@ -301,9 +302,7 @@ private Q_SLOTS:
 
     void modalResult_data()
     {
-        QTest::addColumn<QString>("typeInDown");
-        QTest::addColumn<QString>("closeWith");
-        QTest::addColumn<bool>("accepted");
+        columns<QString, QString, bool>("typeInDown", "closeWith", "accepted");
 
         const auto row = [](const char *tag, const char *typed, const char *closeWith, bool ok) {
             QTest::newRow(tag) << QString::fromLatin1(typed) << QString::fromLatin1(closeWith)
@@ -350,7 +349,7 @@ private Q_SLOTS:
 
     void conversions_data()
     {
-        QTest::addColumn<ConversionRow>("row");
+        columns<ConversionRow>("row");
 
         const auto m = NumberField::Measure;
         const auto c = NumberField::Count;

@@ -5,6 +5,7 @@
 // pointer is hit, and the one pressed keeps the mouse until the release.
 #define QTEST_QPA_MOUSE_HANDLING
 
+#include "columns.h"
 #include "dialogs/layoutitemlabel.h"
 #include "dialogs/piece_layout_edit_form.h"
 
@@ -193,7 +194,7 @@ private Q_SLOTS:
 
     void mouseLayout_data()
     {
-        QTest::addColumn<MouseRow>("row");
+        columns<MouseRow>("row");
 
         const int fdiag = Qt::SizeFDiagCursor;
         const int bdiag = Qt::SizeBDiagCursor;
@@ -259,7 +260,7 @@ private Q_SLOTS:
 
     void fields_data()
     {
-        QTest::addColumn<FieldRow>("row");
+        columns<FieldRow>("row");
         // Typed after the field's text was selected; "+" and "-" are the Up and
         // Down keys, "^" and "v" clicks on the stepper's arrows.
 
@@ -311,7 +312,7 @@ private Q_SLOTS:
 
     void modifyInPlace_data()
     {
-        QTest::addColumn<ModifyRow>("row");
+        columns<ModifyRow>("row");
 
         QTest::newRow("left-item-by-menu") << ModifyRow{1, "", false, 0};
         QTest::newRow("centred-item-by-double-click") << ModifyRow{2, "", true, 2};
@@ -354,10 +355,10 @@ private Q_SLOTS:
 
     void zOrder_data()
     {
-        QTest::addColumn<QStringList>("commands"); // on the address
-        QTest::addColumn<int>("clicked");          // the item a click in the overlap takes
-        QTest::addColumn<int>(
-            "atCorner"); // what shows at the address's bottom-right handle: 0 the handle
+        // commands: on the address
+        // clicked: the item a click in the overlap takes
+        // atCorner: what shows at the address's bottom-right handle: 0 the handle
+        columns<QStringList, int, int>("commands", "clicked", "atCorner");
 
         QTest::newRow("send-to-back-buries-handles-too")
             << QStringList{"edit_send_to_back_mnu"} << 4 << 4;
@@ -387,7 +388,7 @@ private Q_SLOTS:
 
     void formatMenu_data()
     {
-        QTest::addColumn<FormatRow>("row");
+        columns<FormatRow>("row");
 
         const int left = Qt::AlignLeft;
         const qint16 none = 0;
@@ -461,7 +462,7 @@ private Q_SLOTS:
 
     void fontKeepsTrueSize_data()
     {
-        QTest::addColumn<FontRow>("row");
+        columns<FontRow>("row");
 
         QTest::newRow("ten-points-at-0.74") << FontRow{0.74f, true, "10", 8.3999};
         QTest::newRow("cancel-keeps-font") << FontRow{0.5f, false, "12", 6.9999};
@@ -498,7 +499,7 @@ private Q_SLOTS:
 
     void display_data()
     {
-        QTest::addColumn<DisplayRow>("row");
+        columns<DisplayRow>("row");
 
         QTest::newRow("hiding-selected-selects-first-visible")
             << DisplayRow{QList<int>{1}, "01111", 2, QSize(1440, 792)};
@@ -562,7 +563,7 @@ private Q_SLOTS:
     // below the last line of the text, clear of it.
     void itemLabelDrawing_data()
     {
-        QTest::addColumn<bool>("bordered");
+        columns<bool>("bordered");
         QTest::newRow("bordered") << true;
         QTest::newRow("bar-code-below-two-lines") << false;
     }
@@ -595,9 +596,7 @@ private Q_SLOTS:
 
     void modalResult_data()
     {
-        QTest::addColumn<QString>("closeWith");
-        QTest::addColumn<bool>("dragFirst");
-        QTest::addColumn<bool>("accepted");
+        columns<QString, bool, bool>("closeWith", "dragFirst", "accepted");
 
         QTest::newRow("ok-untouched-writes-back-exactly") << "ok_btn" << false << true;
         QTest::newRow("ok-after-drag") << "ok_btn" << true << true;

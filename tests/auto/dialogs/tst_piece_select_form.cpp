@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "dialogs/piece_select_form.h"
 #include "dialogs/sheetpreview.h"
 
@@ -98,7 +99,7 @@ private Q_SLOTS:
     void cleanup() { verifyNoWindowLeft(); }
     void openOnName_data()
     {
-        QTest::addColumn<OpenRow>("row");
+        columns<OpenRow>("row");
 
         QTest::newRow("later-piece-of-first-product") << OpenRow{"Acme Plain", 1, "Acme Labels", 2};
         QTest::newRow("piece-of-second-product")
@@ -173,7 +174,7 @@ private Q_SLOTS:
 
     void productChangeRefillsPieces_data()
     {
-        QTest::addColumn<ProductRow>("row");
+        columns<ProductRow>("row");
 
         QTest::newRow("down-to-envelopes")
             << ProductRow{1, int(Qt::Key_Down), QStringList{"No. 10 - Envelope", "DL - Envelope"},
@@ -244,7 +245,7 @@ private Q_SLOTS:
 
     void okAndCancel_data()
     {
-        QTest::addColumn<CloseRow>("row");
+        columns<CloseRow>("row");
 
         QTest::newRow("ok-keeps-opened-piece") << CloseRow{Labels30, -1, "ok_btn", true, Labels30};
         QTest::newRow("ok-after-picking") << CloseRow{Labels30, 2, "ok_btn", true, "Acme Plain"};
@@ -275,8 +276,7 @@ private Q_SLOTS:
 
     void detailsDiscardsItsResult_data()
     {
-        QTest::addColumn<QString>("trigger");
-        QTest::addColumn<bool>("doubleClick");
+        columns<QString, bool>("trigger", "doubleClick");
 
         QTest::newRow("details-button") << "details_btn" << false;
         QTest::newRow("new-piece-button") << "new_piece_btn" << false;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "model/piecemodel.h"
 
 #include <QTest>
@@ -15,12 +16,9 @@ private Q_SLOTS:
 
     void derivePageSetup_data()
     {
-        QTest::addColumn<QList<float>>("sheet"); // across, down, width, height, pitches, margins
-        QTest::addColumn<QString>("pageSize");
-        QTest::addColumn<float>("pageW");
-        QTest::addColumn<float>("pageH");
-        QTest::addColumn<int>("orientation");
-        QTest::addColumn<int>("paper");
+        // sheet: across, down, width, height, pitches, margins
+        columns<QList<float>, QString, float, float, int, int>("sheet", "pageSize", "pageW",
+                                                               "pageH", "orientation", "paper");
         using S = QList<float>;
         const S no10{1, 1, 9.5f, 4.125f, 9.5f, 4.125f, 0, 0};
         const auto row = [](const char *tag, const QList<float> &sheet, const QString &pageSize,
@@ -76,11 +74,7 @@ private Q_SLOTS:
 
     void slotPlacement_data()
     {
-        QTest::addColumn<int>("slot");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<int>("top");
-        QTest::addColumn<int>("left");
+        columns<int, int, int, int, int>("slot", "row", "column", "top", "left");
 
         // 3 across, 10 down; margins 0.1875 x 0.5 in, pitch 2.75 x 1 in.
         QTest::newRow("first-slot-is-the-margin-corner") << 1 << 0 << 0 << 720 << 270;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "model/error.h"
 #include "records/addressrules.h"
 #include "records/intelligentmail.h"
@@ -98,9 +99,7 @@ private Q_SLOTS:
     {
         // S StartDoc, E EndDoc, X the file removed behind the writer's back,
         // a digit NewPiece with that record; the writer is then destroyed.
-        QTest::addColumn<QString>("calls");
-        QTest::addColumn<QString>("records");
-        QTest::addColumn<bool>("header");
+        columns<QString, QString, bool>("calls", "records", "header");
         const auto row = [](const char *tag, const QString &calls, const QString &records,
                             bool header) { QTest::newRow(tag) << calls << records << header; };
 
@@ -150,9 +149,8 @@ private Q_SLOTS:
 
     void linesOnDisk_data()
     {
-        QTest::addColumn<QString>("record");
-        QTest::addColumn<QByteArray>("line"); // the values, each in quotes, comma-separated
-        QTest::addColumn<QString>("warning");
+        // line: the values, each in quotes, comma-separated
+        columns<QString, QByteArray, QString>("record", "line", "warning");
 
         const auto row = [](const char *tag, const QString &record, const QByteArray &line,
                             const QString &warning = QString()) {
@@ -191,8 +189,7 @@ private Q_SLOTS:
 
     void failuresNameTheFile_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("reason");
+        columns<QString, QString>("path", "reason");
 
         QTest::newRow("folder-removed")
             << QDir::tempPath() + "/gone/s.tmp" << QString("No such file");
@@ -242,8 +239,7 @@ private Q_SLOTS:
 
     void readsValuesAsListItems_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QStringList>("run");
+        columns<QByteArray, QStringList>("bytes", "run");
 
         const QByteArray h = fixture::Header;
         const auto row = [](const char *tag, const QByteArray &bytes, const QStringList &run) {
@@ -290,8 +286,8 @@ private Q_SLOTS:
 
     void junkNeverHangs_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("records"); // -1: any number
+        // records: -1: any number
+        columns<QByteArray, int>("bytes", "records");
 
         QRandomGenerator random(20260101);
         QByteArray junk(300000, '\0');
@@ -358,10 +354,7 @@ private Q_SLOTS:
 
     void fitCityStateZip_data()
     {
-        QTest::addColumn<QString>("city");
-        QTest::addColumn<double>("widest");
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<int>("measured");
+        columns<QString, double, QString, int>("city", "widest", "line", "measured");
 
         // State IL, code 62704: two blanks make 23 characters, single blanks 21.
         QTest::newRow("two-blanks-fit")
@@ -393,9 +386,9 @@ private Q_SLOTS:
 
     void longCityIsCutInBoundedWork_data()
     {
-        QTest::addColumn<int>("fitting"); // longest cut that fits by width; 0: none
-        QTest::addColumn<int>("dip");     // a longer cut that fits out of turn; 0: none
-        QTest::addColumn<int>("expected");
+        // fitting: longest cut that fits by width; 0: none
+        // dip: a longer cut that fits out of turn; 0: none
+        columns<int, int, int>("fitting", "dip", "expected");
 
         QTest::newRow("fits-just-below-the-walk") << 199936 << 0 << 199936;
         QTest::newRow("fits-nowhere") << 0 << 0 << 0;
@@ -422,9 +415,8 @@ private Q_SLOTS:
 
     void composeAddressLines_data()
     {
-        QTest::addColumn<QString>("record");
-        QTest::addColumn<double>("widest");
-        QTest::addColumn<QString>("lines"); // as shown()
+        // lines: as shown()
+        columns<QString, double, QString>("record", "widest", "lines");
 
         const double w = DefaultWidestCityLine;
         QTest::newRow("middle-initial")
@@ -503,10 +495,8 @@ private Q_SLOTS:
 
     void replaceTokens_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<QString>("expected");
-        QTest::addColumn<QString>("separator"); // between entries
+        // separator: between entries
+        columns<QString, QString, QString, QString>("text", "list", "expected", "separator");
         const auto row = [](const char *tag, const QString &text, const QString &list,
                             const QString &expected,
                             const QString &separator = QStringLiteral("|")) {
@@ -574,10 +564,7 @@ private Q_SLOTS:
 
     void encodes_data()
     {
-        QTest::addColumn<QString>("barCode");
-        QTest::addColumn<QString>("zip");
-        QTest::addColumn<QString>("routing");
-        QTest::addColumn<QString>("bars");
+        columns<QString, QString, QString, QString>("barCode", "zip", "routing", "bars");
         const auto row = [](const char *tag, const QString &barCode, const QString &zip,
                             const QString &routing, const QString &bars) {
             QTest::newRow(tag) << barCode << zip << routing << bars;
@@ -611,9 +598,7 @@ private Q_SLOTS:
 
     void refuses_data()
     {
-        QTest::addColumn<QString>("barCode");
-        QTest::addColumn<QString>("zip");
-        QTest::addColumn<QString>("why");
+        columns<QString, QString, QString>("barCode", "zip", "why");
         const auto row = [](const char *tag, const QString &barCode, const QString &zip,
                             const QString &why) { QTest::newRow(tag) << barCode << zip << why; };
         row("letters", "0123456709498765432A", "98101", "holds more than digits");

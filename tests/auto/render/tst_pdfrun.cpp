@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Whole runs printed to PDF and read back with the poppler tools.
+#include "columns.h"
 #include "pdfprobe.h"
 #include "spoolfixture.h"
 
@@ -55,9 +56,8 @@ private Q_SLOTS:
 
     void itemPlacement_data()
     {
-        QTest::addColumn<int>("item");
-        QTest::addColumn<int>("align");
-        QTest::addColumn<float>("left"); // inches; below 0: where the envelope's layout has it
+        // left: inches; below 0: where the envelope's layout has it
+        columns<int, int, float>("item", "align", "left");
         QTest::newRow("address-centred") << int(ItemId::Address) << int(haCenter) << -1.f;
         QTest::newRow("address-right") << int(ItemId::Address) << int(haRight) << -1.f;
         // Inside the strip the printer cannot reach: the box starts at its edge, 18 pt in.
@@ -101,7 +101,7 @@ private Q_SLOTS:
 
     void everyProductOnItsRealSheet_data()
     {
-        QTest::addColumn<QString>("piece");
+        columns<QString>("piece");
         const QString file = CatalogueFilePath();
         int products = 0;
         for (const QString &family : {LaserFamilySection, DotMatrixFamilySection}) {
@@ -193,9 +193,7 @@ private Q_SLOTS:
 
     void barcodeAsThePostalServiceMeasuresIt_data()
     {
-        QTest::addColumn<QString>("barCode");
-        QTest::addColumn<QString>("zip");
-        QTest::addColumn<int>("align");
+        columns<QString, QString, int>("barCode", "zip", "align");
         const auto row = [](const char *tag, const QString &barCode, const QString &zip,
                             int align) { QTest::newRow(tag) << barCode << zip << align; };
         row("zip5-after-dash", "01234567094987654321-01234", "99999", int(haLeft));

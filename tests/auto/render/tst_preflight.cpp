@@ -3,6 +3,7 @@
 //
 // The run's report of what will not come out as the user expects, and the
 // clip that keeps a piece's overflow off its neighbours.
+#include "columns.h"
 #include "pdfprobe.h"
 #include "spoolfixture.h"
 
@@ -93,13 +94,13 @@ private Q_SLOTS:
 
     void notes_data()
     {
-        QTest::addColumn<QString>("piece");
-        QTest::addColumn<int>("tweak");
-        QTest::addColumn<QStringList>("second"); // the record after a clean "Ann Lee"
-        QTest::addColumn<QList<int>>("kinds");   // every kind noted
-        QTest::addColumn<int>("record");         // the first record noted
-        QTest::addColumn<int>("count");          // records with the first kind
-        QTest::addColumn<QString>("detail");     // part of the first kind's detail
+        // second: the record after a clean "Ann Lee"
+        // kinds: every kind noted
+        // record: the first record noted
+        // count: records with the first kind
+        // detail: part of the first kind's detail
+        columns<QString, int, QStringList, QList<int>, int, int, QString>(
+            "piece", "tweak", "second", "kinds", "record", "count", "detail");
 
         const QStringList bob = person("Bob", "Roe");
         const auto kinds = [](std::initializer_list<NoteKind> list) {
@@ -215,12 +216,10 @@ private Q_SLOTS:
 
     void previewDrawsEachPageAsTheWholeRun_data()
     {
-        QTest::addColumn<QString>("piece");
-        QTest::addColumn<int>("rows");    // 0: as the piece has them
-        QTest::addColumn<int>("records"); // the last one overflows its piece
-        QTest::addColumn<int>("firstSlot");
-        QTest::addColumn<QPoint>("range");
-        QTest::addColumn<int>("pages");
+        // rows: 0: as the piece has them
+        // records: the last one overflows its piece
+        columns<QString, int, int, int, QPoint, int>("piece", "rows", "records", "firstSlot",
+                                                     "range", "pages");
         QTest::newRow("labels-from-slot-25") << Labels << 0 << 40 << 25 << QPoint() << 3;
         QTest::newRow("envelopes-one-a-page") << Envelope << 0 << 3 << 1 << QPoint() << 3;
         QTest::newRow("continuous-one-row-a-page") << Labels << 1 << 7 << 1 << QPoint() << 3;
@@ -300,8 +299,7 @@ private Q_SLOTS:
 
     void overflowStaysOnItsPiece_data()
     {
-        QTest::addColumn<bool>("pdf");
-        QTest::addColumn<bool>("wrap");
+        columns<bool, bool>("pdf", "wrap");
         QTest::newRow("pdf-file") << true << true;
         QTest::newRow("preview") << false << true;
         QTest::newRow("pdf-file-one-line") << true << false;

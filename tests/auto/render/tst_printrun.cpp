@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "recordingsurface.h"
 #include "spoolfixture.h"
 
@@ -28,12 +29,9 @@ private Q_SLOTS:
 
     void verifiedPageSetup_data()
     {
-        QTest::addColumn<int>("refusals");
-        QTest::addColumn<int>("attempts");
-        QTest::addColumn<int>("paper");
-        QTest::addColumn<QSize>(
-            "takenCustom"); // the custom size the surface reports; empty: as given
-        QTest::addColumn<int>("paperAttempts");
+        // takenCustom: the custom size the surface reports; empty: as given
+        columns<int, int, int, QSize, int>("refusals", "attempts", "paper", "takenCustom",
+                                           "paperAttempts");
         QTest::newRow("taken-at-once") << 0 << 1 << 20 << QSize() << 1;
         QTest::newRow("taken-on-the-fourth-try") << 3 << 4 << 20 << QSize() << 4;
         QTest::newRow("never-taken-stops-after-ten") << -1 << 10 << 20 << QSize() << 10;
@@ -94,16 +92,13 @@ private Q_SLOTS:
 
     void pagination_data()
     {
-        QTest::addColumn<int>("records");
-        QTest::addColumn<int>("across");
-        QTest::addColumn<int>("down");
-        QTest::addColumn<int>("pages");
-        QTest::addColumn<QStringList>(
-            "lastPageBoxes");                 // "left top" of the address on the last page
-        QTest::addColumn<int>("cancelAfter"); // pieces drawn when the run is cancelled; 0: never
-        // The first sheet's first slot; past 1 with outlines in preview.
-        QTest::addColumn<int>("firstSlot");
-        QTest::addColumn<QPoint>("scale"); // PrinterScaleX and Y, percent, about the page's corner
+        // lastPageBoxes: "left top" of the address on the last page
+        // cancelAfter: pieces drawn when the run is cancelled; 0: never
+        // firstSlot: the first sheet's first slot; past 1 with outlines in preview
+        // scale: PrinterScaleX and Y, percent, about the page's corner
+        columns<int, int, int, int, QStringList, int, int, QPoint>(
+            "records", "across", "down", "pages", "lastPageBoxes", "cancelAfter", "firstSlot",
+            "scale");
         const QPoint same(100, 100);
 
         const auto row = [](const char *tag, int records, int across, int down, int pages,
@@ -218,10 +213,7 @@ private Q_SLOTS:
 
     void verticalOffset_data()
     {
-        QTest::addColumn<int>("align");
-        QTest::addColumn<float>("heightInches");
-        QTest::addColumn<int>("lines");
-        QTest::addColumn<int>("offset");
+        columns<int, float, int, int>("align", "heightInches", "lines", "offset");
         // The fake surface lays out 240 twips a line.
         QTest::newRow("top-no-offset") << int(vaTop) << 1.f << 1 << 0;
         QTest::newRow("middle-one-inch") << int(vaMiddle) << 1.f << 1 << 600;
@@ -305,10 +297,7 @@ private Q_SLOTS:
 
     void badGeometryIsAnErrorOfTheRun_data()
     {
-        QTest::addColumn<int>("across");
-        QTest::addColumn<int>("down");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<int>("start");
+        columns<int, int, QString, int>("across", "down", "message", "start");
         QTest::newRow("zero-across-divides-by-zero")
             << 0 << 3 << QStringLiteral("Division by zero") << 1;
         QTest::newRow("pieces-per-page-overflow") << 200 << 200 << QStringLiteral("Overflow") << 1;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "settings/defaultlayout.h"
 #include "settings/files.h"
 #include "settings/profile.h"
@@ -46,9 +47,8 @@ class TestSettings : public QObject
 private Q_SLOTS:
     void readSettingList_data()
     {
-        QTest::addColumn<QByteArray>("keys");
-        QTest::addColumn<QString>("slots"); // joined by "|"; its parts give the list's bound
-        QTest::addColumn<int>("last");
+        // slots: joined by "|"; its parts give the list's bound
+        columns<QByteArray, QString, int>("keys", "slots", "last");
 
         QTest::newRow("gap-leaves-empty-slot")
             << QByteArray("size(1)=a\nsize(3)=c") << "a||c||" << 3;
@@ -91,8 +91,7 @@ private Q_SLOTS:
 
     void parseBoolean_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("expected");
+        columns<QString, bool>("text", "expected");
         QTest::newRow("yes-lower-case") << "yes" << true;
         QTest::newRow("on-with-blanks") << "  On " << true;
         QTest::newRow("minus-one") << "-1" << true;
@@ -109,11 +108,9 @@ private Q_SLOTS:
 
     void parseNumbers_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("numeric");
-        QTest::addColumn<double>("number");
-        QTest::addColumn<float>("single");
-        QTest::addColumn<int>("integer"); // Overflow: ParseInteger throws
+        // integer: Overflow: ParseInteger throws
+        columns<QString, bool, double, float, int>("text", "numeric", "number", "single",
+                                                   "integer");
         // single: NaN when it is the number as a float.
         const auto row = [](const char *tag, const QString &text, bool numeric, double number,
                             int integer, float single = qQNaN()) {
@@ -155,10 +152,8 @@ private Q_SLOTS:
 
     void splitAndTrim_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("separator");
         // TextBefore, TextAfter, TextAfterLast, TrimBlanks, TrimTrailingBlanks, joined by "/".
-        QTest::addColumn<QString>("results");
+        columns<QString, QString, QString>("text", "separator", "results");
 
         const auto row = [](const char *tag, const QString &text, const QString &separator,
                             const QString &results) {
@@ -187,9 +182,7 @@ private Q_SLOTS:
 
     void formatNumber_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QString>("expected");
+        columns<double, QString, QString>("value", "pattern", "expected");
         const auto row = [](const char *tag, double value, const QString &format,
                             const QString &expected) {
             QTest::newRow(tag) << value << format << expected;
@@ -220,9 +213,7 @@ private Q_SLOTS:
 
     void displayTwipsToText_data()
     {
-        QTest::addColumn<float>("scale");
-        QTest::addColumn<double>("twips");
-        QTest::addColumn<QString>("expected");
+        columns<float, double, QString>("scale", "twips", "expected");
 
         QTest::newRow("one-inch-keeps-point") << 1.0f << 1440.0 << "1.";
         QTest::newRow("inch-and-a-half") << 1.0f << 2160.0 << "1.5";
@@ -258,8 +249,7 @@ private Q_SLOTS:
     // Every row looks up key "k" of section "A"; "<none>" means not found.
     void lookup_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("expected");
+        columns<QByteArray, QString>("text", "expected");
         const QByteArray longValue(300, 'a');
         const QString cut(254, u'a');
 
@@ -299,9 +289,8 @@ private Q_SLOTS:
 
     void changedFileIsSeen_data()
     {
-        QTest::addColumn<QByteArray>("second");
-        QTest::addColumn<int>("secondsLater"); // -1: the file is removed
-        QTest::addColumn<QString>("expected");
+        // secondsLater: -1: the file is removed
+        columns<QByteArray, int, QString>("second", "secondsLater", "expected");
         // A grown file gets its old time back: only the size tells the change.
         QTest::newRow("grown-file-same-time") << QByteArray("[A]\nk=longer") << 0 << "longer";
         QTest::newRow("same-size-newer-time") << QByteArray("[A]\nk=two") << 2 << "two";
@@ -338,7 +327,7 @@ private Q_SLOTS:
 
     void junkParsesInLinearTime_data()
     {
-        QTest::addColumn<bool>("oneLine");
+        columns<bool>("oneLine");
         QTest::newRow("random-bytes") << false;
         QTest::newRow("one-ten-megabyte-line") << true;
     }
@@ -363,9 +352,8 @@ private Q_SLOTS:
 
     void makeTempFileName_data()
     {
-        QTest::addColumn<QString>("prefix");
-        QTest::addColumn<QString>("folder");
-        QTest::addColumn<QString>("expected"); // the name's pattern, or what the error says
+        // expected: the name's pattern, or what the error says
+        columns<QString, QString, QString>("prefix", "folder", "expected");
 
         const auto row = [](const char *tag, const QString &prefix, const QString &folder,
                             const QString &expected) {
@@ -466,11 +454,8 @@ private Q_SLOTS:
 
     void boxes_data()
     {
-        QTest::addColumn<float>("h");
-        QTest::addColumn<float>("w");
-        QTest::addColumn<int>("item");
-        QTest::addColumn<QList<float>>("box"); // top, left, height, width (inches)
-        QTest::addColumn<bool>("visible");
+        // box: top, left, height, width (inches)
+        columns<float, float, int, QList<float>, bool>("h", "w", "item", "box", "visible");
         using B = QList<float>;
         const int a = int(ItemId::Address), r = int(ItemId::Return), s = int(ItemId::Stamp),
                   m1 = int(ItemId::Message1), m2 = int(ItemId::Message2);
@@ -526,9 +511,7 @@ private Q_SLOTS:
 
     void texts_data()
     {
-        QTest::addColumn<int>("item");
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("after");
+        columns<int, QString, QString>("item", "before", "after");
         QTest::newRow("blank-address-gets-default") << int(ItemId::Address) << "   "
                                                     << "Delivery Address";
         QTest::newRow("user-text-kept") << int(ItemId::Address) << "ATTN"

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "surface/pageengine.h"
 #include "surface/pdftarget.h"
 
@@ -143,7 +144,7 @@ private Q_SLOTS:
 
     void paperAndOrientation_data()
     {
-        QTest::addColumn<PaperRow>("row");
+        columns<PaperRow>("row");
 
         QTest::newRow("letter-portrait") << PaperRow{1, 0, QSizeF(612, 792), 1, 0, QSize()};
         QTest::newRow("legal") << PaperRow{5, 0, QSizeF(612, 1008), 5, 0, QSize()};
@@ -190,7 +191,7 @@ private Q_SLOTS:
 
     void textPlacement_data()
     {
-        QTest::addColumn<PlacementRow>("row");
+        columns<PlacementRow>("row");
         // Per line: L starts at the text's left edge, R ends at its right edge,
         // C is centred between them, B touches both.
 
@@ -274,7 +275,7 @@ private Q_SLOTS:
 
     void textHeight_data()
     {
-        QTest::addColumn<HeightRow>("row");
+        columns<HeightRow>("row");
 
         const auto row = [](const char *tag, const QString &text, int twips, int spacing = 100,
                             bool wrap = false) {
@@ -341,7 +342,7 @@ private Q_SLOTS:
 
     void headerAndFooter_data()
     {
-        QTest::addColumn<HeaderRow>("row");
+        columns<HeaderRow>("row");
 
         QTest::newRow("header-counts-from-the-first-number")
             << HeaderRow{QStringLiteral("Page %d"), QString(), 5,
@@ -403,7 +404,7 @@ private Q_SLOTS:
 
     void previewFrames_data()
     {
-        QTest::addColumn<FrameRow>("row");
+        columns<FrameRow>("row");
 
         const QString hi = QStringLiteral("Hi"), tall = QStringLiteral("1\r2\r3\r4\r5\r6");
         QTest::newRow("frame-round-the-box-not-the-text")
@@ -458,9 +459,7 @@ private Q_SLOTS:
 
     void previewAndPdfBreakAlike_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("align");
-        QTest::addColumn<double>("points");
+        columns<QString, int, double>("text", "align", "points");
 
         QTest::newRow("justified") << QStringLiteral("Please deliver to the back door between nine "
                                                      "and five on weekdays only, thank you")
@@ -514,7 +513,7 @@ private Q_SLOTS:
 
     void errorCodes_data()
     {
-        QTest::addColumn<ErrorRow>("row");
+        columns<ErrorRow>("row");
 
         QTest::newRow("preview-never-fails") << ErrorRow{true, false, QString(), false, 0};
         QTest::newRow("writable-pdf") << ErrorRow{false, true, QStringLiteral("ok.pdf"), false, 0};
@@ -591,9 +590,8 @@ private Q_SLOTS:
 
     void memoryStaysFlat_data()
     {
-        QTest::addColumn<bool>("preview");
-        QTest::addColumn<int>("pages");
-        QTest::addColumn<int>("kibPerThousandPages"); // growth allowed past the first thousand
+        // kibPerThousandPages: growth allowed past the first thousand
+        columns<bool, int, int>("preview", "pages", "kibPerThousandPages");
         // Print keeps nothing per page but the file's page index, a few bytes
         // each (keeping the drawing: some 60 MB more). A long preview keeps its
         // first page and the last few shown (keeping every page shown: some 3 MB

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 QuirraControl developers
 // SPDX-License-Identifier: MIT
+#include "columns.h"
 #include "printing/printsurface.h"
 
 #include "nowindowleft.h"
@@ -24,9 +25,7 @@ private Q_SLOTS:
     void cleanup() { verifyNoWindowLeft(); }
     void printing_data()
     {
-        QTest::addColumn<QString>("outputFile");
-        QTest::addColumn<QString>("printerName");
-        QTest::addColumn<bool>("fails");
+        columns<QString, QString, bool>("outputFile", "printerName", "fails");
 
         QTest::newRow("pdf-file") << m_dir.filePath(QStringLiteral("out.pdf")) << QString()
                                   << false;
@@ -72,9 +71,8 @@ private Q_SLOTS:
 
     void pageOnShow_data()
     {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<int>("zoom");
-        QTest::addColumn<QSizeF>("inches"); // the page on show, as oriented
+        // inches: the page on show, as oriented
+        columns<int, int, QSizeF>("page", "zoom", "inches");
 
         QTest::newRow("first-page-at-a-quarter") << 1 << 25 << QSizeF(8.5, 11);
         QTest::newRow("landscape-second-page") << 2 << 25 << QSizeF(11, 8.5);
