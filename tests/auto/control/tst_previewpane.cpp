@@ -353,6 +353,10 @@ private Q_SLOTS:
             << shortPane << settings(60, 40) << 60 << 40 << 201;
         QTest::newRow("nan-fraction-reads-default")
             << shortPane << settings(60, 40, None, 240, qQNaN()) << 60 << 40 << 201;
+        QTest::newRow("zero-fraction-gives-the-row-all")
+            << shortPane << settings(60, 40, None, 240, 0.0f) << 60 << 40 << 240;
+        QTest::newRow("whole-fraction-leaves-the-row-none")
+            << shortPane << settings(60, 40, None, 240, 1.0f) << 60 << 40 << 1;
         // 270 twips of spacing and 15 button widths in 3000 twips.
         QTest::newRow("narrow-pane-shrinks") << narrow << settings(60, 40) << 60 << 40 << 182;
         QTest::newRow("hidden-paging-takes-no-room")

@@ -178,6 +178,9 @@ private Q_SLOTS:
         QTest::newRow("fourth-column-runs-off")
             << sheet(8.5f, 11, 0.1875f, 0.5f, 2.75f, 1, 2.625f, 1, 4, 10) << 40 << 10
             << QStringList{"0.5", "1", "pitch 1", "0.1875", "2.625", "pitch 2.75"};
+        QTest::newRow("eleventh-row-runs-off")
+            << sheet(8.5f, 11, 0.1875f, 0.5f, 2.75f, 1, 2.625f, 1, 3, 11) << 33 << 3
+            << QStringList{"0.5", "1", "pitch 1", "0.1875", "2.625", "pitch 2.75"};
         QTest::newRow("no-margins-no-margin-marks")
             << sheet(9.5f, 4.125f, 0, 0, 9.5f, 4.125f, 9.5f, 4.125f, 1, 1) << 1 << 0
             << QStringList{"4.125", "pitch 4.125", "9.5", "pitch 9.5"};

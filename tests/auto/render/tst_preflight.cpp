@@ -221,6 +221,8 @@ private Q_SLOTS:
         columns<QString, int, int, int, QPoint, int>("piece", "rows", "records", "firstSlot",
                                                      "range", "pages");
         QTest::newRow("labels-from-slot-25") << Labels << 0 << 40 << 25 << QPoint() << 3;
+        QTest::newRow("labels-from-slot-29") << Labels << 0 << 40 << 29 << QPoint() << 3;
+        QTest::newRow("labels-from-the-last-slot") << Labels << 0 << 40 << 30 << QPoint() << 3;
         QTest::newRow("envelopes-one-a-page") << Envelope << 0 << 3 << 1 << QPoint() << 3;
         QTest::newRow("continuous-one-row-a-page") << Labels << 1 << 7 << 1 << QPoint() << 3;
         QTest::newRow("pages-2-to-3-of-3") << Labels << 0 << 70 << 1 << QPoint(2, 3) << 2;

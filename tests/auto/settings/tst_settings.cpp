@@ -202,6 +202,8 @@ private Q_SLOTS:
         row("half-past-the-last-decimal-rounds-up", 0.005, "#0.##", "0.01");
         row("below-half-past-the-last-decimal", 0.0049, "#0.##", "0.");
         row("text-around-kept", 2.0, "0.00 in", "2.00 in");
+        row("decimals-past-the-fifteenth-digit-are-zero", 0.1, "0.0000000000000000",
+            "0.1000000000000000");
     }
 
     void formatNumber()
