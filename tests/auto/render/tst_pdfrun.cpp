@@ -193,12 +193,14 @@ private Q_SLOTS:
 
     void barcodeAsThePostalServiceMeasuresIt_data()
     {
-        columns<QString, QString, int>("barCode", "zip", "align");
-        const auto row = [](const char *tag, const QString &barCode, const QString &zip,
-                            int align) { QTest::newRow(tag) << barCode << zip << align; };
-        row("zip5-after-dash", "01234567094987654321-01234", "99999", int(haLeft));
-        row("zip11-run-on", "0123456709498765432101234567891", "", int(haCenter));
-        row("zip9-from-record", "01234567094987654321", "01234-5678", int(haLeft));
+        columns<QString, QString, int, int>("barCode", "zip", "align", "vertical");
+        const auto row = [](const char *tag, const QString &barCode, const QString &zip, int align,
+                            int vertical) {
+            QTest::newRow(tag) << barCode << zip << align << vertical;
+        };
+        row("zip5-after-dash", "01234567094987654321-01234", "99999", int(haLeft), int(vaTop));
+        row("zip11-run-on", "0123456709498765432101234567891", "", int(haCenter), int(vaMiddle));
+        row("zip9-from-record", "01234567094987654321", "01234-5678", int(haLeft), int(vaBottom));
     }
 
     void barcodeAsThePostalServiceMeasuresIt()
@@ -206,10 +208,13 @@ private Q_SLOTS:
         QFETCH(QString, barCode);
         QFETCH(QString, zip);
         QFETCH(int, align);
+        QFETCH(int, vertical);
         PieceModel &model = PieceModel::shared();
         QVERIFY(LoadPieceByName(QStringLiteral("Size 10 - Envelope"), model));
         model.AddressBarcode = true;
-        model.item(ItemId::Address).HorzAlign = eHorzAlign(align);
+        Item &address = model.item(ItemId::Address);
+        address.HorzAlign = eHorzAlign(align);
+        address.VertAlign = eVertAlign(vertical);
         for (ItemId id : {ItemId::Return, ItemId::Message1, ItemId::Message2, ItemId::Stamp})
             model.item(id).Visible = false;
         fixture::feed({QStringLiteral("Ann;;Lee;1 Elm St;;Troy;NY;%1;;%2").arg(zip, barCode)});
@@ -232,6 +237,10 @@ private Q_SLOTS:
         int top = bottom;
         while (top > 0 && rowInked(top - 1))
             --top;
+        // The block makes room for its barcode line, wherever it stands in its box.
+        QVERIFY2(bottom <= (address.Top + address.Height) * 600,
+                 qPrintable(QStringLiteral("%1 > %2").arg(bottom).arg(
+                     (address.Top + address.Height) * 600)));
         QString bars;
         QList<int> lefts;
         constexpr double Dpi = 600, Edge = 3; // pixels of rounding at a bar's end
