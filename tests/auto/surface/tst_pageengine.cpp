@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QImage>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -426,6 +427,8 @@ private Q_SLOTS:
     void previewFrames()
     {
         QFETCH(FrameRow, row);
+        // No style the rows set (none, solid) is taken for an unknown one.
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("is not known")));
 
         // At 144 dpi a pixel is 10 twips: the box is (144, 144) 288 x 72 pixels.
         const QImage image = previewImage(
