@@ -515,6 +515,8 @@ private Q_SLOTS:
                                       << "width=\"2.625furlong\" is not a length";
         QTest::newRow("negative-size") << sheet(R"(width="-2in" height="1in")") << "is negative";
         QTest::newRow("no-height") << sheet(R"(width="2in")") << "no height";
+        QTest::newRow("round-without-radius")
+            << sheet("").replace("Label-rectangle", "Label-round") << "no radius";
         QTest::newRow("no-columns") << sheet(goodLabel, R"(nx="0" ny="10" dx="1in" dy="1in")")
                                     << "at least one label each way";
         QTest::newRow("too-many-rows") << sheet(goodLabel, R"(nx="1" ny="70000" dy="1in")")
