@@ -5,6 +5,7 @@
 #include "spoolfixture.h"
 
 #include "model/error.h"
+#include "render/calibration.h"
 #include "render/drawitem.h"
 #include "render/printrun.h"
 
@@ -327,6 +328,18 @@ private Q_SLOTS:
             QVERIFY2(e.message().contains(message), e.what());
         }
         QCOMPARE(surface.calls.last(), QStringLiteral("action 7")); // the document is dropped
+    }
+
+    // The calibration sheet outlines each piece once, where it lies on the
+    // sheet less the printer's offsets (a quarter inch each way).
+    void calibrationSheetOutlinesEachPiece()
+    {
+        useLabelSheet(2, 2);
+        RecordingSurface surface;
+        PrintCalibrationSheet(surface, PieceModel::shared());
+        QCOMPARE(surface.calls.filter(QRegularExpression(QStringLiteral("^outline"))),
+                 (QStringList{"outline 360 360", "outline 3960 360", "outline 360 2160",
+                              "outline 3960 2160"}));
     }
 
 private:
