@@ -13,6 +13,7 @@
 #include "render/printrun.h"
 #include "render/runreport.h"
 #include "surface/measuringsurface.h"
+#include "surface/pageengine.h"
 
 #include <QImage>
 #include <QPainter>
@@ -39,7 +40,15 @@ QStringList person(const QString &first, const QString &last, const QString &cit
     return {first, QString(), last, QStringLiteral("12 Elm St"), QString(), city, state, zip};
 }
 
-enum Tweak { None, LowAddressBox, FramedMessageOffLabel, AddressTop25, MarginTop127, Barcode };
+enum Tweak {
+    None,
+    LowAddressBox,
+    FramedMessageOffLabel,
+    AddressTop25,
+    MarginTop127,
+    Barcode,
+    MessageTwipShort
+};
 
 void apply(Tweak tweak, PieceModel &model)
 {
@@ -67,6 +76,20 @@ void apply(Tweak tweak, PieceModel &model)
     case Barcode:
         model.AddressBarcode = true;
         break;
+    case MessageTwipShort: { // a twip narrower and lower than its one line of text
+        Item &message = model.item(ItemId::Message1);
+        message = Item{};
+        message.Text = QStringLiteral("Hi");
+        message.Wrap = false;
+        message.Left = message.Top = 1;
+        PageEngine engine;
+        engine.setFontName(message.Font.Name);
+        engine.setFontSize(message.Font.Size);
+        engine.textBox(message.Text, 0, 0, 2880, 720, false, true, false);
+        message.Width = float(engine.textWidthLaidOut() - 1) / 1440;
+        message.Height = float(engine.textHeight() - 1) / 1440;
+        break;
+    }
     }
 }
 
@@ -124,6 +147,8 @@ private Q_SLOTS:
         row("city-shortened", Envelope, int(None),
             person("Bob", "Roe", "Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch"),
             kinds({NoteKind::CityLineShortened}), 2, 1, "gogogoch,\" cut");
+        row("text-a-twip-beyond-item-is-not-noted", Envelope, int(MessageTwipShort), bob,
+            QList<int>(), 0, 0, QString());
         row("text-beyond-item", Envelope, int(LowAddressBox), bob,
             kinds({NoteKind::TextBeyondItem}), 1, 2, "Address text is");
         row("text-cut-at-piece", Labels, int(None),
