@@ -188,7 +188,7 @@ private Q_SLOTS:
             << sheet(8.5f, 11, 0, 0, 0.05f, 0.05f, 0.05f, 0.05f, 32767, 32767) << 100 * 100 << 0
             << QStringList{"0.05", "pitch 0.05", "0.05", "pitch 0.05"};
         QTest::newRow("negative-counts-draw-no-piece")
-            << sheet(8.5f, 11, 0, 0, 1, 1, 1, 1, -3, 5) << 0 << 0
+            << sheet(8.5f, 11, 0, 0, 1, 1, 1, 1, -3, 20) << 0 << 0
             << QStringList{"1", "pitch 1", "1", "pitch 1"};
         QTest::newRow("nothing-to-draw") << PieceSpec() << 0 << 0 << QStringList();
     }
@@ -219,6 +219,11 @@ private Q_SLOTS:
         QCOMPARE(texts, marks);
         if (d.isEmpty())
             return;
+        if (count == 0) { // rows not drawn take no room from the page
+            PieceSpec oneRow = entry;
+            oneRow.NumDown = 1;
+            QCOMPARE(d.paper(), draw(oneRow).paper());
+        }
 
         // The page keeps its proportions, everything (marks too) stays in the area, and
         // the pieces stand a pitch apart from the margins.
