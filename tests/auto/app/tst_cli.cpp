@@ -470,14 +470,23 @@ private Q_SLOTS:
         QCOMPARE(count.size(), 4);
         for (int numbers : std::as_const(count))
             QVERIFY(numbers >= 6);
-        // The instruction stands in the second row's upper half, above its crosses.
+        // The instruction stands in the second row's upper half, above its
+        // crosses, and names the piece where it starts and in its command.
         const double rowTop = (pieces.y() + pieces.height() / 2) * 72;
         const double crossTop = (pieces.y() + pieces.height() - 0.125) * 72;
+        QStringList instruction;
         for (const pdfprobe::Word &word : words) {
-            if (word.box.top() > 40 && word.box.left() > 60)
+            if (word.box.top() > 40 && word.box.left() > 60) {
                 QVERIFY2(word.box.top() > rowTop && word.box.bottom() < crossTop,
                          qPrintable(word.text));
+                instruction << word.text;
+            }
         }
+        const QString said = instruction.join(u' ').replace("&quot;", "\""),
+                      named = '"' + piece + '"';
+        QVERIFY2(said.startsWith("Calibration of " + named + ':') &&
+                     said.contains("--piece " + named + " --measured"),
+                 qPrintable(said));
 
         // A cross at every real piece's centre (the printer's offsets cancel on
         // a PDF), plain paper a quarter pitch to its right.

@@ -512,6 +512,7 @@ private Q_SLOTS:
         row("later-entry-replaces-earlier-value", "<<a>>", "a^<<b>>|b^B", "B");
         row("earlier-entry-not-applied-again", "<<a>>", "b^B|a^<<b>>", "<<b>>");
         row("blank-entries-between", "<<a>><<b>>", "a^1|  |b^2|", "12");
+        row("leading-separator-ends-an-empty-entry", "<<|a>>+<<a>>", "|a^1", "<<|a>>+1");
         // Replacing the inner token completes a new one, which goes in turn.
         row("replacement-completes-a-new-token", "<<<<a>>a>>", "a^", "");
         row("self-referencing-value-once-per-occurrence", "<<a>>-<<a>>", "a^x<<a>>",
