@@ -149,6 +149,28 @@ private Q_SLOTS:
             QCOMPARE(piece.resized(handle, box, mouse), result);
     }
 
+    // A stepper's click (50 twips) moves a field by 0.03 in, as the field
+    // shows it, up to its bound and down to 0; a bound beeps.
+    void stepped_data()
+    {
+        columns<QString, int, QString, bool>("text", "scroll", "result", "clamped");
+        QTest::newRow("up") << "0.5" << -50 << "0.53" << false;
+        QTest::newRow("down") << "0.5" << 50 << "0.47" << false;
+        QTest::newRow("up-to-the-bound-exactly") << "0.97" << -50 << "1." << false;
+        QTest::newRow("past-the-bound") << "0.99" << -50 << "1." << true;
+        QTest::newRow("down-to-zero-exactly") << "0.03" << 50 << "0." << false;
+        QTest::newRow("below-zero") << "0.01" << 50 << "0." << true;
+    }
+
+    void stepped()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, scroll);
+        const LayoutGeometry::Step step = LayoutGeometry::stepped(text, scroll, 1.0f);
+        QTEST(step.text, "result");
+        QTEST(step.clamped, "clamped");
+    }
+
     void completed_data()
     {
         columns<QString, QString>("text", "result");
