@@ -312,7 +312,7 @@ private Q_SLOTS:
 
     void outputTextFollowsTheCurrentPosition()
     {
-        int afterHello = 0;
+        int afterHello = 0, nextY = 0;
         double helloWidth = 0, worldWidth = 0;
         const QString file = print(QStringLiteral("output-text"), [&](PageEngine &e) {
             e.outputText(QStringLiteral("Ignored")); // no document yet
@@ -323,7 +323,8 @@ private Q_SLOTS:
             worldWidth = e.TextWidth(QStringLiteral("world"));
             e.outputText(QStringLiteral("Hello "));
             afterHello = e.currentX();
-            e.outputText(QStringLiteral("world\rNext"));
+            e.outputText(QStringLiteral("world\rNext\r")); // a return ends its line only
+            nextY = e.currentY();
             e.setAction(SurfaceAction::EndDoc);
         });
         const auto lines = pdfprobe::lines(file);
@@ -339,6 +340,7 @@ private Q_SLOTS:
         QCOMPARE(lines[1].text, QStringLiteral("Next"));
         QVERIFY(qAbs(lines[1].left) < quarterPoint &&
                 qAbs(lines[1].top - (144.0 + arialLine10 / 20.0)) < quarterPoint);
+        QCOMPARE(nextY, 2880 + arialLine10);
     }
 
     void headerAndFooter_data()
