@@ -449,8 +449,8 @@ private Q_SLOTS:
       <Template brand="Acme" part="RL1" size="roll" width="4in" height="2in" _description="Roll">
         <Label-rectangle id="0" width="3.5in" height="1.5in"><Layout nx="1" ny="1" x0="0.25in" y0="0.25in"/></Label-rectangle>
       </Template>
-      <Template brand="Acme" part="T1" size="US-Letter" _description="A thousand across">
-        <Label-rectangle id="0" width="0.005in" height="1in"><Layout nx="1000" ny="1" x0="0" y0="0" dx="0.008in"/></Label-rectangle>
+      <Template brand="Acme" part="T1" size="US-Letter" _description="A thousand each way">
+        <Label-rectangle id="0" width="0.005in" height="0.005in"><Layout nx="1000" ny="1000" x0="0" y0="0" dx="0.008in" dy="0.01in"/></Label-rectangle>
       </Template>
       <Template brand="Other" part="X" equiv="R1"/>
       <Template brand="5160" part="- Address Labels" size="A4" _description="Not ours">
@@ -500,10 +500,11 @@ private Q_SLOTS:
                  QStringLiteral("Custom (8.5 x 11 in.)"));
         // One column: a piece's own width is its step.
         QCOMPARE(entry("Acme E1"), "2 in 3 x 2 in. 3 2 8.5 11 1 0.5 3 2 1 5 Acme E1");
-        // A roll in whole eighths of an inch is an inch sheet; a thousand across still fit.
+        // A roll in whole eighths of an inch is an inch sheet; a thousand each way still fit.
         QCOMPARE(entry("Acme RL1"),
                  "0 in 3.5 x 1.5 in. 3.5 1.5 4 2 0.25 0.25 3.5 1.5 1 1 Acme RL1");
-        QCOMPARE(entry("Acme T1"), "0 in 0.005 x 1 in. 0.005 1 8.5 11 0 0 0.008 1 1000 1 Acme T1");
+        QCOMPARE(entry("Acme T1"),
+                 "0 in 0.005 x 0.005 in. 0.005 0.005 8.5 11 0 0 0.008 0.01 1000 1000 Acme T1");
         QCOMPARE(catalogue->search(QStringLiteral("acme oval")), QStringList{"Acme E1"});
         QCOMPARE(catalogue->search(QString(), QStringLiteral("other")), QStringList());
     }
