@@ -12,7 +12,6 @@
 #include "settings/settings.h"
 
 #include <QBuffer>
-#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>

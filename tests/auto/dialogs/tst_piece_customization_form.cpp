@@ -12,12 +12,9 @@
 #include "modaldriver.h"
 #include <optional>
 
-#include <QCheckBox>
 #include <QComboBox>
-#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
 

@@ -21,8 +21,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextEdit>
@@ -60,6 +58,15 @@ template <typename T> T *member(const QObject *parent, const QString &name, int 
     return nullptr;
 }
 
+// Presses at from (pixels on the piece), moves in steps of by, releases.
+void drag(QWidget *frame, QPoint from, QPoint by, int steps)
+{
+    QTest::mousePress(frame, Qt::LeftButton, {}, from);
+    for (int i = 1; i <= steps; ++i)
+        QTest::mouseMove(frame, from + by * i);
+    QTest::mouseRelease(frame, Qt::LeftButton, {}, from + by * steps);
+}
+
 // The form shown on a piece, with its children by their published names.
 struct Editor
 {
@@ -95,14 +102,6 @@ struct Editor
     void click(int i, Qt::MouseButton button = Qt::LeftButton)
     {
         QTest::mouseClick(frame, button, {}, item(i)->geometry().topLeft() + QPoint(5, 5));
-    }
-    // Presses at from (pixels on the piece), moves in steps of by, releases.
-    void drag(QPoint from, QPoint by, int steps)
-    {
-        QTest::mousePress(frame, Qt::LeftButton, {}, from);
-        for (int i = 1; i <= steps; ++i)
-            QTest::mouseMove(frame, from + by * i);
-        QTest::mouseRelease(frame, Qt::LeftButton, {}, from + by * steps);
     }
     // As the keyboard chooses: the menu opens (doing what opening it does),
     // the entry is made current and Return takes it.
@@ -194,9 +193,9 @@ private Q_SLOTS:
         if (handle) {
             QCOMPARE(e.dot(handle)->size(), QSize(6, 6));
             QCOMPARE(int(e.dot(handle)->cursor().shape()), cursor);
-            e.drag(e.dot(handle)->pos(), step, steps);
+            drag(e.frame, e.dot(handle)->pos(), step, steps);
         } else {
-            e.drag(QPoint(218, 94), step, steps);
+            drag(e.frame, QPoint(218, 94), step, steps);
         }
         QCOMPARE(e.form.itemBox(1), box);
         QCOMPARE(e.item(1)->geometry(), QRect(pixels(box.topLeft()), (box.size() / 15).toSize()));
@@ -529,7 +528,7 @@ private Q_SLOTS:
         e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_clear_mnu"));
         QCOMPARE(e.item(2)->text(), QString());
         QCOMPARE(e.result()[1].Text, QString());
-        e.drag(QPoint(218, 94), QPoint(-5, 3), 4);
+        drag(e.frame, QPoint(218, 94), QPoint(-5, 3), 4);
         QCOMPARE(e.form.itemBox(1).topLeft(), QPointF(2820, 1440));
 
         e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_default_mnu"));
@@ -607,9 +606,7 @@ private Q_SLOTS:
             if (dragFirst) {
                 const QPoint from =
                     member<QLabel>(form, QStringLiteral("item"), 1)->pos() + QPoint(4, 4);
-                QTest::mousePress(frame, Qt::LeftButton, {}, from);
-                QTest::mouseMove(frame, from + QPoint(-30, 10));
-                QTest::mouseRelease(frame, Qt::LeftButton, {}, from + QPoint(-30, 10));
+                drag(frame, from, QPoint(-30, 10), 1);
             }
             dropped = form->itemBox(1).topLeft();
             ModalDriver::close(dialog, closeWith);

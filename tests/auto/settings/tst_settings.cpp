@@ -507,8 +507,6 @@ private Q_SLOTS:
         columns<int, QString, QString>("item", "before", "after");
         QTest::newRow("blank-address-gets-default") << int(ItemId::Address) << "   "
                                                     << "Delivery Address";
-        QTest::newRow("user-text-kept") << int(ItemId::Address) << "ATTN"
-                                        << "ATTN";
         QTest::newRow("padded-text-kept-as-is") << int(ItemId::Return) << " Me "
                                                 << " Me ";
         QTest::newRow("stamp-three-blanks-round-paid")
