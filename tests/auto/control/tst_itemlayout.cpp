@@ -44,13 +44,6 @@ QString text(const ItemLayout &page, const char *label)
 
 } // namespace
 
-struct ItemRow
-{
-    QString label, item, shownName;
-    float top;
-    QString shownTop;
-};
-
 class TestItemLayout : public QObject
 {
     Q_OBJECT
@@ -95,10 +88,11 @@ private Q_SLOTS:
 
     void itemInformation_data()
     {
-        columns<ItemRow>("row");
+        columns<QString, QString, QString, float, QString>("label", "item", "shownName", "top",
+                                                           "shownTop");
         const auto row = [](const char *tag, const QString &label, const QString &item,
                             const QString &shownName, float top, const QString &shownTop) {
-            QTest::newRow(tag) << ItemRow{label, item, shownName, top, shownTop};
+            QTest::newRow(tag) << label << item << shownName << top << shownTop;
         };
         row("thousandths-rounded", "lblAdd", "Address", "Address", 1.23456f, "1.235");
         row("half-down-to-even", "lblRet", "Return", "Return", 1.0625f, "1.062");
@@ -110,19 +104,22 @@ private Q_SLOTS:
 
     void itemInformation()
     {
-        QFETCH(ItemRow, row);
+        QFETCH(QString, label);
+        QFETCH(QString, item);
+        QFETCH(float, top);
+        QFETCH(QString, shownTop);
         Quirra control;
-        control.setProperty(qPrintable(row.item + "Top"), row.top);
-        control.setProperty(qPrintable(row.item + "Left"), 0.5f);
-        control.setProperty(qPrintable(row.item + "Height"), 0.75f);
-        control.setProperty(qPrintable(row.item + "Width"), 1.125f);
+        control.setProperty(qPrintable(item + "Top"), top);
+        control.setProperty(qPrintable(item + "Left"), 0.5f);
+        control.setProperty(qPrintable(item + "Height"), 0.75f);
+        control.setProperty(qPrintable(item + "Width"), 1.125f);
         ItemLayout page;
         page.setSelectedControls({&control});
         page.show();
-        QTest::mouseClick(page.findChild<QLabel *>(row.label), Qt::LeftButton);
+        QTest::mouseClick(page.findChild<QLabel *>(label), Qt::LeftButton);
 
-        QCOMPARE(text(page, "lblItem"), row.shownName);
-        QCOMPARE(text(page, "lblItop"), "Top = " + row.shownTop);
+        QTEST(text(page, "lblItem"), "shownName");
+        QCOMPARE(text(page, "lblItop"), "Top = " + shownTop);
         QCOMPARE(text(page, "lblIleft"), QStringLiteral("Left = 0.5"));
         QCOMPARE(text(page, "lblIheight"), QStringLiteral("Height = 0.75"));
         QCOMPARE(text(page, "lblIwidth"), QStringLiteral("Width = 1.125"));

@@ -15,8 +15,6 @@
 #include "publishedproperties.h"
 #include "records/sharedspool.h"
 
-#include <QApplication>
-#include <QJsonArray>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>

@@ -54,31 +54,6 @@ void click(const PreviewPane &pane, const QString &name)
 }
 } // namespace
 
-struct PagingRow
-{
-    int records;
-    QStringList clicks;
-    QString label;
-    QStringList enabled;
-    QString focus; // empty: neither mc_prev nor mc_next
-};
-
-struct ZoomRow
-{
-    int start;
-    QList<int> input; // wheel turns in eighths of a degree; keys: ±1 each
-    bool wheel;
-    int zoom;
-};
-
-struct FitRow
-{
-    QString piece;
-    QSize paneSize;
-    bool width; // fit the width, else the whole page
-    bool down;  // the fitted page scrolls down
-};
-
 Q_DECLARE_METATYPE(quirra::PaneSettings)
 
 namespace {
@@ -114,47 +89,51 @@ private Q_SLOTS:
 
     void paging_data()
     {
-        columns<PagingRow>("row");
+        // focus: empty: neither mc_prev nor mc_next
+        columns<int, QStringList, QString, QStringList, QString>("records", "clicks", "label",
+                                                                 "enabled", "focus");
 
         const QStringList back = {"mc_first", "mc_prev"}, ahead = {"mc_next", "mc_last"};
-        QTest::newRow("first-display")
-            << PagingRow{7, QStringList(), "Page 1 of 3", ahead, "mc_next"};
-        QTest::newRow("last") << PagingRow{7, QStringList{"mc_last"}, "Page 3 of 3", back,
-                                           "mc_prev"};
-        QTest::newRow("back-keeps-focus-on-previous") << PagingRow{
-            7, QStringList{"mc_last", "mc_prev"}, "Page 2 of 3", PagingButtons, "mc_prev"};
+        QTest::newRow("first-display") << 7 << QStringList() << "Page 1 of 3" << ahead << "mc_next";
+        QTest::newRow("last") << 7 << QStringList{"mc_last"} << "Page 3 of 3" << back << "mc_prev";
+        QTest::newRow("back-keeps-focus-on-previous")
+            << 7 << QStringList{"mc_last", "mc_prev"} << "Page 2 of 3" << PagingButtons
+            << "mc_prev";
         QTest::newRow("back-to-first-focus-moves-on")
-            << PagingRow{7, QStringList{"mc_next", "mc_prev"}, "Page 1 of 3", ahead, "mc_next"};
+            << 7 << QStringList{"mc_next", "mc_prev"} << "Page 1 of 3" << ahead << "mc_next";
         QTest::newRow("first-from-last")
-            << PagingRow{7, QStringList{"mc_last", "mc_first"}, "Page 1 of 3", ahead, "mc_next"};
+            << 7 << QStringList{"mc_last", "mc_first"} << "Page 1 of 3" << ahead << "mc_next";
         QTest::newRow("print-all-moves-focus-on")
-            << PagingRow{7, QStringList{"mc_last", "mc_prev", "mc_p_all"}, "Page 2 of 3",
-                         PagingButtons, "mc_next"};
-        QTest::newRow("one-page") << PagingRow{2, QStringList(), "Page 1 of 1", QStringList(), ""};
+            << 7 << QStringList{"mc_last", "mc_prev", "mc_p_all"} << "Page 2 of 3" << PagingButtons
+            << "mc_next";
+        QTest::newRow("one-page") << 2 << QStringList() << "Page 1 of 1" << QStringList() << "";
     }
 
     void paging()
     {
-        QFETCH(PagingRow, row);
+        QFETCH(int, records);
+        QFETCH(QStringList, clicks);
+        QFETCH(QString, label);
+        QFETCH(QStringList, enabled);
+        QFETCH(QString, focus);
         PreviewPane pane;
         QVERIFY(showActive(&pane));
         QSignalSpy printAll(&pane, &PreviewPane::printAllRequested);
-        preview(pane, row.records);
-        for (const QString &name : row.clicks)
+        preview(pane, records);
+        for (const QString &name : clicks)
             click(pane, name);
 
-        QCOMPARE(pane.findChild<QLabel *>("mc_pg_lbl")->text(), row.label);
-        QCOMPARE(QStringLiteral("Page %1 of").arg(pane.surface()->previewPage()),
-                 row.label.left(9));
+        QCOMPARE(pane.findChild<QLabel *>("mc_pg_lbl")->text(), label);
+        QCOMPARE(QStringLiteral("Page %1 of").arg(pane.surface()->previewPage()), label.left(9));
         for (const QString &name : PagingButtons)
-            QCOMPARE(pane.findChild<QToolButton *>(name)->isEnabled(), row.enabled.contains(name));
+            QCOMPARE(pane.findChild<QToolButton *>(name)->isEnabled(), enabled.contains(name));
         const QString focused =
             QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
-        if (row.focus.isEmpty())
+        if (focus.isEmpty())
             QVERIFY2(focused != "mc_prev" && focused != "mc_next", qPrintable(focused));
         else
-            QCOMPARE(focused, row.focus);
-        QCOMPARE(printAll.count(), int(row.clicks.count("mc_p_all")));
+            QCOMPARE(focused, focus);
+        QCOMPARE(printAll.count(), int(clicks.count("mc_p_all")));
     }
 
     void pageShownFromItsRecords_data()
@@ -240,34 +219,37 @@ private Q_SLOTS:
 
     void zoom_data()
     {
-        columns<ZoomRow>("row");
+        // input: wheel turns in eighths of a degree; keys: ±1 each
+        columns<int, QList<int>, bool, int>("start", "input", "wheel", "zoom");
 
         const int step = PreviewPane::ZoomStep;
-        QTest::newRow("wheel-down-two-notches")
-            << ZoomRow{30, QList<int>{-240}, true, 30 - 2 * step};
+        QTest::newRow("wheel-down-two-notches") << 30 << QList<int>{-240} << true << 30 - 2 * step;
         QTest::newRow("touchpad-turns-add-up")
-            << ZoomRow{30, QList<int>{90, 90, 60}, true, 30 + 2 * step};
-        QTest::newRow("wheel-down-stops-at-10") << ZoomRow{15, QList<int>{-120, -120}, true, 10};
-        QTest::newRow("wheel-up-keeps-the-spot") << ZoomRow{200, QList<int>{120}, true, 200 + step};
+            << 30 << QList<int>{90, 90, 60} << true << 30 + 2 * step;
+        QTest::newRow("wheel-down-stops-at-10") << 15 << QList<int>{-120, -120} << true << 10;
+        QTest::newRow("wheel-up-keeps-the-spot") << 200 << QList<int>{120} << true << 200 + step;
         QTest::newRow("ctrl-plus-and-equal")
-            << ZoomRow{30, QList<int>{Qt::Key_Plus, Qt::Key_Equal}, false, 30 + 2 * step};
-        QTest::newRow("ctrl-minus") << ZoomRow{30, QList<int>{Qt::Key_Minus}, false, 30 - step};
+            << 30 << QList<int>{Qt::Key_Plus, Qt::Key_Equal} << false << 30 + 2 * step;
+        QTest::newRow("ctrl-minus") << 30 << QList<int>{Qt::Key_Minus} << false << 30 - step;
         QTest::newRow("ctrl-plus-stops-at-1000")
-            << ZoomRow{995, QList<int>{Qt::Key_Plus, Qt::Key_Plus}, false, 1000};
+            << 995 << QList<int>{Qt::Key_Plus, Qt::Key_Plus} << false << 1000;
     }
 
     void zoom()
     {
-        QFETCH(ZoomRow, row);
+        QFETCH(int, start);
+        QFETCH(QList<int>, input);
+        QFETCH(bool, wheel);
+        QFETCH(int, zoom);
         PreviewPane pane;
         QVERIFY(showActive(&pane));
         preview(pane, 7);
         PrintSurface *surface = pane.surface();
-        surface->setZoom(row.start);
+        surface->setZoom(start);
         // Over the page, two thirds of the way across and down the view.
         const QPoint pointer(surface->viewport()->width() * 2 / 3,
                              surface->viewport()->height() * 2 / 3);
-        const QPointF spot = QPointF(pointer - surface->pageRect().topLeft()) / row.start;
+        const QPointF spot = QPointF(pointer - surface->pageRect().topLeft()) / start;
         QSignalSpy zoomed(&pane, &PreviewPane::zoomChanged);
         const auto turnWheel = [&](int angle, Qt::KeyboardModifiers modifiers) {
             QWheelEvent event(pointer, surface->viewport()->mapToGlobal(pointer), QPoint(),
@@ -275,48 +257,52 @@ private Q_SLOTS:
             QApplication::sendEvent(surface->viewport(), &event);
         };
 
-        for (const int turn : row.input) {
-            if (row.wheel)
+        for (const int turn : input) {
+            if (wheel)
                 turnWheel(turn, Qt::ControlModifier);
             else // to the button with the focus, as a person's keys go
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key(turn), Qt::ControlModifier);
         }
-        QCOMPARE(surface->zoom(), row.zoom);
-        QCOMPARE(zoomed.isEmpty() ? 0 : zoomed.last().at(0).toInt(), row.zoom);
-        if (row.start >=
-            200) { // the page scrolls: the spot under the pointer stays, within a pixel
+        QCOMPARE(surface->zoom(), zoom);
+        QCOMPARE(zoomed.isEmpty() ? 0 : zoomed.last().at(0).toInt(), zoom);
+        if (start >= 200) { // the page scrolls: the spot under the pointer stays, within a pixel
             const QPointF moved =
-                (QPointF(pointer - surface->pageRect().topLeft()) / row.zoom - spot) * row.zoom;
+                (QPointF(pointer - surface->pageRect().topLeft()) / zoom - spot) * zoom;
             QVERIFY2(moved.manhattanLength() <= 2,
                      qPrintable(QString("%1 %2").arg(moved.x()).arg(moved.y())));
         }
-        // Without Ctrl the row.wheel scrolls the page and leaves the row.zoom.
+        // Without Ctrl the wheel scrolls the page and leaves the zoom.
         turnWheel(-120, Qt::NoModifier);
-        QCOMPARE(surface->zoom(), row.zoom);
+        QCOMPARE(surface->zoom(), zoom);
     }
 
     void fit_data()
     {
-        columns<FitRow>("row");
+        // width: fit the width, else the whole page
+        // down: the fitted page scrolls down
+        columns<QString, QSize, bool, bool>("piece", "paneSize", "width", "down");
 
         const QString sheet = QStringLiteral("5160 - Address Labels");
         const QString envelope = QStringLiteral("Size 10 - Envelope");
-        QTest::newRow("sheet-page") << FitRow{sheet, QSize(600, 450), false, false};
-        QTest::newRow("sheet-width-scrolls-down") << FitRow{sheet, QSize(600, 450), true, true};
-        QTest::newRow("envelope-page-tall-pane") << FitRow{envelope, QSize(400, 700), false, false};
-        QTest::newRow("envelope-width") << FitRow{envelope, QSize(900, 500), true, false};
+        QTest::newRow("sheet-page") << sheet << QSize(600, 450) << false << false;
+        QTest::newRow("sheet-width-scrolls-down") << sheet << QSize(600, 450) << true << true;
+        QTest::newRow("envelope-page-tall-pane") << envelope << QSize(400, 700) << false << false;
+        QTest::newRow("envelope-width") << envelope << QSize(900, 500) << true << false;
     }
 
     void fit()
     {
-        QFETCH(FitRow, row);
+        QFETCH(QString, piece);
+        QFETCH(QSize, paneSize);
+        QFETCH(bool, width);
+        QFETCH(bool, down);
         PreviewPane pane;
-        pane.resize(row.paneSize);
+        pane.resize(paneSize);
         QVERIFY(showActive(&pane));
-        preview(pane, 1, row.piece);
+        preview(pane, 1, piece);
         PrintSurface *surface = pane.surface();
-        const int fitted = PreviewPane::fittingZoom(*surface, row.width ? PreviewPane::Fit::Width
-                                                                        : PreviewPane::Fit::Page);
+        const int fitted = PreviewPane::fittingZoom(*surface, width ? PreviewPane::Fit::Width
+                                                                    : PreviewPane::Fit::Page);
         // The scroll bars come and go after the zoom, as events.
         const auto scrollsAt = [surface](int zoom) {
             surface->setZoom(zoom);
@@ -327,9 +313,9 @@ private Q_SLOTS:
         };
 
         // Fitted, nothing scrolls across; a percent more and the page does not fit.
-        QCOMPARE(scrollsAt(fitted), qMakePair(false, row.down));
+        QCOMPARE(scrollsAt(fitted), qMakePair(false, down));
         const auto larger = scrollsAt(fitted + 1);
-        QVERIFY(larger.first || (!row.width && larger.second));
+        QVERIFY(larger.first || (!width && larger.second));
     }
 
     void arithmetic_data()

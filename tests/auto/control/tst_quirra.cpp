@@ -10,7 +10,6 @@
 #include "hostrecorder.h"
 #include "model/error.h"
 #include "model/piecemodel.h"
-#include "pane/previewpane.h"
 #include "pdfprobe.h"
 #include "printing/printsurface.h"
 #include "publishedproperties.h"

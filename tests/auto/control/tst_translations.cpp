@@ -6,7 +6,6 @@
 #include "dialogs/piece_select_form.h"
 #include "pane/previewpane.h"
 
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QTest>

@@ -21,8 +21,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextEdit>
@@ -58,6 +56,15 @@ template <typename T> T *member(const QObject *parent, const QString &name, int 
             return candidate;
     }
     return nullptr;
+}
+
+// Presses at from (pixels on the piece), moves in steps of by, releases.
+void drag(QWidget *frame, QPoint from, QPoint by, int steps)
+{
+    QTest::mousePress(frame, Qt::LeftButton, {}, from);
+    for (int i = 1; i <= steps; ++i)
+        QTest::mouseMove(frame, from + by * i);
+    QTest::mouseRelease(frame, Qt::LeftButton, {}, from + by * steps);
 }
 
 // The form shown on a piece, with its children by their published names.
@@ -96,14 +103,6 @@ struct Editor
     {
         QTest::mouseClick(frame, button, {}, item(i)->geometry().topLeft() + QPoint(5, 5));
     }
-    // Presses at from (pixels on the piece), moves in steps of by, releases.
-    void drag(QPoint from, QPoint by, int steps)
-    {
-        QTest::mousePress(frame, Qt::LeftButton, {}, from);
-        for (int i = 1; i <= steps; ++i)
-            QTest::mouseMove(frame, from + by * i);
-        QTest::mouseRelease(frame, Qt::LeftButton, {}, from + by * steps);
-    }
     // As the keyboard chooses: the menu opens (doing what opening it does),
     // the entry is made current and Return takes it.
     void choose(const QString &menuName, const QString &actionName, int index = -1)
@@ -126,60 +125,6 @@ struct Editor
 
 } // namespace
 
-struct MouseRow
-{
-    int handle;  // 0: the address itself
-    QPoint step; // pixels
-    int steps;
-    QRectF box;
-    QString refreshed; // fields by initial: Top, Left, Height, Width
-    int cursor;
-};
-
-struct FieldRow
-{
-    int field; // top, left, height, width
-    QString keys, text;
-    int beeps;
-    int value; // display twips, rounded
-};
-
-struct ModifyRow
-{
-    int item;
-    QString justify; // chosen first, if any
-    bool doubleClick;
-    int editor;
-};
-
-struct FormatRow
-{
-    int item;
-    int align;       // the item's own
-    qint16 border;   // the item's own
-    QString command; // a justify entry's index, "B" borders, or a right click
-    int alignment;   // the label's, horizontally
-    int horzAlign;   // written back
-    qint16 written;  // border written back
-    QString checked; // the menu's checks when opened again
-};
-
-struct FontRow
-{
-    float scale;
-    bool chosen; // false: the font dialog was cancelled
-    QString tag;
-    double shownSize;
-};
-
-struct DisplayRow
-{
-    QList<int> toggles; // Display menu entries, in turn
-    QString visible;    // items 1..5
-    int current;
-    QSize size; // of the current item
-};
-
 class TestPieceLayoutEditForm : public QObject
 {
     Q_OBJECT
@@ -194,36 +139,43 @@ private Q_SLOTS:
 
     void mouseLayout_data()
     {
-        columns<MouseRow>("row");
+        // handle: 0: the address itself
+        // step: pixels
+        // refreshed: fields by initial: Top, Left, Height, Width
+        columns<int, QPoint, int, QRectF, QString, int>("handle", "step", "steps", "box",
+                                                        "refreshed", "cursor");
 
         const int fdiag = Qt::SizeFDiagCursor;
         const int bdiag = Qt::SizeBDiagCursor;
         const int ver = Qt::SizeVerCursor;
         const int hor = Qt::SizeHorCursor;
         QTest::newRow("drag-follows-the-mouse")
-            << MouseRow{0, QPoint(3, -2), 10, QRectF(3570, 960, 2160, 1080), "TLHW", 0};
-        QTest::newRow("drag-past-top-left-keeps-50")
-            << MouseRow{0, QPoint(-21, -9), 10, QRectF(50, 50, 2160, 1080), "TLHW", 0};
+            << 0 << QPoint(3, -2) << 10 << QRectF(3570, 960, 2160, 1080) << "TLHW" << 0;
         // Pressed at a handle's corner: the corner follows the mouse.
         QTest::newRow("top-left-moves-both-edges")
-            << MouseRow{1, QPoint(-4, -2), 5, QRectF(2820, 1110, 2460, 1230), "TLHW", fdiag};
+            << 1 << QPoint(-4, -2) << 5 << QRectF(2820, 1110, 2460, 1230) << "TLHW" << fdiag;
         QTest::newRow("top-right")
-            << MouseRow{3, QPoint(6, -2), 2, QRectF(3120, 1200, 2340, 1140), "THW", bdiag};
+            << 3 << QPoint(6, -2) << 2 << QRectF(3120, 1200, 2340, 1140) << "THW" << bdiag;
         QTest::newRow("bottom-right-grows-both")
-            << MouseRow{8, QPoint(5, 3), 4, QRectF(3120, 1260, 2460, 1260), "HW", fdiag};
+            << 8 << QPoint(5, 3) << 4 << QRectF(3120, 1260, 2460, 1260) << "HW" << fdiag;
         QTest::newRow("bottom-centre-height-only")
-            << MouseRow{7, QPoint(7, 4), 3, QRectF(3120, 1260, 2160, 1260), "H", ver};
+            << 7 << QPoint(7, 4) << 3 << QRectF(3120, 1260, 2160, 1260) << "H" << ver;
         // Where the edges stop while the mouse goes on: the width stays above 50,
         // the top at 50 or more.
         QTest::newRow("left-stops-above-50-wide")
-            << MouseRow{4, QPoint(10, 0), 20, QRectF(5220, 1260, 60, 1080), "LW", hor};
+            << 4 << QPoint(10, 0) << 20 << QRectF(5220, 1260, 60, 1080) << "LW" << hor;
         QTest::newRow("top-stops-at-keep-out")
-            << MouseRow{2, QPoint(0, -5), 20, QRectF(3120, 60, 2160, 2280), "TH", ver};
+            << 2 << QPoint(0, -5) << 20 << QRectF(3120, 60, 2160, 2280) << "TH" << ver;
     }
 
     void mouseLayout()
     {
-        QFETCH(MouseRow, row);
+        QFETCH(int, handle);
+        QFETCH(QPoint, step);
+        QFETCH(int, steps);
+        QFETCH(QRectF, box);
+        QFETCH(QString, refreshed);
+        QFETCH(int, cursor);
 
         Editor e;
         // A control array is found by its name: every member carries it.
@@ -238,21 +190,20 @@ private Q_SLOTS:
         // Texts that are no number move nothing; a refresh replaces them.
         for (int f = 0; f < 4; ++f)
             e.field(f)->setText(QStringLiteral("."));
-        if (row.handle) {
-            QCOMPARE(e.dot(row.handle)->size(), QSize(6, 6));
-            QCOMPARE(int(e.dot(row.handle)->cursor().shape()), row.cursor);
-            e.drag(e.dot(row.handle)->pos(), row.step, row.steps);
+        if (handle) {
+            QCOMPARE(e.dot(handle)->size(), QSize(6, 6));
+            QCOMPARE(int(e.dot(handle)->cursor().shape()), cursor);
+            drag(e.frame, e.dot(handle)->pos(), step, steps);
         } else {
-            e.drag(QPoint(218, 94), row.step, row.steps);
+            drag(e.frame, QPoint(218, 94), step, steps);
         }
-        QCOMPARE(e.form.itemBox(1), row.box);
-        QCOMPARE(e.item(1)->geometry(),
-                 QRect(pixels(row.box.topLeft()), (row.box.size() / 15).toSize()));
+        QCOMPARE(e.form.itemBox(1), box);
+        QCOMPARE(e.item(1)->geometry(), QRect(pixels(box.topLeft()), (box.size() / 15).toSize()));
         QCOMPARE(e.form.currentItem(), 1);
         QVERIFY(e.dot(8)->isVisible());
-        QCOMPARE(e.dot(8)->pos(), pixels(row.box.bottomRight() - QPointF(45, 45)));
+        QCOMPARE(e.dot(8)->pos(), pixels(box.bottomRight() - QPointF(45, 45)));
         for (int f = 0; f < 4; ++f) {
-            const bool wanted = row.refreshed.contains(QStringLiteral("TLHW")[f]);
+            const bool wanted = refreshed.contains(QStringLiteral("TLHW")[f]);
             QCOMPARE(e.field(f)->text(), wanted ? DisplayTwipsToText(e.values(1)[size_t(f)], 0.5f)
                                                 : QStringLiteral("."));
         }
@@ -260,14 +211,16 @@ private Q_SLOTS:
 
     void fields_data()
     {
-        columns<FieldRow>("row");
+        // field: top, left, height, width
+        // value: display twips, rounded
+        columns<int, QString, QString, int, int>("field", "keys", "text", "beeps", "value");
         // Typed after the field's text was selected; "+" and "-" are the Up and
         // Down keys, "^" and "v" clicks on the stepper's arrows.
 
         const auto row = [](const char *tag, int field, const char *keys, const char *text,
                             int beeps, int value) {
-            QTest::newRow(tag) << FieldRow{field, QString::fromLatin1(keys),
-                                           QString::fromLatin1(text), beeps, value};
+            QTest::newRow(tag) << field << QString::fromLatin1(keys) << QString::fromLatin1(text)
+                               << beeps << value;
         };
         row("above-room-becomes-bound", 1, "9", "6.5", 0, 4680);
         row("bound-as-the-field-shows-it", 0, "3", "2.63", 0, 1894);
@@ -282,18 +235,22 @@ private Q_SLOTS:
 
     void fields()
     {
-        QFETCH(FieldRow, row);
+        QFETCH(int, field);
+        QFETCH(QString, keys);
+        QFETCH(QString, text);
+        QFETCH(int, beeps);
+        QFETCH(int, value);
 
         Editor e;
         // Top and Left side by side, Height and Width under them.
         const auto at = [&](int f) { return e.field(f)->mapTo(&e.form, QPoint()); };
         QVERIFY(at(0).y() == at(1).y() && at(0).x() < at(1).x() && at(2).y() > at(0).y());
         QVERIFY(at(2).x() == at(0).x() && at(3).x() == at(1).x() && at(3).y() == at(2).y());
-        QLineEdit *edit = e.field(row.field);
-        auto *stepper = e.child<QScrollBar>(FieldNames[row.field] + QLatin1String("_scr"));
+        QLineEdit *edit = e.field(field);
+        auto *stepper = e.child<QScrollBar>(FieldNames[field] + QLatin1String("_scr"));
         QTest::mouseClick(edit, Qt::LeftButton);
         QTRY_COMPARE(edit->selectedText(), edit->text());
-        for (QChar c : row.keys) {
+        for (QChar c : keys) {
             if (c == u'+' || c == u'-')
                 QTest::keyClick(edit, c == u'+' ? Qt::Key_Up : Qt::Key_Down);
             else if (c == u'^' || c == u'v')
@@ -304,38 +261,42 @@ private Q_SLOTS:
                 QTest::keyClicks(edit, QString(c));
             QCOMPARE(stepper->value(), 0);
         }
-        QCOMPARE(edit->text(), row.text);
-        QCOMPARE(m_host->beeps, row.beeps);
-        QCOMPARE(qRound(e.values(1)[size_t(row.field)]), row.value);
+        QCOMPARE(edit->text(), text);
+        QCOMPARE(m_host->beeps, beeps);
+        QCOMPARE(qRound(e.values(1)[size_t(field)]), value);
         QCOMPARE(e.dot(1)->pos(), pixels(e.form.itemBox(1).topLeft() - QPointF(45, 45)));
     }
 
     void modifyInPlace_data()
     {
-        columns<ModifyRow>("row");
+        // justify: chosen first, if any
+        columns<int, QString, bool, int>("item", "justify", "doubleClick", "editor");
 
-        QTest::newRow("left-item-by-menu") << ModifyRow{1, "", false, 0};
-        QTest::newRow("centred-item-by-double-click") << ModifyRow{2, "", true, 2};
-        QTest::newRow("right-justified-item") << ModifyRow{1, "2", false, 1};
+        QTest::newRow("left-item-by-menu") << 1 << "" << false << 0;
+        QTest::newRow("centred-item-by-double-click") << 2 << "" << true << 2;
+        QTest::newRow("right-justified-item") << 1 << "2" << false << 1;
     }
 
     void modifyInPlace()
     {
-        QFETCH(ModifyRow, row);
+        QFETCH(int, item);
+        QFETCH(QString, justify);
+        QFETCH(bool, doubleClick);
+        QFETCH(int, editor);
 
         Editor e;
-        QLabel *label = e.item(row.item);
-        e.click(row.item);
-        if (!row.justify.isEmpty())
+        QLabel *label = e.item(item);
+        e.click(item);
+        if (!justify.isEmpty())
             e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_justify_mnu"),
-                     row.justify.toInt());
-        if (row.doubleClick)
+                     justify.toInt());
+        if (doubleClick)
             QTest::mouseDClick(e.frame, Qt::LeftButton, {},
                                label->geometry().topLeft() + QPoint(5, 5));
         else
             e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_modify_mnu"));
 
-        auto *box = member<QTextEdit>(&e.form, QStringLiteral("edit_txt"), row.editor);
+        auto *box = member<QTextEdit>(&e.form, QStringLiteral("edit_txt"), editor);
         QTRY_VERIFY(box->hasFocus());
         QCOMPARE(box->geometry(), label->geometry());
         QCOMPARE(box->font(), label->font());
@@ -347,10 +308,10 @@ private Q_SLOTS:
         QTest::keyClick(box, Qt::Key_Return);
         QTest::keyClicks(box, QStringLiteral("Main St"));
         QCOMPARE(label->text(), QStringLiteral("ACME\nMain St"));
-        // Leaving the box hides it; the row.item breaks lines as the print run reads them.
+        // Leaving the box hides it; the item breaks lines as the print run reads them.
         e.field(0)->setFocus();
         QTRY_VERIFY(!box->isVisible());
-        QCOMPARE(e.result()[size_t(row.item - 1)].Text, QStringLiteral("ACME\r\nMain St"));
+        QCOMPARE(e.result()[size_t(item - 1)].Text, QStringLiteral("ACME\r\nMain St"));
     }
 
     void zOrder_data()
@@ -388,55 +349,71 @@ private Q_SLOTS:
 
     void formatMenu_data()
     {
-        columns<FormatRow>("row");
+        // align: the item's own
+        // border: the item's own
+        // command: a justify entry's index, "B" borders, or a right click
+        // alignment: the label's, horizontally
+        // horzAlign: written back
+        // written: border written back
+        // checked: the menu's checks when opened again
+        columns<int, int, qint16, QString, int, int, qint16, QString>(
+            "item", "align", "border", "command", "alignment", "horzAlign", "written", "checked");
 
         const int left = Qt::AlignLeft;
         const qint16 none = 0;
-        QTest::newRow("second-entry-centres") << FormatRow{
-            1, int(haLeft), none, "1", int(Qt::AlignHCenter), int(haCenter), none, "1"};
-        QTest::newRow("third-entry-right")
-            << FormatRow{1, int(haLeft), none, "2", int(Qt::AlignRight), int(haRight), none, "2"};
-        QTest::newRow("full-changes-nothing-stays-checked") << FormatRow{
-            2, int(haCenter), none, "3", int(Qt::AlignHCenter), int(haCenter), none, "13"};
+        QTest::newRow("second-entry-centres")
+            << 1 << int(haLeft) << none << "1" << int(Qt::AlignHCenter) << int(haCenter) << none
+            << "1";
+        QTest::newRow("third-entry-right") << 1 << int(haLeft) << none << "2" << int(Qt::AlignRight)
+                                           << int(haRight) << none << "2";
+        QTest::newRow("full-changes-nothing-stays-checked")
+            << 2 << int(haCenter) << none << "3" << int(Qt::AlignHCenter) << int(haCenter) << none
+            << "13";
         // The label draws it from the left: the menu ticks Left Justify.
         QTest::newRow("fully-justified-item-ticks-left")
-            << FormatRow{1, int(haFull), none, "", int(Qt::AlignJustify), int(haFull), none, "0"};
+            << 1 << int(haFull) << none << "" << int(Qt::AlignJustify) << int(haFull) << none
+            << "0";
         QTest::newRow("borders-on")
-            << FormatRow{1, int(haLeft), none, "B", left, int(haLeft), qint16(1), "0B"};
+            << 1 << int(haLeft) << none << "B" << left << int(haLeft) << qint16(1) << "0B";
         QTest::newRow("untouched-border-kept")
-            << FormatRow{1, int(haLeft), qint16(2), "", left, int(haLeft), qint16(2), "0B"};
+            << 1 << int(haLeft) << qint16(2) << "" << left << int(haLeft) << qint16(2) << "0B";
         // A right click selects the item and opens the menu at the mouse.
         QTest::newRow("right-click")
-            << FormatRow{4, int(haLeft), none, "right-click", left, int(haLeft), none, "0"};
+            << 4 << int(haLeft) << none << "right-click" << left << int(haLeft) << none << "0";
     }
 
     void formatMenu()
     {
-        QFETCH(FormatRow, row);
+        QFETCH(int, item);
+        QFETCH(int, align);
+        QFETCH(qint16, border);
+        QFETCH(QString, command);
+        QFETCH(int, alignment);
+        QFETCH(qint16, written);
 
         std::array<Item, ItemCount> items = envelopeItems();
-        items[size_t(row.item - 1)].HorzAlign = eHorzAlign(row.align);
-        items[size_t(row.item - 1)].Border = row.border;
+        items[size_t(item - 1)].HorzAlign = eHorzAlign(align);
+        items[size_t(item - 1)].Border = border;
         Editor e(items);
-        const QRectF before = e.form.itemBox(row.item);
+        const QRectF before = e.form.itemBox(item);
         auto *format = e.child<QMenu>(QStringLiteral("format_mnu"));
-        if (row.command == QLatin1String("right-click")) {
-            const QPoint at = e.item(row.item)->geometry().center();
+        if (command == QLatin1String("right-click")) {
+            const QPoint at = e.item(item)->geometry().center();
             QTest::mousePress(e.frame, Qt::RightButton, {}, at);
             QTRY_VERIFY(format->isVisible());
             QCOMPARE(format->geometry().topLeft(), e.frame->mapToGlobal(at));
             QCOMPARE(e.child<QLabel>(QStringLiteral("item_lbl"))->text(),
                      QStringLiteral("Message 1"));
         } else {
-            e.click(row.item);
-            if (row.command == QLatin1String("B"))
+            e.click(item);
+            if (command == QLatin1String("B"))
                 e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_borders_mnu"));
-            else if (!row.command.isEmpty())
+            else if (!command.isEmpty())
                 e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_justify_mnu"),
-                         row.command.toInt());
+                         command.toInt());
             format->popup(QPoint(0, 0));
         }
-        QCOMPARE(e.form.currentItem(), row.item);
+        QCOMPARE(e.form.currentItem(), item);
         QVERIFY(e.dot(1)->isVisible());
         QString shown;
         for (int i = 0; i < 4; ++i) {
@@ -445,32 +422,35 @@ private Q_SLOTS:
         }
         if (e.child<QAction>(QStringLiteral("format_borders_mnu"))->isChecked())
             shown += u'B';
-        QCOMPARE(shown, row.checked);
+        QTEST(shown, "checked");
         QTest::keyClick(format, Qt::Key_Escape);
         QTRY_VERIFY(!format->isVisible());
-        if (row.command == QLatin1String("right-click"))
-            QTest::mouseRelease(e.frame, Qt::RightButton, {},
-                                e.item(row.item)->geometry().center());
+        if (command == QLatin1String("right-click"))
+            QTest::mouseRelease(e.frame, Qt::RightButton, {}, e.item(item)->geometry().center());
 
-        QCOMPARE(e.form.itemBox(row.item), before); // no click moves an row.item
-        QCOMPARE(int(e.item(row.item)->alignment() & Qt::AlignHorizontal_Mask), row.alignment);
-        QCOMPARE(e.item(row.item)->frameShape(), row.written ? QFrame::Box : QFrame::NoFrame);
-        const Item result = e.result()[size_t(row.item - 1)];
-        QCOMPARE(int(result.HorzAlign), row.horzAlign);
-        QCOMPARE(result.Border, row.written);
+        QCOMPARE(e.form.itemBox(item), before); // no click moves an item
+        QCOMPARE(int(e.item(item)->alignment() & Qt::AlignHorizontal_Mask), alignment);
+        QCOMPARE(e.item(item)->frameShape(), written ? QFrame::Box : QFrame::NoFrame);
+        const Item result = e.result()[size_t(item - 1)];
+        QTEST(int(result.HorzAlign), "horzAlign");
+        QCOMPARE(result.Border, written);
     }
 
     void fontKeepsTrueSize_data()
     {
-        columns<FontRow>("row");
+        // chosen: false: the font dialog was cancelled
+        columns<float, bool, QString, double>("scale", "chosen", "tag", "shownSize");
 
-        QTest::newRow("ten-points-at-0.74") << FontRow{0.74f, true, "10", 8.3999};
-        QTest::newRow("cancel-keeps-font") << FontRow{0.5f, false, "12", 6.9999};
+        QTest::newRow("ten-points-at-0.74") << 0.74f << true << "10" << 8.3999;
+        QTest::newRow("cancel-keeps-font") << 0.5f << false << "12" << 6.9999;
     }
 
     void fontKeepsTrueSize()
     {
-        QFETCH(FontRow, row);
+        QFETCH(float, scale);
+        QFETCH(bool, chosen);
+        QFETCH(QString, tag);
+        QFETCH(double, shownSize);
 
         std::array<Item, ItemCount> items = envelopeItems();
         items[1].Font.Size = 12;
@@ -481,56 +461,61 @@ private Q_SLOTS:
             font.setPointSizeF(10);
             font.setItalic(true);
             font.setStrikeOut(true);
-            return row.chosen;
+            return chosen;
         };
-        Editor e(items, row.scale);
+        Editor e(items, scale);
         e.click(2);
         e.choose(QStringLiteral("format_mnu"), QStringLiteral("format_font_mnu"));
         // The dialog is offered the true size, not the one on the screen.
         QCOMPARE(offered.pointSizeF(), 12.0);
-        QCOMPARE(e.item(2)->property("Tag").toString(), row.tag);
-        QVERIFY(qAbs(e.item(2)->font().pointSizeF() - row.shownSize) < 1e-4);
+        QCOMPARE(e.item(2)->property("Tag").toString(), tag);
+        QVERIFY(qAbs(e.item(2)->font().pointSizeF() - shownSize) < 1e-4);
         const ItemFont font = e.result()[1].Font;
-        QCOMPARE(font.Size, row.tag.toDouble());
-        QCOMPARE(font.Name, row.chosen ? QStringLiteral("DejaVu Serif") : QStringLiteral("Arial"));
-        QCOMPARE(font.Italic, row.chosen);
-        QCOMPARE(font.Strikethrough, row.chosen);
+        QCOMPARE(font.Size, tag.toDouble());
+        QCOMPARE(font.Name, chosen ? QStringLiteral("DejaVu Serif") : QStringLiteral("Arial"));
+        QCOMPARE(font.Italic, chosen);
+        QCOMPARE(font.Strikethrough, chosen);
     }
 
     void display_data()
     {
-        columns<DisplayRow>("row");
+        // toggles: Display menu entries, in turn
+        // visible: items 1..5
+        // size: of the current item
+        columns<QList<int>, QString, int, QSize>("toggles", "visible", "current", "size");
 
         QTest::newRow("hiding-selected-selects-first-visible")
-            << DisplayRow{QList<int>{1}, "01111", 2, QSize(1440, 792)};
+            << QList<int>{1} << "01111" << 2 << QSize(1440, 792);
         QTest::newRow("only-the-last-left-is-selected")
-            << DisplayRow{QList<int>{1, 2, 3, 4}, "00001", 5, QSize(1080, 360)};
+            << QList<int>{1, 2, 3, 4} << "00001" << 5 << QSize(1080, 360);
         QTest::newRow("hiding-all-selects-none")
-            << DisplayRow{QList<int>{1, 2, 3, 4, 5}, "00000", 0, QSize()};
+            << QList<int>{1, 2, 3, 4, 5} << "00000" << 0 << QSize();
         QTest::newRow("shown-again-is-at-least-700")
-            << DisplayRow{QList<int>{5, 5}, "11111", 5, QSize(1080, 700)};
+            << QList<int>{5, 5} << "11111" << 5 << QSize(1080, 700);
     }
 
     void display()
     {
-        QFETCH(DisplayRow, row);
+        QFETCH(QList<int>, toggles);
+        QFETCH(QString, visible);
+        QFETCH(int, current);
+        QFETCH(QSize, size);
 
         Editor e;
-        for (int entry : row.toggles)
+        for (int entry : toggles)
             e.choose(QStringLiteral("display_mnu"), QStringLiteral("display_item_mnu"), entry);
         QString shown;
         for (int i = 1; i <= ItemCount; ++i)
             shown += e.item(i)->isVisible() ? u'1' : u'0';
-        QCOMPARE(shown, row.visible);
-        QCOMPARE(e.form.currentItem(), row.current);
-        QCOMPARE(e.dot(1)->isVisible(), row.current != 0);
-        if (row.current) {
-            QCOMPARE(e.form.itemBox(row.current).size().toSize(), row.size);
-            QCOMPARE(e.dot(1)->pos(),
-                     pixels(e.form.itemBox(row.current).topLeft() - QPointF(45, 45)));
+        QCOMPARE(shown, visible);
+        QCOMPARE(e.form.currentItem(), current);
+        QCOMPARE(e.dot(1)->isVisible(), current != 0);
+        if (current) {
+            QCOMPARE(e.form.itemBox(current).size().toSize(), size);
+            QCOMPARE(e.dot(1)->pos(), pixels(e.form.itemBox(current).topLeft() - QPointF(45, 45)));
         }
         for (int i = 0; i < ItemCount; ++i)
-            QCOMPARE(e.result()[size_t(i)].Visible, row.visible[i] == u'1');
+            QCOMPARE(e.result()[size_t(i)].Visible, visible[i] == u'1');
     }
 
     void defaultAndClear()
@@ -543,7 +528,7 @@ private Q_SLOTS:
         e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_clear_mnu"));
         QCOMPARE(e.item(2)->text(), QString());
         QCOMPARE(e.result()[1].Text, QString());
-        e.drag(QPoint(218, 94), QPoint(-5, 3), 4);
+        drag(e.frame, QPoint(218, 94), QPoint(-5, 3), 4);
         QCOMPARE(e.form.itemBox(1).topLeft(), QPointF(2820, 1440));
 
         e.choose(QStringLiteral("edit_mnu"), QStringLiteral("edit_default_mnu"));
@@ -621,9 +606,7 @@ private Q_SLOTS:
             if (dragFirst) {
                 const QPoint from =
                     member<QLabel>(form, QStringLiteral("item"), 1)->pos() + QPoint(4, 4);
-                QTest::mousePress(frame, Qt::LeftButton, {}, from);
-                QTest::mouseMove(frame, from + QPoint(-30, 10));
-                QTest::mouseRelease(frame, Qt::LeftButton, {}, from + QPoint(-30, 10));
+                drag(frame, from, QPoint(-30, 10), 1);
             }
             dropped = form->itemBox(1).topLeft();
             ModalDriver::close(dialog, closeWith);

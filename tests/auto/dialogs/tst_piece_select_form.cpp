@@ -14,7 +14,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTest>
 
 using namespace quirra;
@@ -61,30 +60,6 @@ struct Form
 
 } // namespace
 
-struct OpenRow
-{
-    QString name;
-    int paperKind;
-    QString product;
-    int pieceRow;
-};
-
-struct CloseRow
-{
-    QString opening;
-    int pickRow;
-    QString closeWith;
-    bool accepted;
-    QString result;
-};
-
-struct ProductRow
-{
-    int paperKind, key;
-    QStringList pieces;
-    QString pieceName;
-};
-
 class TestPieceSelectForm : public QObject
 {
     Q_OBJECT
@@ -99,38 +74,39 @@ private Q_SLOTS:
     void cleanup() { verifyNoWindowLeft(); }
     void openOnName_data()
     {
-        columns<OpenRow>("row");
+        columns<QString, int, QString, int>("name", "paperKind", "product", "pieceRow");
 
-        QTest::newRow("later-piece-of-first-product") << OpenRow{"Acme Plain", 1, "Acme Labels", 2};
-        QTest::newRow("piece-of-second-product")
-            << OpenRow{"DL - Envelope", 1, "Acme Envelopes", 1};
-        QTest::newRow("name-in-other-case") << OpenRow{"dl - ENVELOPE", 1, "Acme Envelopes", 1};
+        QTest::newRow("later-piece-of-first-product") << "Acme Plain" << 1 << "Acme Labels" << 2;
+        QTest::newRow("piece-of-second-product") << "DL - Envelope" << 1 << "Acme Envelopes" << 1;
+        QTest::newRow("name-in-other-case") << "dl - ENVELOPE" << 1 << "Acme Envelopes" << 1;
         QTest::newRow("continuous-past-a-gap")
-            << OpenRow{"Index Card - Continuous Cards", 2, "Tractor Cards", 0};
+            << "Index Card - Continuous Cards" << 2 << "Tractor Cards" << 0;
         QTest::newRow("continuous-type-in-lower-case")
-            << OpenRow{"2-Up - Pin-Fed Labels", 2, "Tractor Labels", 1};
+            << "2-Up - Pin-Fed Labels" << 2 << "Tractor Labels" << 1;
         // Not in the catalogue: cut sheet, the first product, no facts.
-        QTest::newRow("unknown-name") << OpenRow{"Nobody's Piece", 1, "Acme Labels", -1};
+        QTest::newRow("unknown-name") << "Nobody's Piece" << 1 << "Acme Labels" << -1;
     }
 
     void openOnName()
     {
-        QFETCH(OpenRow, row);
+        QFETCH(QString, name);
+        QFETCH(int, paperKind);
+        QFETCH(int, pieceRow);
 
-        Form f(row.name);
-        QCOMPARE(f.paper->checkedId(), row.paperKind);
-        QCOMPARE(f.products->currentText(), row.product);
-        QCOMPARE(f.pieces->currentRow(), row.pieceRow);
-        if (row.pieceRow >= 0)
-            QCOMPARE(f.pieces->currentItem()->text().toUpper(), row.name.toUpper());
-        QCOMPARE(f.pieceTxt->text(), row.name);
-        QCOMPARE(f.text("size_txt").isEmpty(), row.pieceRow < 0);
+        Form f(name);
+        QCOMPARE(f.paper->checkedId(), paperKind);
+        QTEST(f.products->currentText(), "product");
+        QCOMPARE(f.pieces->currentRow(), pieceRow);
+        if (pieceRow >= 0)
+            QCOMPARE(f.pieces->currentItem()->text().toUpper(), name.toUpper());
+        QCOMPARE(f.pieceTxt->text(), name);
+        QCOMPARE(f.text("size_txt").isEmpty(), pieceRow < 0);
         QCOMPARE(f.form.currentFile(), QStringLiteral(QUIRRA_TEST_DATA "/quirra.cfg"));
 
         // Showing the form changes none of it.
         f.show();
-        QCOMPARE(f.paper->checkedId(), row.paperKind);
-        QCOMPARE(f.pieces->currentRow(), row.pieceRow);
+        QCOMPARE(f.paper->checkedId(), paperKind);
+        QCOMPARE(f.pieces->currentRow(), pieceRow);
     }
 
     void emptyNameWaitsForActivation()
@@ -174,28 +150,31 @@ private Q_SLOTS:
 
     void productChangeRefillsPieces_data()
     {
-        columns<ProductRow>("row");
+        columns<int, int, QStringList, QString>("paperKind", "key", "pieces", "pieceName");
 
         QTest::newRow("down-to-envelopes")
-            << ProductRow{1, int(Qt::Key_Down), QStringList{"No. 10 - Envelope", "DL - Envelope"},
-                          "No. 10 - Envelope"};
+            << 1 << int(Qt::Key_Down) << QStringList{"No. 10 - Envelope", "DL - Envelope"}
+            << "No. 10 - Envelope";
         // An empty product row empties the list and leaves the piece alone.
         QTest::newRow("gap-row-clears-pieces")
-            << ProductRow{2, int(Qt::Key_Down), QStringList(), Labels30};
+            << 2 << int(Qt::Key_Down) << QStringList() << Labels30;
     }
 
     void productChangeRefillsPieces()
     {
-        QFETCH(ProductRow, row);
+        QFETCH(int, paperKind);
+        QFETCH(int, key);
+        QFETCH(QStringList, pieces);
+        QFETCH(QString, pieceName);
 
         Form f(Labels30);
         f.show();
-        f.paper->button(row.paperKind)->click();
-        QTest::keyClick(f.products, Qt::Key(row.key));
-        QCOMPARE(rows(f.pieces), row.pieces);
-        QCOMPARE(f.pieceTxt->text(), row.pieceName);
-        if (!row.pieces.isEmpty())
-            QCOMPARE(f.text("type_txt"), row.pieceName.mid(row.pieceName.lastIndexOf(" - ") + 3));
+        f.paper->button(paperKind)->click();
+        QTest::keyClick(f.products, Qt::Key(key));
+        QCOMPARE(rows(f.pieces), pieces);
+        QCOMPARE(f.pieceTxt->text(), pieceName);
+        if (!pieces.isEmpty())
+            QCOMPARE(f.text("type_txt"), pieceName.mid(pieceName.lastIndexOf(" - ") + 3));
     }
 
     void clickingPiece()
@@ -245,32 +224,34 @@ private Q_SLOTS:
 
     void okAndCancel_data()
     {
-        columns<CloseRow>("row");
+        columns<QString, int, QString, bool, QString>("opening", "pickRow", "closeWith", "accepted",
+                                                      "result");
 
-        QTest::newRow("ok-keeps-opened-piece") << CloseRow{Labels30, -1, "ok_btn", true, Labels30};
-        QTest::newRow("ok-after-picking") << CloseRow{Labels30, 2, "ok_btn", true, "Acme Plain"};
-        QTest::newRow("return-presses-ok") << CloseRow{Labels30, 2, "return", true, "Acme Plain"};
-        QTest::newRow("cancel-after-picking")
-            << CloseRow{Labels30, 2, "cancel_btn", false, Labels30};
-        QTest::newRow("escape-after-picking") << CloseRow{Labels30, 2, "escape", false, Labels30};
+        QTest::newRow("ok-keeps-opened-piece") << Labels30 << -1 << "ok_btn" << true << Labels30;
+        QTest::newRow("ok-after-picking") << Labels30 << 2 << "ok_btn" << true << "Acme Plain";
+        QTest::newRow("return-presses-ok") << Labels30 << 2 << "return" << true << "Acme Plain";
+        QTest::newRow("cancel-after-picking") << Labels30 << 2 << "cancel_btn" << false << Labels30;
+        QTest::newRow("escape-after-picking") << Labels30 << 2 << "escape" << false << Labels30;
         QTest::newRow("ok-with-empty-list-keeps-name")
-            << CloseRow{"Nobody's Piece", -1, "ok_btn", true, "Nobody's Piece"};
+            << "Nobody's Piece" << -1 << "ok_btn" << true << "Nobody's Piece";
     }
 
     void okAndCancel()
     {
-        QFETCH(CloseRow, row);
+        QFETCH(QString, opening);
+        QFETCH(int, pickRow);
+        QFETCH(QString, closeWith);
 
         ModalDriver driver;
         driver.onModal(QStringLiteral("piece_select_form"), [&](QDialog *dialog) {
             auto *list = dialog->findChild<QListWidget *>(QStringLiteral("piece_lst"));
-            if (row.pickRow >= 0)
-                list->setCurrentRow(row.pickRow);
-            ModalDriver::close(dialog, row.closeWith, list);
+            if (pickRow >= 0)
+                list->setCurrentRow(pickRow);
+            ModalDriver::close(dialog, closeWith, list);
         });
-        QString name = row.opening;
-        QCOMPARE(ShowPieceSelectDialog(nullptr, name), row.accepted);
-        QCOMPARE(name, row.result);
+        QString name = opening;
+        QTEST(ShowPieceSelectDialog(nullptr, name), "accepted");
+        QTEST(name, "result");
         QVERIFY(driver.ranOnce());
     }
 

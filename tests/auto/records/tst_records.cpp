@@ -376,11 +376,10 @@ private Q_SLOTS:
     {
         QFETCH(QString, city);
         QFETCH(double, widest);
-        QFETCH(QString, line);
 
         FixedMeasurer m;
-        QCOMPARE(FitCityStateZip(city, QStringLiteral("IL"), QStringLiteral("62704"), widest, m),
-                 line);
+        QTEST(FitCityStateZip(city, QStringLiteral("IL"), QStringLiteral("62704"), widest, m),
+              "line");
         QTEST(m.calls, "measured");
     }
 
@@ -588,13 +587,11 @@ private Q_SLOTS:
     {
         QFETCH(QString, barCode);
         QFETCH(QString, zip);
-        QFETCH(QString, routing);
-        QFETCH(QString, bars);
         const IntelligentMailBarcode code(barCode, zip);
         QVERIFY2(code.isValid(), qPrintable(code.error()));
         QCOMPARE(code.tracking(), QStringLiteral("01234567094987654321"));
-        QCOMPARE(code.routing(), routing);
-        QCOMPARE(code.bars(), bars);
+        QTEST(code.routing(), "routing");
+        QTEST(code.bars(), "bars");
     }
 
     void refuses_data()
@@ -627,7 +624,4 @@ private:
 };
 
 QTEST_GUILESS_MAIN(TestRecords)
-#include "records/addressrules.h"
-#include "records/intelligentmail.h"
-#include "records/textmeasurer.h"
 #include "tst_records.moc"
