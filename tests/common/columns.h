@@ -4,10 +4,21 @@
 
 #include <QTest>
 
+#include <tuple>
+
 // Declares a data table's columns in one statement, the types in order and a
 // name for each: columns<QString, int>("text", "count").
 template <typename... Types, typename... Names> void columns(const Names &...names)
 {
     static_assert(sizeof...(Types) == sizeof...(Names), "one name for each column type");
     (QTest::addColumn<Types>(names), ...);
+}
+
+// The current row's values of the named columns, as QFETCH takes them one at
+// a time: const auto [text, count] = fetched<QString, int>("text", "count").
+// A type that does not match its column fails the test, as QFETCH does.
+template <typename... Types, typename... Names> std::tuple<Types...> fetched(const Names &...names)
+{
+    static_assert(sizeof...(Types) == sizeof...(Names), "one name for each column type");
+    return {*static_cast<Types *>(QTest::qData(names, qMetaTypeId<Types>()))...};
 }

@@ -260,9 +260,8 @@ private Q_SLOTS:
 
     void generatorRefusesBadFacts()
     {
-        QFETCH(QString, column);
-        QFETCH(QString, value);
-        QFETCH(QString, message);
+        const auto [column, value, message] =
+            fetched<QString, QString, QString>("column", "value", "message");
         if (QStandardPaths::findExecutable(QStringLiteral("python3")).isEmpty())
             QSKIP("python3 is not installed: cannot run scripts/gen-catalogue");
 
@@ -308,8 +307,7 @@ private Q_SLOTS:
 
     void readPieceSpec()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, numbers);
+        const auto [name, numbers] = fetched<QString, QString>("name", "numbers");
         const PieceSpec s = ReadPieceSpec(Fixture, name);
         QCOMPARE(::numbers(s), numbers);
         QTEST(s.PageDesc, "pageDesc");
@@ -351,8 +349,7 @@ private Q_SLOTS:
 
     void lists()
     {
-        QFETCH(bool, products);
-        QFETCH(QString, section);
+        const auto [products, section] = fetched<bool, QString>("products", "section");
         QTEST(products ? ReadProductList(Fixture, section) : ReadPieceList(Fixture, section),
               "expected");
     }
@@ -396,8 +393,7 @@ private Q_SLOTS:
 
     void lengths()
     {
-        QFETCH(QString, text);
-        QFETCH(bool, ok);
+        const auto [text, ok] = fetched<QString, bool>("text", "ok");
         double value = -1;
         QCOMPARE(parseTemplateLength(text, &value), ok);
         if (ok)
@@ -531,8 +527,7 @@ private Q_SLOTS:
 
     void badTemplates()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(QString, why);
+        const auto [text, why] = fetched<QByteArray, QString>("text", "why");
         const TemplateReadResult result = readText(text);
         QVERIFY(result.templates.isEmpty());
         QCOMPARE(result.warnings.size(), 1);

@@ -104,10 +104,8 @@ private Q_SLOTS:
 
     void itemInformation()
     {
-        QFETCH(QString, label);
-        QFETCH(QString, item);
-        QFETCH(float, top);
-        QFETCH(QString, shownTop);
+        const auto [label, item, top, shownTop] =
+            fetched<QString, QString, float, QString>("label", "item", "top", "shownTop");
         Quirra control;
         control.setProperty(qPrintable(item + "Top"), top);
         control.setProperty(qPrintable(item + "Left"), 0.5f);
@@ -258,8 +256,7 @@ private Q_SLOTS:
 
     void calibrationFields()
     {
-        QFETCH(QStringList, edit);
-        QFETCH(float, applied);
+        auto [edit, applied] = fetched<QStringList, float>("edit", "applied");
         Quirra control;
         ItemLayout page;
         page.setSelectedControls({&control});

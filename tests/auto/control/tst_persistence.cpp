@@ -225,9 +225,8 @@ private Q_SLOTS:
 
     void readValues()
     {
-        QFETCH(QString, name);
-        QFETCH(QJsonValue, saved);
-        QFETCH(QVariant, expected);
+        auto [name, saved, expected] =
+            fetched<QString, QJsonValue, QVariant>("name", "saved", "expected");
         JsonPropertyBag bag;
         // Icon1 is read last: reading goes on after a bad value.
         bag.setValues(
@@ -302,8 +301,7 @@ private Q_SLOTS:
 
     void fileErrors()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, problem);
+        const auto [content, problem] = fetched<QByteArray, QString>("content", "problem");
         const QString path = m_dir.filePath(QString::fromLatin1(QTest::currentDataTag()));
         if (!content.isEmpty()) {
             QFile file(path);

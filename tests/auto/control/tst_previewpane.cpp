@@ -111,11 +111,9 @@ private Q_SLOTS:
 
     void paging()
     {
-        QFETCH(int, records);
-        QFETCH(QStringList, clicks);
-        QFETCH(QString, label);
-        QFETCH(QStringList, enabled);
-        QFETCH(QString, focus);
+        const auto [records, clicks, label, enabled, focus] =
+            fetched<int, QStringList, QString, QStringList, QString>("records", "clicks", "label",
+                                                                     "enabled", "focus");
         PreviewPane pane;
         QVERIFY(showActive(&pane));
         QSignalSpy printAll(&pane, &PreviewPane::printAllRequested);
@@ -149,8 +147,7 @@ private Q_SLOTS:
 
     void pageShownFromItsRecords()
     {
-        QFETCH(bool, recordsAdded);
-        QFETCH(QStringList, words);
+        const auto [recordsAdded, words] = fetched<bool, QStringList>("recordsAdded", "words");
         QTemporaryDir dir;
         const QString pdf = dir.filePath(QStringLiteral("page.pdf"));
         PreviewPane pane;
@@ -181,9 +178,8 @@ private Q_SLOTS:
 
     void layout()
     {
-        QFETCH(QSize, size);
-        QFETCH(bool, paging);
-        QFETCH(int, letterSpacing);
+        const auto [size, paging, letterSpacing] =
+            fetched<QSize, bool, int>("size", "paging", "letterSpacing");
         PreviewPane pane;
         QFont hostFont = pane.font();
         hostFont.setLetterSpacing(QFont::PercentageSpacing, letterSpacing);
@@ -353,8 +349,7 @@ private Q_SLOTS:
 
     void arithmetic()
     {
-        QFETCH(QSize, pane);
-        QFETCH(PaneSettings, given);
+        const auto [pane, given] = fetched<QSize, PaneSettings>("pane", "given");
         const PaneLayout l(pane, given);
         QTEST(l.boarderInside(), "inside");
         QTEST(l.boarderButtonTop(), "top");
@@ -386,8 +381,7 @@ private Q_SLOTS:
 
     void partsInsideAndApart()
     {
-        QFETCH(QSize, pane);
-        QFETCH(PaneSettings, given);
+        const auto [pane, given] = fetched<QSize, PaneSettings>("pane", "given");
         const PaneLayout l(pane, given);
         const int size = l.buttonSize(), b = l.boarderInside();
         QList<QRect> shown;

@@ -123,8 +123,7 @@ private Q_SLOTS:
 
     void properties()
     {
-        QFETCH(QString, type);
-        QFETCH(QVariant, value);
+        auto [type, value] = fetched<QString, QVariant>("type", "value");
         const QByteArray name = QTest::currentDataTag();
 
         Quirra control;

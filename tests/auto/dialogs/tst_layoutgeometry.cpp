@@ -75,11 +75,9 @@ private Q_SLOTS:
 
     void fitScale()
     {
-        QFETCH(float, width);
-        QFETCH(float, height);
-        QFETCH(int, screenWidth);
-        QFETCH(int, screenHeight);
-        QFETCH(float, scale);
+        const auto [width, height, screenWidth, screenHeight, scale] =
+            fetched<float, float, int, int, float>("width", "height", "screenWidth", "screenHeight",
+                                                   "scale");
 
         if (std::isnan(scale)) {
             QVERIFY_THROWS_EXCEPTION(
@@ -137,11 +135,9 @@ private Q_SLOTS:
 
     void moved()
     {
-        QFETCH(LayoutGeometry, piece);
-        QFETCH(int, handle);
-        QFETCH(QRectF, box);
-        QFETCH(QPointF, mouse);
-        QFETCH(QRectF, result);
+        const auto [piece, handle, box, mouse, result] =
+            fetched<LayoutGeometry, int, QRectF, QPointF, QRectF>("piece", "handle", "box", "mouse",
+                                                                  "result");
 
         if (handle == 0)
             QCOMPARE(QRectF(piece.dragged(box, mouse, QPointF(150, 150)), box.size()), result);
@@ -164,8 +160,7 @@ private Q_SLOTS:
 
     void stepped()
     {
-        QFETCH(QString, text);
-        QFETCH(int, scroll);
+        const auto [text, scroll] = fetched<QString, int>("text", "scroll");
         const LayoutGeometry::Step step = LayoutGeometry::stepped(text, scroll, 1.0f);
         QTEST(step.text, "result");
         QTEST(step.clamped, "clamped");
@@ -217,10 +212,8 @@ private Q_SLOTS:
 
     void layout()
     {
-        QFETCH(PieceSpec, entry);
-        QFETCH(int, count);
-        QFETCH(int, offPage);
-        QFETCH(QStringList, marks);
+        const auto [entry, count, offPage, marks] =
+            fetched<PieceSpec, int, int, QStringList>("entry", "count", "offPage", "marks");
 
         const QSizeF area(300, 360);
         const SheetDrawing d = draw(entry, area);

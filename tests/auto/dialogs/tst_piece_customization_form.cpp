@@ -91,9 +91,8 @@ private Q_SLOTS:
 
     void opensOnItsPage()
     {
-        QFETCH(QString, pageDesc);
-        QFETCH(int, index);
-        QFETCH(float, height);
+        const auto [pageDesc, index, height] =
+            fetched<QString, int, float>("pageDesc", "index", "height");
 
         PieceSpec entry = catalogueEntry(Labels30);
         entry.PageDesc = pageDesc;
@@ -145,10 +144,8 @@ private Q_SLOTS:
 
     void typing()
     {
-        QFETCH(QString, box);
-        QFETCH(QString, keys);
-        QFETCH(QString, text);
-        QFETCH(int, beeps);
+        const auto [box, keys, text, beeps] =
+            fetched<QString, QString, QString, int>("box", "keys", "text", "beeps");
 
         Form f;
         QLineEdit *edit = f.box(box);
@@ -183,11 +180,8 @@ private Q_SLOTS:
 
     void spinners()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, start);
-        QFETCH(int, steps);
-        QFETCH(QString, text);
-        QFETCH(int, beeps);
+        auto [name, start, steps, text, beeps] =
+            fetched<QString, QString, int, QString, int>("name", "start", "steps", "text", "beeps");
 
         Form f;
         QLineEdit *edit = f.box(name + QStringLiteral("_txt"));
@@ -347,11 +341,9 @@ private Q_SLOTS:
 
     void conversions()
     {
-        QFETCH(NumberField::Kind, kind);
-        QFETCH(float, maximum);
-        QFETCH(QString, text);
-        QFETCH(QString, checked);
-        QFETCH(double, stored);
+        const auto [kind, maximum, text, checked, stored] =
+            fetched<NumberField::Kind, float, QString, QString, double>("kind", "maximum", "text",
+                                                                        "checked", "stored");
         const NumberField f(kind, kind == NumberField::Count ? 1 : 0, maximum);
         QCOMPARE(f.checked(text), checked);
         if (kind == NumberField::Measure)

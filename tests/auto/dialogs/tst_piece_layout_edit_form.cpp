@@ -170,12 +170,9 @@ private Q_SLOTS:
 
     void mouseLayout()
     {
-        QFETCH(int, handle);
-        QFETCH(QPoint, step);
-        QFETCH(int, steps);
-        QFETCH(QRectF, box);
-        QFETCH(QString, refreshed);
-        QFETCH(int, cursor);
+        const auto [handle, step, steps, box, refreshed, cursor] =
+            fetched<int, QPoint, int, QRectF, QString, int>("handle", "step", "steps", "box",
+                                                            "refreshed", "cursor");
 
         Editor e;
         // A control array is found by its name: every member carries it.
@@ -279,10 +276,8 @@ private Q_SLOTS:
 
     void modifyInPlace()
     {
-        QFETCH(int, item);
-        QFETCH(QString, justify);
-        QFETCH(bool, doubleClick);
-        QFETCH(int, editor);
+        const auto [item, justify, doubleClick, editor] =
+            fetched<int, QString, bool, int>("item", "justify", "doubleClick", "editor");
 
         Editor e;
         QLabel *label = e.item(item);
@@ -329,8 +324,7 @@ private Q_SLOTS:
 
     void zOrder()
     {
-        QFETCH(QStringList, commands);
-        QFETCH(int, atCorner);
+        const auto [commands, atCorner] = fetched<QStringList, int>("commands", "atCorner");
 
         // Message 1 overlaps the address's bottom-right part.
         std::array<Item, ItemCount> items = envelopeItems();
@@ -384,12 +378,9 @@ private Q_SLOTS:
 
     void formatMenu()
     {
-        QFETCH(int, item);
-        QFETCH(int, align);
-        QFETCH(qint16, border);
-        QFETCH(QString, command);
-        QFETCH(int, alignment);
-        QFETCH(qint16, written);
+        const auto [item, align, border, command, alignment, written] =
+            fetched<int, int, qint16, QString, int, qint16>("item", "align", "border", "command",
+                                                            "alignment", "written");
 
         std::array<Item, ItemCount> items = envelopeItems();
         items[size_t(item - 1)].HorzAlign = eHorzAlign(align);
@@ -496,10 +487,8 @@ private Q_SLOTS:
 
     void display()
     {
-        QFETCH(QList<int>, toggles);
-        QFETCH(QString, visible);
-        QFETCH(int, current);
-        QFETCH(QSize, size);
+        auto [toggles, visible, current, size] =
+            fetched<QList<int>, QString, int, QSize>("toggles", "visible", "current", "size");
 
         Editor e;
         for (int entry : toggles)

@@ -89,9 +89,8 @@ private Q_SLOTS:
 
     void openOnName()
     {
-        QFETCH(QString, name);
-        QFETCH(int, paperKind);
-        QFETCH(int, pieceRow);
+        const auto [name, paperKind, pieceRow] =
+            fetched<QString, int, int>("name", "paperKind", "pieceRow");
 
         Form f(name);
         QCOMPARE(f.paper->checkedId(), paperKind);
@@ -162,10 +161,8 @@ private Q_SLOTS:
 
     void productChangeRefillsPieces()
     {
-        QFETCH(int, paperKind);
-        QFETCH(int, key);
-        QFETCH(QStringList, pieces);
-        QFETCH(QString, pieceName);
+        const auto [paperKind, key, pieces, pieceName] =
+            fetched<int, int, QStringList, QString>("paperKind", "key", "pieces", "pieceName");
 
         Form f(Labels30);
         f.show();

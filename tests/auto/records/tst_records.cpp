@@ -115,9 +115,8 @@ private Q_SLOTS:
 
     void documentStates()
     {
-        QFETCH(QString, calls);
-        QFETCH(QString, records);
-        QFETCH(bool, header);
+        const auto [calls, records, header] =
+            fetched<QString, QString, bool>("calls", "records", "header");
 
         const Record people[] = {fixture::record(QStringLiteral("Ann;;Arden")),
                                  fixture::record(QStringLiteral("Bob;;Brook;;;Troy;NY")),
@@ -172,9 +171,8 @@ private Q_SLOTS:
 
     void linesOnDisk()
     {
-        QFETCH(QString, record);
-        QFETCH(QByteArray, line);
-        QFETCH(QString, warning);
+        auto [record, line, warning] =
+            fetched<QString, QByteArray, QString>("record", "line", "warning");
 
         if (!warning.isEmpty()) {
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
@@ -200,8 +198,7 @@ private Q_SLOTS:
 
     void failuresNameTheFile()
     {
-        QFETCH(QString, path);
-        QFETCH(QString, reason);
+        const auto [path, reason] = fetched<QString, QString>("path", "reason");
 
         SharedSpool::instance().setSpoolPath(path);
         SpoolWriter writer;
@@ -306,8 +303,7 @@ private Q_SLOTS:
 
     void junkNeverHangs()
     {
-        QFETCH(QByteArray, bytes);
-        QFETCH(int, records);
+        const auto [bytes, records] = fetched<QByteArray, int>("bytes", "records");
 
         const bool cut = bytes.size() > 3 * 1024 * 1024;
         if (cut) {
@@ -374,8 +370,7 @@ private Q_SLOTS:
 
     void fitCityStateZip()
     {
-        QFETCH(QString, city);
-        QFETCH(double, widest);
+        const auto [city, widest] = fetched<QString, double>("city", "widest");
 
         FixedMeasurer m;
         QTEST(FitCityStateZip(city, QStringLiteral("IL"), QStringLiteral("62704"), widest, m),
@@ -398,9 +393,7 @@ private Q_SLOTS:
 
     void longCityIsCutInBoundedWork()
     {
-        QFETCH(int, fitting);
-        QFETCH(int, dip);
-        QFETCH(int, expected);
+        const auto [fitting, dip, expected] = fetched<int, int, int>("fitting", "dip", "expected");
 
         // A 200,000-character city; a cut of n makes n + 9 characters with " IL 62704".
         FixedMeasurer m;
@@ -448,8 +441,7 @@ private Q_SLOTS:
 
     void composeAddressLines()
     {
-        QFETCH(QString, record);
-        QFETCH(double, widest);
+        const auto [record, widest] = fetched<QString, double>("record", "widest");
 
         fixture::feed({record + QString(10 - record.count(QLatin1Char(';')), QLatin1Char(';')) +
                        QStringLiteral("salut^Sir")});
@@ -535,9 +527,8 @@ private Q_SLOTS:
 
     void replaceTokens()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, list);
-        QFETCH(QString, separator);
+        const auto [text, list, separator] =
+            fetched<QString, QString, QString>("text", "list", "separator");
 
         QElapsedTimer clock;
         clock.start();
@@ -585,8 +576,7 @@ private Q_SLOTS:
 
     void encodes()
     {
-        QFETCH(QString, barCode);
-        QFETCH(QString, zip);
+        const auto [barCode, zip] = fetched<QString, QString>("barCode", "zip");
         const IntelligentMailBarcode code(barCode, zip);
         QVERIFY2(code.isValid(), qPrintable(code.error()));
         QCOMPARE(code.tracking(), QStringLiteral("01234567094987654321"));
@@ -610,9 +600,8 @@ private Q_SLOTS:
 
     void refuses()
     {
-        QFETCH(QString, barCode);
-        QFETCH(QString, zip);
-        QFETCH(QString, why);
+        const auto [barCode, zip, why] =
+            fetched<QString, QString, QString>("barCode", "zip", "why");
         const IntelligentMailBarcode code(barCode, zip);
         QVERIFY(!code.isValid());
         QVERIFY2(code.error().contains(why), qPrintable(code.error()));

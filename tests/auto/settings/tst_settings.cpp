@@ -65,8 +65,7 @@ private Q_SLOTS:
 
     void readSettingList()
     {
-        QFETCH(QByteArray, keys);
-        QFETCH(QString, slots);
+        const auto [keys, slots] = fetched<QByteArray, QString>("keys", "slots");
         const QStringList expected = slots.split(u'|');
         QStringList got(expected.size(), QStringLiteral("stale"));
         QTEST(ReadSettingList(write("[S]\n" + keys), QStringLiteral("S"), QStringLiteral("size"),
@@ -138,8 +137,7 @@ private Q_SLOTS:
 
     void parseNumbers()
     {
-        QFETCH(QString, text);
-        QFETCH(int, integer);
+        const auto [text, integer] = fetched<QString, int>("text", "integer");
         QTEST(IsNumeric(text), "numeric");
         QTEST(ParseDouble(text), "number");
         QTEST(ParseSingle(text), "single");
@@ -170,8 +168,7 @@ private Q_SLOTS:
 
     void splitAndTrim()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, separator);
+        const auto [text, separator] = fetched<QString, QString>("text", "separator");
 
         const QStringList got = {TextBefore(text, separator), TextAfter(text, separator),
                                  TextAfterLast(text, separator), TrimBlanks(text),
@@ -207,8 +204,7 @@ private Q_SLOTS:
 
     void formatNumber()
     {
-        QFETCH(double, value);
-        QFETCH(QString, pattern);
+        const auto [value, pattern] = fetched<double, QString>("value", "pattern");
         QTEST(FormatNumber(value, pattern), "expected");
     }
 
@@ -221,8 +217,7 @@ private Q_SLOTS:
 
     void displayTwipsToText()
     {
-        QFETCH(float, scale);
-        QFETCH(double, twips);
+        const auto [scale, twips] = fetched<float, double>("scale", "twips");
         if (scale <= 0)
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("display scale")));
         QTEST(DisplayTwipsToText(twips, scale), "expected");
@@ -276,8 +271,7 @@ private Q_SLOTS:
 
     void lookup()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(QString, expected);
+        const auto [text, expected] = fetched<QByteArray, QString>("text", "expected");
         const ProfileFile profile = ProfileFile::fromText(text);
         const QString *found = profile.find(QStringLiteral(" a "), QStringLiteral("K"));
         QCOMPARE(found ? *found : QStringLiteral("<none>"), expected);
@@ -296,8 +290,7 @@ private Q_SLOTS:
 
     void changedFileIsSeen()
     {
-        QFETCH(QByteArray, second);
-        QFETCH(int, secondsLater);
+        const auto [second, secondsLater] = fetched<QByteArray, int>("second", "secondsLater");
         const QString name = QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(".ini");
         const QString path = write("[A]\nk=one", name);
         QCOMPARE(read(path), QStringLiteral("one"));
@@ -364,9 +357,8 @@ private Q_SLOTS:
 
     void makeTempFileName()
     {
-        QFETCH(QString, prefix);
-        QFETCH(QString, folder);
-        QFETCH(QString, expected);
+        const auto [prefix, folder, expected] =
+            fetched<QString, QString, QString>("prefix", "folder", "expected");
 
         const QString dir = m_dir.path() + folder;
         qputenv("TMPDIR", QFile::encodeName(dir));
@@ -482,11 +474,8 @@ private Q_SLOTS:
 
     void boxes()
     {
-        QFETCH(float, h);
-        QFETCH(float, w);
-        QFETCH(int, item);
-        QFETCH(QList<float>, box);
-        QFETCH(bool, visible);
+        auto [h, w, item, box, visible] =
+            fetched<float, float, int, QList<float>, bool>("h", "w", "item", "box", "visible");
         PieceModel m;
         for (Item &it : m.items)
             it.Visible = !visible; // the layout must set it either way
@@ -514,8 +503,7 @@ private Q_SLOTS:
 
     void texts()
     {
-        QFETCH(int, item);
-        QFETCH(QString, before);
+        const auto [item, before] = fetched<int, QString>("item", "before");
         PieceModel m;
         m.item(ItemId(item)).Text = before;
         layOut(m, 4.125f, 9.5f);
