@@ -130,14 +130,13 @@ private Q_SLOTS:
     void badInputLeavesNoFile()
     {
         QFETCH(QStringList, arguments);
-        QFETCH(int, status);
         QFETCH(QStringList, message);
 
         // An older file of the target's name stays as it was.
         QVERIFY(fixture::overwrite(out(QStringLiteral("out.pdf")), "older run"));
 
         const Run run = quirra(QStringList{QStringLiteral("print")} + expand(arguments));
-        QCOMPARE(run.status, status);
+        QTEST(run.status, "status");
         for (const QString &part : message)
             QVERIFY2(run.err.contains(part), qPrintable(run.err));
         QVERIFY2(!run.err.contains(QLatin1String("records,")), qPrintable(run.err));
@@ -189,22 +188,12 @@ private Q_SLOTS:
 
         const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
         QCOMPARE(sizes.size(), pages);
-        QVERIFY(qAbs(sizes.first().width() - pageSize.width()) < 1);
-        QVERIFY(qAbs(sizes.first().height() - pageSize.height()) < 1);
+        QCOMPARE(sizes.first().toSize(), pageSize.toSize());
 
         // The first record starts the first label; the last one is on the last page.
         const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
-        QVERIFY(!words.isEmpty());
-        const pdfprobe::Word &first = words.first();
-        QCOMPARE(first.text, QStringLiteral("Margaret"));
-        QCOMPARE(first.page, 1);
-        const pdfprobe::Word *last = nullptr;
-        for (const pdfprobe::Word &w : words) {
-            if (w.text == lastFirstName)
-                last = &w;
-        }
-        QVERIFY(last);
-        QCOMPARE(last->page, pages);
+        QCOMPARE(pdfprobe::find(words, QStringLiteral("Margaret"), 1), words.constData());
+        QVERIFY(pdfprobe::find(words, lastFirstName, pages));
     }
 
     // The first page's lines, top to bottom, and where the address starts.
@@ -443,9 +432,8 @@ private Q_SLOTS:
         const QString pdf = out(QStringLiteral("calibration.pdf"));
         const Run run = quirra({"calibrate", "--piece", piece, "--pdf", pdf});
         QVERIFY2(run.status == 0, qPrintable(run.err));
-        const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
-        QVERIFY(sizes.size() == 1 && qAbs(sizes[0].width() - paper.width()) < 1 &&
-                qAbs(sizes[0].height() - paper.height()) < 1);
+        QCOMPARE(pdfprobe::pageSizes(pdf).size(), 1);
+        QCOMPARE(pdfprobe::pageSizes(pdf).first().toSize(), paper.toSize());
 
         // A ruler number stands at its tick, n inches or n cm from the paper's
         // left edge (across the top) or top edge (down the side), whole on the

@@ -156,7 +156,6 @@ private Q_SLOTS:
         QFETCH(QStringList, second);
         QFETCH(QList<int>, kinds);
         QFETCH(int, record);
-        QFETCH(int, count);
         QFETCH(QString, detail);
 
         PieceModel &model = PieceModel::shared();
@@ -187,7 +186,7 @@ private Q_SLOTS:
         const QString name = QStringList{second[0], second[2]}.join(' ').trimmed();
         QCOMPARE(first->name, record == 1 ? QStringLiteral("Ann Lee") : name);
         QVERIFY2(first->detail.contains(detail), qPrintable(first->detail));
-        QCOMPARE(report.count(NoteKind(kinds.first())), qint64(count));
+        QTEST(int(report.count(NoteKind(kinds.first()))), "count");
     }
 
     void longRunKeepsFewNotes()

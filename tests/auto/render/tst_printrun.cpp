@@ -257,8 +257,8 @@ private Q_SLOTS:
         item.Border = 1;
         RecordingSurface framed;
         DrawItem(item, piece, 1, framed);
-        QVERIFY(
-            framed.calls.contains(QStringLiteral("align 9"))); // justified, in the surface's code
+        // Justified, in the surface's code.
+        QVERIFY(framed.calls.contains(QStringLiteral("align 9")));
         const int frame =
             int(framed.calls.indexOf(QRegularExpression(QStringLiteral("^box \\[\\].*border=1"))));
         QVERIFY(frame > 0);
