@@ -11,11 +11,7 @@
 #include "control/quirra.h"
 #include "properties/jsonpropertybag.h"
 
-#include <QDir>
-#include <QImage>
-#include <QProcess>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <sys/stat.h>

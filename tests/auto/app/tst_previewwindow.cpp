@@ -11,13 +11,10 @@
 #include "control/quirra.h"
 #include "printing/printsurface.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QPrinter>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace quirra;

@@ -12,23 +12,16 @@
 #include "pdfprobe.h"
 #include "quirrarun.h"
 
-#include <QDir>
 #include <QDirIterator>
-#include <QFileInfo>
-#include <QProcess>
 #include <QRandomGenerator>
-#include <QScopeGuard>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include <fcntl.h>
 #include <signal.h>
 #include <sys/file.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 

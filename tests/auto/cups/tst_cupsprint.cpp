@@ -11,21 +11,9 @@
 #include "spoolfixture.h"
 
 #include "printing/printsurface.h"
-#include <optional>
 
-#include <QApplication>
-#include <QDeadlineTimer>
-#include <QDir>
-#include <QFile>
-#include <QImage>
-#include <QPrinter>
 #include <QPrinterInfo>
-#include <QProcess>
-#include <QScopeGuard>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QThread>
-#include <QTransform>
 
 using namespace quirra;
 

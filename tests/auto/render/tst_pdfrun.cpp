@@ -11,12 +11,9 @@
 #include "catalogue/pieceloader.h"
 #include "records/intelligentmail.h"
 #include "render/pdfexport.h"
-#include "render/printrun.h"
 #include "settings/files.h"
 
-#include <QImage>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace quirra;

@@ -5,10 +5,8 @@
 #include "spoolfixture.h"
 
 #include "model/error.h"
-#include "render/drawitem.h"
 #include "render/printrun.h"
 
-#include <QRegularExpression>
 #include <QTest>
 
 using namespace quirra;

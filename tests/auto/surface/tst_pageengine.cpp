@@ -6,13 +6,9 @@
 
 #include "pdfprobe.h"
 
-#include <QFile>
-#include <QImage>
 #include <QPainter>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include <functional>
 
 using namespace quirra;
 
