@@ -29,12 +29,6 @@ struct PrintRow
     QStringList outcome; // last names on the pages printed, the host's messages
 };
 
-struct ActionRow
-{
-    QString action, dialog, button;
-    bool refreshed;
-};
-
 class TestPreviewWindow : public QObject
 {
     Q_OBJECT
@@ -95,10 +89,10 @@ private Q_SLOTS:
 
     void designActionsRefreshWhenAccepted_data()
     {
-        columns<ActionRow>("row");
+        columns<QString, QString, QString, bool>("action", "dialog", "button", "refreshed");
         const auto row = [](const char *tag, const QString &action, const QString &dialog,
                             const QString &button, bool refreshed) {
-            QTest::newRow(tag) << ActionRow{action, dialog, button, refreshed};
+            QTest::newRow(tag) << action << dialog << button << refreshed;
         };
         row("layout-ok", "edit_layout_act", "piece_layout_edit_form", "ok_btn", true);
         row("layout-cancel", "edit_layout_act", "piece_layout_edit_form", "cancel_btn", false);
@@ -109,20 +103,23 @@ private Q_SLOTS:
 
     void designActionsRefreshWhenAccepted()
     {
-        QFETCH(ActionRow, row);
+        QFETCH(QString, action);
+        QFETCH(QString, dialog);
+        QFETCH(QString, button);
+        QFETCH(bool, refreshed);
         PreviewWindow window;
         window.show();
         feed(window);
         // A refresh shows the run again from its first page.
         window.control()->surface()->setPreviewPage(3);
-        auto *act = window.findChild<QAction *>(row.action);
+        auto *act = window.findChild<QAction *>(action);
         QVERIFY(act);
         ModalDriver driver;
-        driver.onModal(row.dialog, [&](QDialog *shown) { click(shown, qPrintable(row.button)); });
+        driver.onModal(dialog, [&](QDialog *shown) { click(shown, qPrintable(button)); });
         act->trigger();
 
         QVERIFY(driver.ranOnce());
-        QCOMPARE(window.control()->surface()->previewPage(), row.refreshed ? 1 : 3);
+        QCOMPARE(window.control()->surface()->previewPage(), refreshed ? 1 : 3);
     }
 
     void printButtons_data()
