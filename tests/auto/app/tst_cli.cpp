@@ -521,27 +521,23 @@ private Q_SLOTS:
     }
 
 private:
-    Run quirra(const QStringList &arguments, const QByteArray &input = {});
+    Run quirra(const QStringList &arguments, const QByteArray &input = {})
+    {
+        return runQuirra(m_dir->path(), arguments, input);
+    }
     QString out(const QString &name) const { return m_dir->filePath(name); }
-    QStringList expand(QStringList arguments) const;
+    // "%DATA%/x.csv" names a fixture, "%OUT%/x" a file in the test's own folder.
+    QStringList expand(QStringList arguments) const
+    {
+        for (QString &a : arguments) {
+            a.replace(QLatin1String("%DATA%"), QStringLiteral(QUIRRA_TEST_DATA));
+            a.replace(QLatin1String("%OUT%"), m_dir->path());
+        }
+        return arguments;
+    }
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-Run TestCli::quirra(const QStringList &arguments, const QByteArray &input)
-{
-    return runQuirra(m_dir->path(), arguments, input);
-}
-
-// "%DATA%/x.csv" names a fixture, "%OUT%/x" a file in the test's own folder.
-QStringList TestCli::expand(QStringList arguments) const
-{
-    for (QString &a : arguments) {
-        a.replace(QLatin1String("%DATA%"), QStringLiteral(QUIRRA_TEST_DATA));
-        a.replace(QLatin1String("%OUT%"), m_dir->path());
-    }
-    return arguments;
-}
 
 QTEST_MAIN(TestCli)
 #include "tst_cli.moc"

@@ -189,20 +189,18 @@ private Q_SLOTS:
     }
 
 private:
-    void feed(PreviewWindow &window);
+    void feed(PreviewWindow &window)
+    {
+        RecordFeed records(*window.control());
+        QString error;
+        QVERIFY2(records.open(QStringLiteral(QUIRRA_TEST_DATA "/people.csv"), &error),
+                 qPrintable(error));
+        QVERIFY2(records.feed({}, &error), qPrintable(error));
+        QCOMPARE(records.records(), qint64(4));
+        window.control()->PreviewNow();
+    }
     std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-void TestPreviewWindow::feed(PreviewWindow &window)
-{
-    RecordFeed records(*window.control());
-    QString error;
-    QVERIFY2(records.open(QStringLiteral(QUIRRA_TEST_DATA "/people.csv"), &error),
-             qPrintable(error));
-    QVERIFY2(records.feed({}, &error), qPrintable(error));
-    QCOMPARE(records.records(), qint64(4));
-    window.control()->PreviewNow();
-}
 
 QTEST_MAIN(TestPreviewWindow)
 #include "tst_previewwindow.moc"

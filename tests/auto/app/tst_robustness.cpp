@@ -407,7 +407,12 @@ private Q_SLOTS:
     }
 
 private:
-    QProcessEnvironment environment() const;
+    QProcessEnvironment environment() const
+    {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("TMPDIR"), m_tmp->path());
+        return env;
+    }
     QuirraRun quirra(const QStringList &arguments)
     {
         return runQuirra(m_dir->path(), arguments, {}, environment());
@@ -422,13 +427,6 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir; // inputs and outputs
     std::unique_ptr<QTemporaryDir> m_tmp; // the program's TMPDIR: its spool goes here
 };
-
-QProcessEnvironment TestRobustness::environment() const
-{
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("TMPDIR"), m_tmp->path());
-    return env;
-}
 
 QTEST_GUILESS_MAIN(TestRobustness)
 #include "tst_robustness.moc"

@@ -333,20 +333,18 @@ private Q_SLOTS:
     }
 
 private:
-    QString title(const char *what) const;
+    // Job titles unique to this process, in letters and digits only: the driver
+    // turns anything else in a title into "_".
+    QString title(const char *what) const
+    {
+        return QStringLiteral("quirratest%1%2").arg(QCoreApplication::applicationPid()).arg(what);
+    }
 
     QString m_queue;
     QString m_outDir;
     std::optional<HostRecorder> m_host;
     QStringList m_made;
 };
-
-// Job titles unique to this process, in letters and digits only: the driver
-// turns anything else in a title into "_".
-QString TestCupsPrint::title(const char *what) const
-{
-    return QStringLiteral("quirratest%1%2").arg(QCoreApplication::applicationPid()).arg(what);
-}
 
 QTEST_MAIN(TestCupsPrint)
 #include "tst_cupsprint.moc"

@@ -319,28 +319,26 @@ private Q_SLOTS:
     }
 
 private:
-    static void useLabelSheet(int across, int down);
+    static void useLabelSheet(int across, int down)
+    {
+        Piece &p = PieceModel::shared().piece;
+        p.PieceNumAcross = qint16(across);
+        p.PieceNumDown = qint16(down);
+        p.PieceWidth = 2.f;
+        p.PieceHeight = 1.f;
+        p.PiecePitchHorz = 2.5f;
+        p.PiecePitchVert = 1.25f;
+        p.PieceMarginLeft = 0.5f;
+        p.PieceMarginTop = 0.5f;
+        for (ItemId id : StorageOrder)
+            PieceModel::shared().item(id).Visible = false;
+        Item &address = PieceModel::shared().item(ItemId::Address);
+        address.Visible = true;
+        address.Width = 1.5f;
+        address.Height = 0.75f;
+    }
     QStringList m_messages;
 };
-
-void TestPrintRun::useLabelSheet(int across, int down)
-{
-    Piece &p = PieceModel::shared().piece;
-    p.PieceNumAcross = qint16(across);
-    p.PieceNumDown = qint16(down);
-    p.PieceWidth = 2.f;
-    p.PieceHeight = 1.f;
-    p.PiecePitchHorz = 2.5f;
-    p.PiecePitchVert = 1.25f;
-    p.PieceMarginLeft = 0.5f;
-    p.PieceMarginTop = 0.5f;
-    for (ItemId id : StorageOrder)
-        PieceModel::shared().item(id).Visible = false;
-    Item &address = PieceModel::shared().item(ItemId::Address);
-    address.Visible = true;
-    address.Width = 1.5f;
-    address.Height = 0.75f;
-}
 
 QTEST_GUILESS_MAIN(TestPrintRun)
 #include "tst_printrun.moc"

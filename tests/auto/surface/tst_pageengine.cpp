@@ -9,7 +9,6 @@
 #include <QPainter>
 #include <QTest>
 
-
 using namespace quirra;
 
 namespace {
@@ -68,9 +67,28 @@ class TestPageEngine : public QObject
 
 private:
     // Prints script to a PDF file in print mode and returns its path.
-    QString print(const QString &name, const Script &script, QPoint origin = QPoint());
+    QString print(const QString &name, const Script &script, QPoint origin = QPoint())
+    {
+        const QString path = m_dir.filePath(name + u".pdf");
+        PdfTarget target(path);
+        PageEngine engine;
+        engine.setPrintTarget(&target);
+        engine.setPreview(false);
+        engine.setPrintableOrigin(origin.x(), origin.y());
+        script(engine);
+        return path;
+    }
     // Records script in preview and paints page 1 at dpi into a white image.
-    static QImage previewImage(const Script &script, int dpi);
+    static QImage previewImage(const Script &script, int dpi)
+    {
+        PageEngine engine;
+        script(engine);
+        QImage image((engine.pageSizeTwips(1) * dpi / 1440.0).toSize(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        engine.paintPage(painter, 1, dpi);
+        return image;
+    }
 
     QTemporaryDir m_dir;
 
@@ -621,29 +639,6 @@ private Q_SLOTS:
                                 .arg(afterAll)));
     }
 };
-
-QString TestPageEngine::print(const QString &name, const Script &script, QPoint origin)
-{
-    const QString path = m_dir.filePath(name + u".pdf");
-    PdfTarget target(path);
-    PageEngine engine;
-    engine.setPrintTarget(&target);
-    engine.setPreview(false);
-    engine.setPrintableOrigin(origin.x(), origin.y());
-    script(engine);
-    return path;
-}
-
-QImage TestPageEngine::previewImage(const Script &script, int dpi)
-{
-    PageEngine engine;
-    script(engine);
-    QImage image((engine.pageSizeTwips(1) * dpi / 1440.0).toSize(), QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    engine.paintPage(painter, 1, dpi);
-    return image;
-}
 
 QTEST_MAIN(TestPageEngine)
 #include "tst_pageengine.moc"
