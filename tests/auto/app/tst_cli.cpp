@@ -71,55 +71,52 @@ private Q_SLOTS:
         columns<QStringList, int, QStringList>("arguments", "status", "message");
 
         const QString pdf = QStringLiteral("--pdf=%OUT%/out.pdf");
-        auto csv = [](const char *name) -> QString {
-            return QStringLiteral("%DATA%/") + QLatin1String(name);
-        };
         const auto row = [](const char *tag, const QStringList &arguments, int status,
                             const QStringList &message) {
             QTest::newRow(tag) << arguments << status << message;
         };
-        row("empty-file", {pdf, csv("empty.csv")}, 1,
+        row("empty-file", {pdf, "%DATA%/empty.csv"}, 1,
             {"empty.csv: the file is empty", "header row"});
-        row("header-only", {pdf, csv("header_only.csv")}, 1,
+        row("header-only", {pdf, "%DATA%/header_only.csv"}, 1,
             {"header_only.csv: no records after the header"});
-        row("ragged-row", {pdf, csv("ragged.csv")}, 1,
+        row("ragged-row", {pdf, "%DATA%/ragged.csv"}, 1,
             {"ragged.csv: line 4: the row has 5 fields but the header has 6"});
-        row("set-without-equals", {pdf, "--set", "ReturnText", csv("people.csv")}, 2,
+        row("set-without-equals", {pdf, "--set", "ReturnText", "%DATA%/people.csv"}, 2,
             {"write it as NAME=VALUE"});
-        row("layout-not-json", {pdf, "--layout", csv("broken_layout.json"), csv("people.csv")}, 1,
-            {"--layout", "broken_layout.json"});
-        row("pdf-folder-missing", {"--pdf", "%OUT%/no/such/folder/out.pdf", csv("people.csv")}, 1,
+        row("layout-not-json", {pdf, "--layout", "%DATA%/broken_layout.json", "%DATA%/people.csv"},
+            1, {"--layout", "broken_layout.json"});
+        row("pdf-folder-missing", {"--pdf", "%OUT%/no/such/folder/out.pdf", "%DATA%/people.csv"}, 1,
             {"does not exist"});
-        row("pdf-and-printer", {pdf, "--printer", "lp", csv("people.csv")}, 2,
+        row("pdf-and-printer", {pdf, "--printer", "lp", "%DATA%/people.csv"}, 2,
             {"either --pdf or --printer"});
-        row("unknown-printer", {"--printer", "no-such-printer", csv("people.csv")}, 1,
+        row("unknown-printer", {"--printer", "no-such-printer", "%DATA%/people.csv"}, 1,
             {"there is no printer named \"no-such-printer\""});
-        row("unknown-piece", {pdf, "--piece", "5160", csv("people.csv")}, 2,
+        row("unknown-piece", {pdf, "--piece", "5160", "%DATA%/people.csv"}, 2,
             {"no piece \"5160\"; did you mean \"5160 - Address Labels\""});
         row("unknown-piece-in-layout",
-            {pdf, "--layout", csv("unknown_piece_layout.json"), csv("people.csv")}, 2,
+            {pdf, "--layout", "%DATA%/unknown_piece_layout.json", "%DATA%/people.csv"}, 2,
             {"unknown_piece_layout.json: the catalogue has no piece \"5160 Address "
              "Labels\"; did you mean \"5160 - Address Labels\""});
         row("text-over-64-kib",
-            {pdf, "--set", "ReturnText=" + QString(70000, QLatin1Char('x')), csv("people.csv")}, 1,
-            {"ReturnText is 70000 characters long; a text may have at most 65536"});
-        row("length-beyond-any-sheet", {pdf, "--set", "AddressTop=250", csv("people.csv")}, 1,
+            {pdf, "--set", "ReturnText=" + QString(70000, QLatin1Char('x')), "%DATA%/people.csv"},
+            1, {"ReturnText is 70000 characters long; a text may have at most 65536"});
+        row("length-beyond-any-sheet", {pdf, "--set", "AddressTop=250", "%DATA%/people.csv"}, 1,
             {"AddressTop is 250 in; a length on a sheet is from 0 to 100 in"});
-        row("scale-beyond-the-range", {pdf, "--set", "PrinterScaleX=120", csv("people.csv")}, 1,
+        row("scale-beyond-the-range", {pdf, "--set", "PrinterScaleX=120", "%DATA%/people.csv"}, 1,
             {"PrinterScaleX is 120 %; the printer's scale is from 90 to 110 %"});
-        row("unknown-option", {pdf, "--colour", "red", csv("people.csv")}, 2,
+        row("unknown-option", {pdf, "--colour", "red", "%DATA%/people.csv"}, 2,
             {"quirra print: Unknown option 'colour'"});
-        row("copies-not-a-whole-number", {pdf, "--copies-column", "Last", csv("people.csv")}, 1,
+        row("copies-not-a-whole-number", {pdf, "--copies-column", "Last", "%DATA%/people.csv"}, 1,
             {"people.csv: line 2: the copies column \"Last\" holds \"Holloway\""});
-        row("pages-beyond-the-run", {pdf, "--pages", "5-6", csv("people.csv")}, 1,
+        row("pages-beyond-the-run", {pdf, "--pages", "5-6", "%DATA%/people.csv"}, 1,
             {"pages 5-6: the pieces fill fewer pages than that"});
-        row("pages-backwards", {pdf, "--pages", "3-2", csv("people.csv")}, 2,
+        row("pages-backwards", {pdf, "--pages", "3-2", "%DATA%/people.csv"}, 2,
             {"--pages 3-2: give a page or a range"});
         row("start-beyond-the-sheet",
-            {pdf, "--piece", "5160 - Address Labels", "--start", "31", csv("people.csv")}, 1,
+            {pdf, "--piece", "5160 - Address Labels", "--start", "31", "%DATA%/people.csv"}, 1,
             {"--start 31: the sheet of \"5160 - Address Labels\" has 30 slots"});
         // A layout that cannot be laid out fails in the print run itself.
-        row("no-piece-across", {pdf, "--set", "PieceNumAcross=0", csv("people.csv")}, 1,
+        row("no-piece-across", {pdf, "--set", "PieceNumAcross=0", "%DATA%/people.csv"}, 1,
             {"has 0 pieces across; set PieceNumAcross to 1 or more"});
     }
 

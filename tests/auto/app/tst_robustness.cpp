@@ -70,19 +70,7 @@ const QByteArray Clean = "Ann,Lee,12 Elm St,Troy,NY,12180\n";
 // The state is far too long for the city line: the line is left out.
 const QByteArray LongState = "Bob,Roe,4 Oak Ave,Troy,NEW YORK STATE OF AMERICA,12180\n";
 
-// The inputs, by name: a CSV file's bytes, or a catalogue's.
-QByteArray makeCsv(const QString &kind)
-{
-    if (kind == QLatin1String("long-value")) {
-        return Header + "Margaret,Holloway," + QByteArray(10000, 'x') +
-               ",Springfield,IL,62704\nDaniel,Okafor,88 Harbor View Dr,Portland,ME,04101\n";
-    }
-    if (kind == QLatin1String("random-bytes"))
-        return junk(1 << 20, 7);
-    if (kind == QLatin1String("nul-bytes"))
-        return Header + QByteArray(1000, '\0') + '\n';
-    return Header + "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704\n";
-}
+const QByteArray Holloway = "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704\n";
 
 } // namespace
 
@@ -107,28 +95,32 @@ private Q_SLOTS:
 
     void hostileInput_data()
     {
-        // csv: what makeCsv() makes
+        // csv: the input file; none when empty
         // junkCatalogue: 10 MB of random bytes as quirra.cfg
         // message: on standard error
         // pages: of the PDF when the run succeeds
-        columns<QString, bool, QStringList, int, QString, int>("csv", "junkCatalogue", "arguments",
-                                                               "status", "message", "pages");
+        columns<QByteArray, bool, QStringList, int, QString, int>(
+            "csv", "junkCatalogue", "arguments", "status", "message", "pages");
 
         const QStringList labels{"print", "--piece", "5160 - Address Labels", "--pdf", "%OUT%"};
         QTest::newRow("value-of-10000-characters")
-            << "long-value" << false << labels << 0 << "2 records, 1 page" << 1;
+            << Header + "Margaret,Holloway," + QByteArray(10000, 'x') +
+                   ",Springfield,IL,62704\nDaniel,Okafor,88 Harbor View Dr,Portland,ME,04101\n"
+            << false << labels << 0 << "2 records, 1 page" << 1;
         QTest::newRow("csv-of-random-bytes")
-            << "random-bytes" << false << labels << 1 << "line 1" << 0;
-        QTest::newRow("csv-of-nul-bytes") << "nul-bytes" << false << labels << 1 << "line 2" << 0;
+            << junk(1 << 20, 7) << false << labels << 1 << "line 1" << 0;
+        QTest::newRow("csv-of-nul-bytes") << Header + QByteArray(1000, '\0') + '\n'
+                                          << false << labels << 1 << "line 2" << 0;
         QTest::newRow("print-with-junk-catalogue")
-            << "plain" << true << labels << 1 << "quirra.cfg: line 1: the text is not UTF-8" << 0;
-        QTest::newRow("list-junk-catalogue") << "" << true << QStringList{"pieces"} << 1
+            << Header + Holloway << true << labels << 1
+            << "quirra.cfg: line 1: the text is not UTF-8" << 0;
+        QTest::newRow("list-junk-catalogue") << QByteArray() << true << QStringList{"pieces"} << 1
                                              << "quirra.cfg: line 1: the text is not UTF-8" << 0;
     }
 
     void hostileInput()
     {
-        QFETCH(QString, csv);
+        QFETCH(QByteArray, csv);
         QFETCH(bool, junkCatalogue);
         QFETCH(QStringList, arguments);
         QFETCH(int, status);
@@ -144,7 +136,7 @@ private Q_SLOTS:
         const QString pdf = m_dir->filePath(QStringLiteral("out.pdf"));
         arguments.replaceInStrings(QStringLiteral("%OUT%"), pdf);
         if (!csv.isEmpty())
-            arguments << write(QStringLiteral("in.csv"), makeCsv(csv));
+            arguments << write(QStringLiteral("in.csv"), csv);
 
         const QuirraRun run = runQuirra(m_dir->path(), arguments, {}, env);
         QVERIFY2(run.status == status, qPrintable(run.err));
@@ -192,7 +184,7 @@ private Q_SLOTS:
                                  m_dir->filePath(QStringLiteral("out.pdf"))} +
                          settings + QStringList{"-"});
         QVERIFY(quirra.waitForStarted());
-        quirra.write(Header + "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704\n");
+        quirra.write(Header + Holloway);
         QVERIFY(quirra.waitForBytesWritten());
 
         QString spool;
@@ -243,7 +235,7 @@ private Q_SLOTS:
 
         const QuirraRun run = runQuirra(
             m_dir->path(), {"print", "--pdf", m_dir->filePath(QStringLiteral("out.pdf")), "-"},
-            Header + "Margaret,Holloway,1427 Birchwood Ln,Springfield,IL,62704\n", environment());
+            Header + Holloway, environment());
         ::close(fd);
         QVERIFY2(run.status == 0, qPrintable(run.err));
         QCOMPARE(leftFiles(m_tmp->path()), QStringList{held});
