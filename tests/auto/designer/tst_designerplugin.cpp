@@ -106,7 +106,8 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QVariant, written);
         QFETCH(QVariant, read);
-        QDesignerPropertySheetExtension *properties = sheet();
+        auto *properties =
+            qt_extension<QDesignerPropertySheetExtension *>(m_core->extensionManager(), m_quirra);
         const int index = properties->indexOf(name);
         QVERIFY(index >= 0);
         QVERIFY(properties->isVisible(index));
@@ -210,11 +211,6 @@ private:
         m_quirra = m_form->findChild<Quirra *>(QStringLiteral("envelope"));
         QVERIFY(m_quirra);
         QCOMPARE(m_quirra->PieceName(), QStringLiteral("5160 - Address Labels"));
-    }
-    QDesignerPropertySheetExtension *sheet() const
-    {
-        return qt_extension<QDesignerPropertySheetExtension *>(m_core->extensionManager(),
-                                                               m_quirra);
     }
     QDesignerTaskMenuExtension *taskMenu(QObject *widget) const
     {

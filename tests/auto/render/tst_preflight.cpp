@@ -21,7 +21,7 @@
 
 using namespace quirra;
 
-Q_DECLARE_METATYPE(QList<int>)
+Q_DECLARE_METATYPE(QList<quirra::NoteKind>)
 Q_DECLARE_METATYPE(std::function<void(quirra::PieceModel &)>)
 
 namespace {
@@ -68,16 +68,10 @@ private Q_SLOTS:
         // record: the first record noted
         // count: records with the first kind
         // detail: part of the first kind's detail
-        columns<QString, Tweak, QStringList, QList<int>, int, int, QString>(
+        columns<QString, Tweak, QStringList, QList<NoteKind>, int, int, QString>(
             "piece", "tweak", "second", "kinds", "record", "count", "detail");
 
         const QStringList bob = person("Bob", "Roe");
-        const auto kinds = [](std::initializer_list<NoteKind> list) {
-            QList<int> k;
-            for (NoteKind kind : list)
-                k << int(kind);
-            return k;
-        };
         const Tweak offLabel = [](PieceModel &model) {
             Item &frame = model.item(ItemId::Message1);
             frame.Text.clear(); // an empty frame: only the box is off
@@ -89,47 +83,46 @@ private Q_SLOTS:
             frame.Left = 2.7f;
         };
         const auto row = [](const char *tag, const QString &piece, const Tweak &tweak,
-                            const QStringList &second, const QList<int> &kinds, int record,
+                            const QStringList &second, const QList<NoteKind> &kinds, int record,
                             int count, const QString &detail) {
             QTest::newRow(tag) << piece << tweak << second << kinds << record << count << detail;
         };
-        row("clean", Envelope, {}, bob, QList<int>(), 0, 0, QString());
+        row("clean", Envelope, {}, bob, {}, 0, 0, QString());
         // 162 mm is 459.2 pt; the paper is 459 pt, and nothing is lost.
-        row("clean-c6-on-its-whole-point-paper", "C6 - Envelope", {}, bob, QList<int>(), 0, 0,
-            QString());
+        row("clean-c6-on-its-whole-point-paper", "C6 - Envelope", {}, bob, {}, 0, 0, QString());
         row("city-line-left-out", Envelope, {},
             person("Bob", "Roe", "Troy", "NEW YORK STATE OF AMERICA", "12180-0000-0000-0000"),
-            kinds({NoteKind::CityLineLeftOut}), 2, 1, "twips wide, the limit is 3,500");
+            {NoteKind::CityLineLeftOut}, 2, 1, "twips wide, the limit is 3,500");
         row("city-shortened", Envelope, {},
             person("Bob", "Roe", "Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch"),
-            kinds({NoteKind::CityLineShortened}), 2, 1, "gogogoch,\" cut");
+            {NoteKind::CityLineShortened}, 2, 1, "gogogoch,\" cut");
         row(
             "text-beyond-item", Envelope,
             [](PieceModel &m) { m.item(ItemId::Address).Height = 0.1f; }, bob,
-            kinds({NoteKind::TextBeyondItem}), 1, 2, "Address text is");
+            {NoteKind::TextBeyondItem}, 1, 2, "Address text is");
         row("text-cut-at-piece", Labels, {},
-            person("Bob", QStringLiteral("Longname ").repeated(70)),
-            kinds({NoteKind::TextCutAtPiece}), 2, 1, "past the piece's bottom edge");
-        row("item-off-piece", Labels, offLabel, bob, kinds({NoteKind::ItemOffPiece}), 1, 2,
+            person("Bob", QStringLiteral("Longname ").repeated(70)), {NoteKind::TextCutAtPiece}, 2,
+            1, "past the piece's bottom edge");
+        row("item-off-piece", Labels, offLabel, bob, {NoteKind::ItemOffPiece}, 1, 2,
             "Message1 box lies wholly outside the piece");
         row(
             "item-off-page", Envelope, [](PieceModel &m) { m.item(ItemId::Address).Top = 25; }, bob,
-            kinds({NoteKind::TextCutAtPiece, NoteKind::ItemOffPage}), 1, 2,
+            {NoteKind::TextCutAtPiece, NoteKind::ItemOffPage}, 1, 2,
             "lies wholly outside the piece");
         row(
             "piece-off-page", Labels, [](PieceModel &m) { m.piece.PieceMarginTop = 12.7f; }, bob,
-            kinds({NoteKind::PieceOffPage}), 1, 2, "lies wholly outside the page");
+            {NoteKind::PieceOffPage}, 1, 2, "lies wholly outside the page");
         row("undrawable-characters", Envelope, {}, person("Bob", QStringLiteral("Roe\u0378")),
-            kinds({NoteKind::UndrawableCharacters}), 2, 1, "U+0378");
+            {NoteKind::UndrawableCharacters}, 2, 1, "U+0378");
         row("accented-letters-are-drawn", Envelope, {}, person("Zoë", QStringLiteral("Ångström")),
-            QList<int>(), 0, 0, QString());
-        row("empty-record", Envelope, {}, QStringList(8, QString()), kinds({NoteKind::EmptyRecord}),
-            2, 1, "no name and no address");
+            {}, 0, 0, QString());
+        row("empty-record", Envelope, {}, QStringList(8, QString()), {NoteKind::EmptyRecord}, 2, 1,
+            "no name and no address");
         // The second digit of the tracking code is 0 to 4.
         row(
             "barcode-invalid", Envelope, [](PieceModel &m) { m.AddressBarcode = true; },
-            bob + QStringList{QString(), "05234567094987654321"}, kinds({NoteKind::BarcodeInvalid}),
-            2, 1, "\"05234567094987654321\": the second digit");
+            bob + QStringList{QString(), "05234567094987654321"}, {NoteKind::BarcodeInvalid}, 2, 1,
+            "\"05234567094987654321\": the second digit");
     }
 
     void notes()
@@ -137,7 +130,7 @@ private Q_SLOTS:
         QFETCH(QString, piece);
         QFETCH(Tweak, tweak);
         QFETCH(QStringList, second);
-        QFETCH(QList<int>, kinds);
+        QFETCH(QList<NoteKind>, kinds);
         QFETCH(int, record);
         QFETCH(QString, detail);
 
@@ -156,21 +149,21 @@ private Q_SLOTS:
         QCOMPARE(run.piecesDrawn(), qint64(2));
 
         const RunReport &report = run.report();
-        QList<int> noted;
+        QList<NoteKind> noted;
         for (int k = 0; k < NoteKindCount; ++k) {
             if (report.count(NoteKind(k)) > 0)
-                noted << k;
+                noted << NoteKind(k);
         }
         QCOMPARE(noted, kinds);
         if (kinds.isEmpty())
             return;
-        const Note *first = report.firstOf(NoteKind(kinds.first()));
+        const Note *first = report.firstOf(kinds.first());
         QVERIFY(first);
         QCOMPARE(first->record, qint64(record));
         const QString name = QStringList{second[0], second[2]}.join(' ').trimmed();
         QCOMPARE(first->name, record == 1 ? QStringLiteral("Ann Lee") : name);
         QVERIFY2(first->detail.contains(detail), qPrintable(first->detail));
-        QTEST(int(report.count(NoteKind(kinds.first()))), "count");
+        QTEST(int(report.count(kinds.first())), "count");
     }
 
     void longRunKeepsFewNotes()

@@ -19,7 +19,6 @@ private Q_SLOTS:
     void init()
     {
         PieceModel::resetShared();
-        m_messages.clear();
         useLabelSheet(1, 1);
         fixture::newSpool();
     }
@@ -81,9 +80,10 @@ private Q_SLOTS:
         RecordingSurface surface;
         surface.startError = 3;
         PrintRun run(PieceModel::shared(), SharedSpool::instance().reader());
-        run.setMessageSink([this](const QString &text) { m_messages.append(text); });
+        QStringList messages;
+        run.setMessageSink([&](const QString &text) { messages.append(text); });
         run.RunPrintJob(surface);
-        QCOMPARE(m_messages, QStringList(QStringLiteral("Ptr.error = 3")));
+        QCOMPARE(messages, QStringList(QStringLiteral("Ptr.error = 3")));
         QCOMPARE(surface.count(QStringLiteral("box")), 0);
         QCOMPARE(surface.calls.last(), QStringLiteral("action 6")); // the end is sent all the same
     }
@@ -336,7 +336,6 @@ private:
         address.Width = 1.5f;
         address.Height = 0.75f;
     }
-    QStringList m_messages;
 };
 
 QTEST_GUILESS_MAIN(TestPrintRun)
