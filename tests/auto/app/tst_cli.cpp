@@ -11,11 +11,7 @@
 #include "control/quirra.h"
 #include "properties/jsonpropertybag.h"
 
-#include <QDir>
-#include <QImage>
-#include <QProcess>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -75,69 +71,65 @@ private Q_SLOTS:
         columns<QStringList, int, QStringList>("arguments", "status", "message");
 
         const QString pdf = QStringLiteral("--pdf=%OUT%/out.pdf");
-        auto csv = [](const char *name) -> QString {
-            return QStringLiteral("%DATA%/") + QLatin1String(name);
-        };
         const auto row = [](const char *tag, const QStringList &arguments, int status,
                             const QStringList &message) {
             QTest::newRow(tag) << arguments << status << message;
         };
-        row("empty-file", {pdf, csv("empty.csv")}, 1,
+        row("empty-file", {pdf, "%DATA%/empty.csv"}, 1,
             {"empty.csv: the file is empty", "header row"});
-        row("header-only", {pdf, csv("header_only.csv")}, 1,
+        row("header-only", {pdf, "%DATA%/header_only.csv"}, 1,
             {"header_only.csv: no records after the header"});
-        row("ragged-row", {pdf, csv("ragged.csv")}, 1,
+        row("ragged-row", {pdf, "%DATA%/ragged.csv"}, 1,
             {"ragged.csv: line 4: the row has 5 fields but the header has 6"});
-        row("set-without-equals", {pdf, "--set", "ReturnText", csv("people.csv")}, 2,
+        row("set-without-equals", {pdf, "--set", "ReturnText", "%DATA%/people.csv"}, 2,
             {"write it as NAME=VALUE"});
-        row("layout-not-json", {pdf, "--layout", csv("broken_layout.json"), csv("people.csv")}, 1,
-            {"--layout", "broken_layout.json"});
-        row("pdf-folder-missing", {"--pdf", "%OUT%/no/such/folder/out.pdf", csv("people.csv")}, 1,
+        row("layout-not-json", {pdf, "--layout", "%DATA%/broken_layout.json", "%DATA%/people.csv"},
+            1, {"--layout", "broken_layout.json"});
+        row("pdf-folder-missing", {"--pdf", "%OUT%/no/such/folder/out.pdf", "%DATA%/people.csv"}, 1,
             {"does not exist"});
-        row("pdf-and-printer", {pdf, "--printer", "lp", csv("people.csv")}, 2,
+        row("pdf-and-printer", {pdf, "--printer", "lp", "%DATA%/people.csv"}, 2,
             {"either --pdf or --printer"});
-        row("unknown-printer", {"--printer", "no-such-printer", csv("people.csv")}, 1,
+        row("unknown-printer", {"--printer", "no-such-printer", "%DATA%/people.csv"}, 1,
             {"there is no printer named \"no-such-printer\""});
-        row("unknown-piece", {pdf, "--piece", "5160", csv("people.csv")}, 2,
+        row("unknown-piece", {pdf, "--piece", "5160", "%DATA%/people.csv"}, 2,
             {"no piece \"5160\"; did you mean \"5160 - Address Labels\""});
         row("unknown-piece-in-layout",
-            {pdf, "--layout", csv("unknown_piece_layout.json"), csv("people.csv")}, 2,
+            {pdf, "--layout", "%DATA%/unknown_piece_layout.json", "%DATA%/people.csv"}, 2,
             {"unknown_piece_layout.json: the catalogue has no piece \"5160 Address "
              "Labels\"; did you mean \"5160 - Address Labels\""});
         row("text-over-64-kib",
-            {pdf, "--set", "ReturnText=" + QString(70000, QLatin1Char('x')), csv("people.csv")}, 1,
-            {"ReturnText is 70000 characters long; a text may have at most 65536"});
-        row("length-beyond-any-sheet", {pdf, "--set", "AddressTop=250", csv("people.csv")}, 1,
+            {pdf, "--set", "ReturnText=" + QString(70000, QLatin1Char('x')), "%DATA%/people.csv"},
+            1, {"ReturnText is 70000 characters long; a text may have at most 65536"});
+        row("length-beyond-any-sheet", {pdf, "--set", "AddressTop=250", "%DATA%/people.csv"}, 1,
             {"AddressTop is 250 in; a length on a sheet is from 0 to 100 in"});
-        row("scale-beyond-the-range", {pdf, "--set", "PrinterScaleX=120", csv("people.csv")}, 1,
+        row("scale-beyond-the-range", {pdf, "--set", "PrinterScaleX=120", "%DATA%/people.csv"}, 1,
             {"PrinterScaleX is 120 %; the printer's scale is from 90 to 110 %"});
-        row("unknown-option", {pdf, "--colour", "red", csv("people.csv")}, 2,
+        row("unknown-option", {pdf, "--colour", "red", "%DATA%/people.csv"}, 2,
             {"quirra print: Unknown option 'colour'"});
-        row("copies-not-a-whole-number", {pdf, "--copies-column", "Last", csv("people.csv")}, 1,
+        row("copies-not-a-whole-number", {pdf, "--copies-column", "Last", "%DATA%/people.csv"}, 1,
             {"people.csv: line 2: the copies column \"Last\" holds \"Holloway\""});
-        row("pages-beyond-the-run", {pdf, "--pages", "5-6", csv("people.csv")}, 1,
+        row("pages-beyond-the-run", {pdf, "--pages", "5-6", "%DATA%/people.csv"}, 1,
             {"pages 5-6: the pieces fill fewer pages than that"});
-        row("pages-backwards", {pdf, "--pages", "3-2", csv("people.csv")}, 2,
+        row("pages-backwards", {pdf, "--pages", "3-2", "%DATA%/people.csv"}, 2,
             {"--pages 3-2: give a page or a range"});
         row("start-beyond-the-sheet",
-            {pdf, "--piece", "5160 - Address Labels", "--start", "31", csv("people.csv")}, 1,
+            {pdf, "--piece", "5160 - Address Labels", "--start", "31", "%DATA%/people.csv"}, 1,
             {"--start 31: the sheet of \"5160 - Address Labels\" has 30 slots"});
         // A layout that cannot be laid out fails in the print run itself.
-        row("no-piece-across", {pdf, "--set", "PieceNumAcross=0", csv("people.csv")}, 1,
+        row("no-piece-across", {pdf, "--set", "PieceNumAcross=0", "%DATA%/people.csv"}, 1,
             {"has 0 pieces across; set PieceNumAcross to 1 or more"});
     }
 
     void badInputLeavesNoFile()
     {
         QFETCH(QStringList, arguments);
-        QFETCH(int, status);
         QFETCH(QStringList, message);
 
         // An older file of the target's name stays as it was.
         QVERIFY(fixture::overwrite(out(QStringLiteral("out.pdf")), "older run"));
 
         const Run run = quirra(QStringList{QStringLiteral("print")} + expand(arguments));
-        QCOMPARE(run.status, status);
+        QTEST(run.status, "status");
         for (const QString &part : message)
             QVERIFY2(run.err.contains(part), qPrintable(run.err));
         QVERIFY2(!run.err.contains(QLatin1String("records,")), qPrintable(run.err));
@@ -189,22 +181,12 @@ private Q_SLOTS:
 
         const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
         QCOMPARE(sizes.size(), pages);
-        QVERIFY(qAbs(sizes.first().width() - pageSize.width()) < 1);
-        QVERIFY(qAbs(sizes.first().height() - pageSize.height()) < 1);
+        QCOMPARE(sizes.first().toSize(), pageSize.toSize());
 
         // The first record starts the first label; the last one is on the last page.
         const QList<pdfprobe::Word> words = pdfprobe::words(pdf);
-        QVERIFY(!words.isEmpty());
-        const pdfprobe::Word &first = words.first();
-        QCOMPARE(first.text, QStringLiteral("Margaret"));
-        QCOMPARE(first.page, 1);
-        const pdfprobe::Word *last = nullptr;
-        for (const pdfprobe::Word &w : words) {
-            if (w.text == lastFirstName)
-                last = &w;
-        }
-        QVERIFY(last);
-        QCOMPARE(last->page, pages);
+        QCOMPARE(pdfprobe::find(words, QStringLiteral("Margaret"), 1), words.constData());
+        QVERIFY(pdfprobe::find(words, lastFirstName, pages));
     }
 
     // The first page's lines, top to bottom, and where the address starts.
@@ -443,9 +425,8 @@ private Q_SLOTS:
         const QString pdf = out(QStringLiteral("calibration.pdf"));
         const Run run = quirra({"calibrate", "--piece", piece, "--pdf", pdf});
         QVERIFY2(run.status == 0, qPrintable(run.err));
-        const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
-        QVERIFY(sizes.size() == 1 && qAbs(sizes[0].width() - paper.width()) < 1 &&
-                qAbs(sizes[0].height() - paper.height()) < 1);
+        QCOMPARE(pdfprobe::pageSizes(pdf).size(), 1);
+        QCOMPARE(pdfprobe::pageSizes(pdf).first().toSize(), paper.toSize());
 
         // A ruler number stands at its tick, n inches or n cm from the paper's
         // left edge (across the top) or top edge (down the side), whole on the
@@ -546,27 +527,23 @@ private Q_SLOTS:
     }
 
 private:
-    Run quirra(const QStringList &arguments, const QByteArray &input = {});
+    Run quirra(const QStringList &arguments, const QByteArray &input = {})
+    {
+        return runQuirra(m_dir->path(), arguments, input);
+    }
     QString out(const QString &name) const { return m_dir->filePath(name); }
-    QStringList expand(QStringList arguments) const;
+    // "%DATA%/x.csv" names a fixture, "%OUT%/x" a file in the test's own folder.
+    QStringList expand(QStringList arguments) const
+    {
+        for (QString &a : arguments) {
+            a.replace(QLatin1String("%DATA%"), QStringLiteral(QUIRRA_TEST_DATA));
+            a.replace(QLatin1String("%OUT%"), m_dir->path());
+        }
+        return arguments;
+    }
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-Run TestCli::quirra(const QStringList &arguments, const QByteArray &input)
-{
-    return runQuirra(m_dir->path(), arguments, input);
-}
-
-// "%DATA%/x.csv" names a fixture, "%OUT%/x" a file in the test's own folder.
-QStringList TestCli::expand(QStringList arguments) const
-{
-    for (QString &a : arguments) {
-        a.replace(QLatin1String("%DATA%"), QStringLiteral(QUIRRA_TEST_DATA));
-        a.replace(QLatin1String("%OUT%"), m_dir->path());
-    }
-    return arguments;
-}
 
 QTEST_MAIN(TestCli)
 #include "tst_cli.moc"

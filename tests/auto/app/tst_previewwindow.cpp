@@ -11,13 +11,10 @@
 #include "control/quirra.h"
 #include "printing/printsurface.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QPrinter>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace quirra;
@@ -30,12 +27,6 @@ struct PrintRow
     int hostFirst;       // SetPrintPages(hostFirst, 0) before the preview
     QString printer;     // a queue to print on instead of a PDF file
     QStringList outcome; // last names on the pages printed, the host's messages
-};
-
-struct ActionRow
-{
-    QString action, dialog, button;
-    bool refreshed;
 };
 
 class TestPreviewWindow : public QObject
@@ -98,10 +89,10 @@ private Q_SLOTS:
 
     void designActionsRefreshWhenAccepted_data()
     {
-        columns<ActionRow>("row");
+        columns<QString, QString, QString, bool>("action", "dialog", "button", "refreshed");
         const auto row = [](const char *tag, const QString &action, const QString &dialog,
                             const QString &button, bool refreshed) {
-            QTest::newRow(tag) << ActionRow{action, dialog, button, refreshed};
+            QTest::newRow(tag) << action << dialog << button << refreshed;
         };
         row("layout-ok", "edit_layout_act", "piece_layout_edit_form", "ok_btn", true);
         row("layout-cancel", "edit_layout_act", "piece_layout_edit_form", "cancel_btn", false);
@@ -112,20 +103,23 @@ private Q_SLOTS:
 
     void designActionsRefreshWhenAccepted()
     {
-        QFETCH(ActionRow, row);
+        QFETCH(QString, action);
+        QFETCH(QString, dialog);
+        QFETCH(QString, button);
+        QFETCH(bool, refreshed);
         PreviewWindow window;
         window.show();
         feed(window);
         // A refresh shows the run again from its first page.
         window.control()->surface()->setPreviewPage(3);
-        auto *act = window.findChild<QAction *>(row.action);
+        auto *act = window.findChild<QAction *>(action);
         QVERIFY(act);
         ModalDriver driver;
-        driver.onModal(row.dialog, [&](QDialog *shown) { click(shown, qPrintable(row.button)); });
+        driver.onModal(dialog, [&](QDialog *shown) { click(shown, qPrintable(button)); });
         act->trigger();
 
         QVERIFY(driver.ranOnce());
-        QCOMPARE(window.control()->surface()->previewPage(), row.refreshed ? 1 : 3);
+        QCOMPARE(window.control()->surface()->previewPage(), refreshed ? 1 : 3);
     }
 
     void printButtons_data()
@@ -195,20 +189,18 @@ private Q_SLOTS:
     }
 
 private:
-    void feed(PreviewWindow &window);
+    void feed(PreviewWindow &window)
+    {
+        RecordFeed records(*window.control());
+        QString error;
+        QVERIFY2(records.open(QStringLiteral(QUIRRA_TEST_DATA "/people.csv"), &error),
+                 qPrintable(error));
+        QVERIFY2(records.feed({}, &error), qPrintable(error));
+        QCOMPARE(records.records(), qint64(4));
+        window.control()->PreviewNow();
+    }
     std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-void TestPreviewWindow::feed(PreviewWindow &window)
-{
-    RecordFeed records(*window.control());
-    QString error;
-    QVERIFY2(records.open(QStringLiteral(QUIRRA_TEST_DATA "/people.csv"), &error),
-             qPrintable(error));
-    QVERIFY2(records.feed({}, &error), qPrintable(error));
-    QCOMPARE(records.records(), qint64(4));
-    window.control()->PreviewNow();
-}
 
 QTEST_MAIN(TestPreviewWindow)
 #include "tst_previewwindow.moc"

@@ -9,18 +9,12 @@
 #include "controlsteps.h"
 #include "modaldriver.h"
 
-#include <QAction>
-#include <QFile>
-#include <QFileInfo>
-#include <QPluginLoader>
 #include <QUndoStack>
 #include <QtDesigner/QDesignerComponents>
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerFormWindowCursorInterface>
-#include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerIntegration>
-#include <QtDesigner/QDesignerPropertyEditorInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QDesignerTaskMenuExtension>
 #include <QtDesigner/QDesignerWidgetDataBaseInterface>
@@ -38,14 +32,6 @@ QVariantList valuesOf(const Quirra *widget)
     return values;
 }
 } // namespace
-
-struct SheetRow
-{
-    QString name;
-    QVariant written; // through the form's cursor, as the editor does
-    QByteArray type;
-    QVariant read;
-};
 
 class TestDesignerPlugin : public QObject
 {
@@ -80,8 +66,6 @@ private Q_SLOTS:
 
     void widgetBoxOffersTheControl()
     {
-        QCOMPARE(m_plugin->name(), QStringLiteral("Quirra"));
-        QCOMPARE(m_plugin->group(), QStringLiteral("QuirraControl"));
         QVERIFY(!m_plugin->icon().pixmap(32).isNull());
         QVERIFY(m_plugin->domXml().contains(QLatin1String("class=\"Quirra\"")));
         const QString header = m_plugin->includeFile();
@@ -102,35 +86,39 @@ private Q_SLOTS:
 
     void sheetGivesDesignerTypes_data()
     {
-        columns<SheetRow>("row");
+        // written: through the form's cursor, as the editor does
+        columns<QString, QVariant, QByteArray, QVariant>("name", "written", "type", "read");
         QTest::newRow("short-as-int")
-            << SheetRow{"ButtonMaxHeight", QVariant(300), QByteArray("int"), QVariant(300)};
+            << "ButtonMaxHeight" << QVariant(300) << QByteArray("int") << QVariant(300);
         QTest::newRow("short-kept-in-range")
-            << SheetRow{"PieceNumAcross", QVariant(70000), QByteArray("int"), QVariant(32767)};
+            << "PieceNumAcross" << QVariant(70000) << QByteArray("int") << QVariant(32767);
         QTest::newRow("float-as-double")
-            << SheetRow{"AddressTop", QVariant(1.3), QByteArray("double"), QVariant(1.3)};
+            << "AddressTop" << QVariant(1.3) << QByteArray("double") << QVariant(1.3);
         QTest::newRow("font-stays-font")
-            << SheetRow{"AddressFont", QVariant(), QByteArray("QFont"), QVariant()};
+            << "AddressFont" << QVariant() << QByteArray("QFont") << QVariant();
         QTest::newRow("alignment-stays-enum")
-            << SheetRow{"StampVertAlign", QVariant(),
-                        QByteArray("qdesigner_internal::PropertySheetEnumValue"), QVariant()};
+            << "StampVertAlign" << QVariant()
+            << QByteArray("qdesigner_internal::PropertySheetEnumValue") << QVariant();
     }
 
     void sheetGivesDesignerTypes()
     {
-        QFETCH(SheetRow, row);
-        QDesignerPropertySheetExtension *properties = sheet();
-        const int index = properties->indexOf(row.name);
+        QFETCH(QString, name);
+        QFETCH(QVariant, written);
+        QFETCH(QVariant, read);
+        auto *properties =
+            qt_extension<QDesignerPropertySheetExtension *>(m_core->extensionManager(), m_quirra);
+        const int index = properties->indexOf(name);
         QVERIFY(index >= 0);
         QVERIFY(properties->isVisible(index));
-        if (row.written.isValid())
-            m_form->cursor()->setWidgetProperty(m_quirra, row.name, row.written);
+        if (written.isValid())
+            m_form->cursor()->setWidgetProperty(m_quirra, name, written);
         const QVariant value = properties->property(index);
-        QCOMPARE(QByteArray(value.typeName()), row.type);
-        if (row.read.isValid()) {
-            QCOMPARE(value, row.read);
+        QTEST(QByteArray(value.typeName()), "type");
+        if (read.isValid()) {
+            QCOMPARE(value, read);
             QVERIFY(properties->isChanged(index));
-            QCOMPARE(m_quirra->property(row.name.toLatin1()).toFloat(), row.read.toFloat());
+            QCOMPARE(m_quirra->property(name.toLatin1()).toFloat(), read.toFloat());
         }
     }
 
@@ -223,11 +211,6 @@ private:
         m_quirra = m_form->findChild<Quirra *>(QStringLiteral("envelope"));
         QVERIFY(m_quirra);
         QCOMPARE(m_quirra->PieceName(), QStringLiteral("5160 - Address Labels"));
-    }
-    QDesignerPropertySheetExtension *sheet() const
-    {
-        return qt_extension<QDesignerPropertySheetExtension *>(m_core->extensionManager(),
-                                                               m_quirra);
     }
     QDesignerTaskMenuExtension *taskMenu(QObject *widget) const
     {

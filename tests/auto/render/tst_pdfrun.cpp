@@ -11,12 +11,9 @@
 #include "catalogue/pieceloader.h"
 #include "records/intelligentmail.h"
 #include "render/pdfexport.h"
-#include "render/printrun.h"
 #include "settings/files.h"
 
-#include <QImage>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace quirra;
@@ -79,7 +76,7 @@ private Q_SLOTS:
         model.item(ItemId::Return).Text = QStringLiteral("ACME Mail\r1 Way");
         model.item(ItemId::Stamp).Visible = false; // on the return's first line, far right
         fixture::feed({QStringLiteral("Ann;;Lee;1 Elm St;;Troy;NY;12180")});
-        const QString pdf = pdfPath(QStringLiteral("%1.pdf").arg(QTest::currentDataTag()));
+        const QString pdf = m_dir.filePath(QStringLiteral("%1.pdf").arg(QTest::currentDataTag()));
         QCOMPARE(PrintSpoolToPdf(pdf, model, SharedSpool::instance().reader()).errorCode, 0);
 
         const double boxLeft = std::max(18.0, std::lrint(it.Left * 1440) / 20.0);
@@ -149,7 +146,7 @@ private Q_SLOTS:
         for (int slot = 1; slot <= perSheet; ++slot)
             markers.append(QStringLiteral("Q%1").arg(slot));
         fixture::feed(markers);
-        const QString pdf = pdfPath(QStringLiteral("product.pdf"));
+        const QString pdf = m_dir.filePath(QStringLiteral("product.pdf"));
         QCOMPARE(PrintSpoolToPdf(pdf, model, SharedSpool::instance().reader()).errorCode, 0);
 
         const QList<QSizeF> sizes = pdfprobe::pageSizes(pdf);
@@ -218,7 +215,7 @@ private Q_SLOTS:
         for (ItemId id : {ItemId::Return, ItemId::Message1, ItemId::Message2, ItemId::Stamp})
             model.item(id).Visible = false;
         fixture::feed({QStringLiteral("Ann;;Lee;1 Elm St;;Troy;NY;%1;;%2").arg(zip, barCode)});
-        const QString pdf = pdfPath(QStringLiteral("imb.pdf"));
+        const QString pdf = m_dir.filePath(QStringLiteral("imb.pdf"));
         QCOMPARE(PrintSpoolToPdf(pdf, model, SharedSpool::instance().reader()).errorCode, 0);
         const QImage page = pdfprobe::pages(pdf, 600).value(0);
         QVERIFY(!page.isNull());
@@ -279,7 +276,6 @@ private Q_SLOTS:
     }
 
 private:
-    QString pdfPath(const QString &name) const { return m_dir.filePath(name); }
     QTemporaryDir m_dir;
 };
 

@@ -11,22 +11,19 @@
 #include "render/pdfexport.h"
 #include "render/previewrun.h"
 #include "render/printrun.h"
-#include "render/runreport.h"
 #include "surface/measuringsurface.h"
 #include "surface/pageengine.h"
 
-#include <QImage>
 #include <QPainter>
-#include <QRectF>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include <atomic>
+#include <functional>
 
 using namespace quirra;
 
-Q_DECLARE_METATYPE(QList<int>)
+Q_DECLARE_METATYPE(QList<quirra::NoteKind>)
+Q_DECLARE_METATYPE(std::function<void(quirra::PieceModel &)>)
 
 namespace {
 
@@ -40,58 +37,8 @@ QStringList person(const QString &first, const QString &last, const QString &cit
     return {first, QString(), last, QStringLiteral("12 Elm St"), QString(), city, state, zip};
 }
 
-enum Tweak {
-    None,
-    LowAddressBox,
-    FramedMessageOffLabel,
-    AddressTop25,
-    MarginTop127,
-    Barcode,
-    MessageTwipShort
-};
-
-void apply(Tweak tweak, PieceModel &model)
-{
-    switch (tweak) {
-    case None:
-        break;
-    case LowAddressBox:
-        model.item(ItemId::Address).Height = 0.1f;
-        break;
-    case FramedMessageOffLabel:
-        model.item(ItemId::Message1).Text.clear(); // an empty frame: only the box is off
-        model.item(ItemId::Message1).Border = 1;
-        model.item(ItemId::Message1).Visible = true;
-        model.item(ItemId::Message1).Top = 0.1f; // 0.5 x 0.3 in, just right of the label
-        model.item(ItemId::Message1).Height = 0.3f;
-        model.item(ItemId::Message1).Width = 0.5f;
-        model.item(ItemId::Message1).Left = 2.7f;
-        break;
-    case AddressTop25:
-        model.item(ItemId::Address).Top = 25;
-        break;
-    case MarginTop127:
-        model.piece.PieceMarginTop = 12.7f;
-        break;
-    case Barcode:
-        model.AddressBarcode = true;
-        break;
-    case MessageTwipShort: { // a twip narrower and lower than its one line of text
-        Item &message = model.item(ItemId::Message1);
-        message = Item{};
-        message.Text = QStringLiteral("Hi");
-        message.Wrap = false;
-        message.Left = message.Top = 1;
-        PageEngine engine;
-        engine.setFontName(message.Font.Name);
-        engine.setFontSize(message.Font.Size);
-        engine.textBox(message.Text, 0, 0, 2880, 720, false, true, false);
-        message.Width = float(engine.textWidthLaidOut() - 1) / 1440;
-        message.Height = float(engine.textHeight() - 1) / 1440;
-        break;
-    }
-    }
-}
+// A change to the layout the piece loads with.
+using Tweak = std::function<void(PieceModel &)>;
 
 // Share of dark pixels in a region of the page given in inches.
 double ink(const QImage &page, double dpi, const QRectF &inches)
@@ -122,71 +69,90 @@ private Q_SLOTS:
         // record: the first record noted
         // count: records with the first kind
         // detail: part of the first kind's detail
-        columns<QString, int, QStringList, QList<int>, int, int, QString>(
+        columns<QString, Tweak, QStringList, QList<NoteKind>, int, int, QString>(
             "piece", "tweak", "second", "kinds", "record", "count", "detail");
 
         const QStringList bob = person("Bob", "Roe");
-        const auto kinds = [](std::initializer_list<NoteKind> list) {
-            QList<int> k;
-            for (NoteKind kind : list)
-                k << int(kind);
-            return k;
+        const Tweak offLabel = [](PieceModel &model) {
+            Item &frame = model.item(ItemId::Message1);
+            frame.Text.clear(); // an empty frame: only the box is off
+            frame.Border = 1;
+            frame.Visible = true;
+            frame.Top = 0.1f; // 0.5 x 0.3 in, just right of the label
+            frame.Height = 0.3f;
+            frame.Width = 0.5f;
+            frame.Left = 2.7f;
         };
-        const auto row = [](const char *tag, const QString &piece, int tweak,
-                            const QStringList &second, const QList<int> &kinds, int record,
+        const Tweak twipShort = [](PieceModel &model) { // a twip short of its text each way
+            Item &message = model.item(ItemId::Message1);
+            message = Item{};
+            message.Text = QStringLiteral("Hi");
+            message.Wrap = false;
+            message.Left = message.Top = 1;
+            PageEngine engine;
+            engine.setFontName(message.Font.Name);
+            engine.setFontSize(message.Font.Size);
+            engine.textBox(message.Text, 0, 0, 2880, 720, false, true, false);
+            message.Width = float(engine.textWidthLaidOut() - 1) / 1440;
+            message.Height = float(engine.textHeight() - 1) / 1440;
+        };
+        const auto row = [](const char *tag, const QString &piece, const Tweak &tweak,
+                            const QStringList &second, const QList<NoteKind> &kinds, int record,
                             int count, const QString &detail) {
             QTest::newRow(tag) << piece << tweak << second << kinds << record << count << detail;
         };
-        row("clean", Envelope, int(None), bob, QList<int>(), 0, 0, QString());
+        row("clean", Envelope, {}, bob, {}, 0, 0, QString());
         // 162 mm is 459.2 pt; the paper is 459 pt, and nothing is lost.
-        row("clean-c6-on-its-whole-point-paper", "C6 - Envelope", int(None), bob, QList<int>(), 0,
-            0, QString());
-        row("city-line-left-out", Envelope, int(None),
+        row("clean-c6-on-its-whole-point-paper", "C6 - Envelope", {}, bob, {}, 0, 0, QString());
+        row("city-line-left-out", Envelope, {},
             person("Bob", "Roe", "Troy", "NEW YORK STATE OF AMERICA", "12180-0000-0000-0000"),
-            kinds({NoteKind::CityLineLeftOut}), 2, 1, "twips wide, the limit is 3,500");
-        row("city-shortened", Envelope, int(None),
+            {NoteKind::CityLineLeftOut}, 2, 1, "twips wide, the limit is 3,500");
+        row("city-shortened", Envelope, {},
             person("Bob", "Roe", "Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch"),
-            kinds({NoteKind::CityLineShortened}), 2, 1, "gogogoch,\" cut");
-        row("text-a-twip-beyond-item-is-not-noted", Envelope, int(MessageTwipShort), bob,
-            QList<int>(), 0, 0, QString());
-        row("text-beyond-item", Envelope, int(LowAddressBox), bob,
-            kinds({NoteKind::TextBeyondItem}), 1, 2, "Address text is");
-        row("text-cut-at-piece", Labels, int(None),
-            person("Bob", QStringLiteral("Longname ").repeated(70)),
-            kinds({NoteKind::TextCutAtPiece}), 2, 1, "past the piece's bottom edge");
-        row("item-off-piece", Labels, int(FramedMessageOffLabel), bob,
-            kinds({NoteKind::ItemOffPiece}), 1, 2, "Message1 box lies wholly outside the piece");
-        row("item-off-page", Envelope, int(AddressTop25), bob,
-            kinds({NoteKind::TextCutAtPiece, NoteKind::ItemOffPage}), 1, 2,
+            {NoteKind::CityLineShortened}, 2, 1, "gogogoch,\" cut");
+        row("text-a-twip-beyond-item-is-not-noted", Envelope, twipShort, bob, {}, 0, 0, QString());
+        row(
+            "text-beyond-item", Envelope,
+            [](PieceModel &m) { m.item(ItemId::Address).Height = 0.1f; }, bob,
+            {NoteKind::TextBeyondItem}, 1, 2, "Address text is");
+        row("text-cut-at-piece", Labels, {},
+            person("Bob", QStringLiteral("Longname ").repeated(70)), {NoteKind::TextCutAtPiece}, 2,
+            1, "past the piece's bottom edge");
+        row("item-off-piece", Labels, offLabel, bob, {NoteKind::ItemOffPiece}, 1, 2,
+            "Message1 box lies wholly outside the piece");
+        row(
+            "item-off-page", Envelope, [](PieceModel &m) { m.item(ItemId::Address).Top = 25; }, bob,
+            {NoteKind::TextCutAtPiece, NoteKind::ItemOffPage}, 1, 2,
             "lies wholly outside the piece");
-        row("piece-off-page", Labels, int(MarginTop127), bob, kinds({NoteKind::PieceOffPage}), 1, 2,
-            "lies wholly outside the page");
-        row("undrawable-characters", Envelope, int(None),
-            person("Bob", QStringLiteral("Roe\u0378")), kinds({NoteKind::UndrawableCharacters}), 2,
-            1, "U+0378");
-        row("accented-letters-are-drawn", Envelope, int(None),
-            person("Zoë", QStringLiteral("Ångström")), QList<int>(), 0, 0, QString());
-        row("empty-record", Envelope, int(None), QStringList(8, QString()),
-            kinds({NoteKind::EmptyRecord}), 2, 1, "no name and no address");
+        row(
+            "piece-off-page", Labels, [](PieceModel &m) { m.piece.PieceMarginTop = 12.7f; }, bob,
+            {NoteKind::PieceOffPage}, 1, 2, "lies wholly outside the page");
+        row("undrawable-characters", Envelope, {}, person("Bob", QStringLiteral("Roe\u0378")),
+            {NoteKind::UndrawableCharacters}, 2, 1, "U+0378");
+        row("accented-letters-are-drawn", Envelope, {}, person("Zoë", QStringLiteral("Ångström")),
+            {}, 0, 0, QString());
+        row("empty-record", Envelope, {}, QStringList(8, QString()), {NoteKind::EmptyRecord}, 2, 1,
+            "no name and no address");
         // The second digit of the tracking code is 0 to 4.
-        row("barcode-invalid", Envelope, int(Barcode),
-            bob + QStringList{QString(), "05234567094987654321"}, kinds({NoteKind::BarcodeInvalid}),
-            2, 1, "\"05234567094987654321\": the second digit");
+        row(
+            "barcode-invalid", Envelope, [](PieceModel &m) { m.AddressBarcode = true; },
+            bob + QStringList{QString(), "05234567094987654321"}, {NoteKind::BarcodeInvalid}, 2, 1,
+            "\"05234567094987654321\": the second digit");
     }
 
     void notes()
     {
         QFETCH(QString, piece);
-        QFETCH(int, tweak);
+        QFETCH(Tweak, tweak);
         QFETCH(QStringList, second);
-        QFETCH(QList<int>, kinds);
+        QFETCH(QList<NoteKind>, kinds);
         QFETCH(int, record);
-        QFETCH(int, count);
         QFETCH(QString, detail);
 
         PieceModel &model = PieceModel::shared();
         QVERIFY(LoadPieceByName(piece, model));
-        apply(Tweak(tweak), model);
+        if (tweak)
+            tweak(model);
         fixture::newSpool();
         fixture::feed({person("Ann", "Lee").join(';'), second.join(';')});
 
@@ -198,21 +164,21 @@ private Q_SLOTS:
         QCOMPARE(run.piecesDrawn(), qint64(2));
 
         const RunReport &report = run.report();
-        QList<int> noted;
+        QList<NoteKind> noted;
         for (int k = 0; k < NoteKindCount; ++k) {
             if (report.count(NoteKind(k)) > 0)
-                noted << k;
+                noted << NoteKind(k);
         }
         QCOMPARE(noted, kinds);
         if (kinds.isEmpty())
             return;
-        const Note *first = report.firstOf(NoteKind(kinds.first()));
+        const Note *first = report.firstOf(kinds.first());
         QVERIFY(first);
         QCOMPARE(first->record, qint64(record));
         const QString name = QStringList{second[0], second[2]}.join(' ').trimmed();
         QCOMPARE(first->name, record == 1 ? QStringLiteral("Ann Lee") : name);
         QVERIFY2(first->detail.contains(detail), qPrintable(first->detail));
-        QCOMPARE(report.count(NoteKind(kinds.first())), qint64(count));
+        QTEST(int(report.count(kinds.first())), "count");
     }
 
     void longRunKeepsFewNotes()
@@ -236,7 +202,6 @@ private Q_SLOTS:
         QCOMPARE(report.recordsNoted(), qint64(200));
         QCOMPARE(int(report.notes().size()), RunReport::ExamplesPerKind);
         QCOMPARE(report.notes().back().record, qint64(RunReport::ExamplesPerKind));
-        QCOMPARE(surface.pageCount(), 7);
     }
 
     void previewDrawsEachPageAsTheWholeRun_data()

@@ -6,14 +6,9 @@
 
 #include "pdfprobe.h"
 
-#include <QFile>
-#include <QImage>
 #include <QPainter>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <functional>
 
 using namespace quirra;
 
@@ -67,70 +62,34 @@ void box(Surface &e, const QString &text, int left = 0, int top = 0, bool border
 
 } // namespace
 
-struct PaperRow
-{
-    int paper, orientation;
-    QSizeF points;
-    int paperTaken; // read back; a refused value leaves Letter portrait
-    int orientationTaken;
-    QSize customTwips; // given before the paper code; empty: none
-};
-
-struct PlacementRow
-{
-    QString text;
-    int align;
-    bool wrap;
-    QPoint origin;
-    QPoint margins; // left, top
-    QPoint indents; // left, right
-    QStringList lines;
-    QString edges;
-};
-
-struct HeightRow
-{
-    QString text;
-    double points;
-    int spacing;
-    bool wrap; // in a box 2 inches wide
-    int twips;
-};
-
-struct HeaderRow
-{
-    QString header, footer;
-    int firstNumber;
-    QStringList expected; // page 1 then page 2, top to bottom
-};
-
-struct FrameRow
-{
-    QString text;
-    bool border, layoutOnly;
-    int pen, brush, penWidth;
-    bool frame;    // ink along all four edges
-    bool filled;   // ink in the lower right of the box
-    bool inkBelow; // text running on below the box
-};
-
-struct ErrorRow
-{
-    bool preview, hasTarget;
-    QString file;
-    bool abort;
-    int error;
-};
-
 class TestPageEngine : public QObject
 {
     Q_OBJECT
 
 private:
     // Prints script to a PDF file in print mode and returns its path.
-    QString print(const QString &name, const Script &script, QPoint origin = QPoint());
+    QString print(const QString &name, const Script &script, QPoint origin = QPoint())
+    {
+        const QString path = m_dir.filePath(name + u".pdf");
+        PdfTarget target(path);
+        PageEngine engine;
+        engine.setPrintTarget(&target);
+        engine.setPreview(false);
+        engine.setPrintableOrigin(origin.x(), origin.y());
+        script(engine);
+        return path;
+    }
     // Records script in preview and paints page 1 at dpi into a white image.
-    static QImage previewImage(const Script &script, int dpi);
+    static QImage previewImage(const Script &script, int dpi)
+    {
+        PageEngine engine;
+        script(engine);
+        QImage image((engine.pageSizeTwips(1) * dpi / 1440.0).toSize(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        engine.paintPage(painter, 1, dpi);
+        return image;
+    }
 
     QTemporaryDir m_dir;
 
@@ -145,54 +104,62 @@ private Q_SLOTS:
 
     void paperAndOrientation_data()
     {
-        columns<PaperRow>("row");
+        // paperTaken, orientationTaken: read back; a refused value leaves Letter portrait
+        // customTwips: given before the paper code; empty: none
+        columns<int, int, QSizeF, int, int, QSize>("paper", "orientation", "points", "paperTaken",
+                                                   "orientationTaken", "customTwips");
 
-        QTest::newRow("letter-portrait") << PaperRow{1, 0, QSizeF(612, 792), 1, 0, QSize()};
-        QTest::newRow("legal") << PaperRow{5, 0, QSizeF(612, 1008), 5, 0, QSize()};
+        QTest::newRow("letter-portrait") << 1 << 0 << QSizeF(612, 792) << 1 << 0 << QSize();
+        QTest::newRow("legal") << 5 << 0 << QSizeF(612, 1008) << 5 << 0 << QSize();
         QTest::newRow("no10-envelope-landscape")
-            << PaperRow{20, 1, QSizeF(684, 297), 20, 1, QSize()};
-        QTest::newRow("a4") << PaperRow{9, 0, QSizeF(595.3, 841.9), 9, 0, QSize()};
-        QTest::newRow("dl-landscape") << PaperRow{27, 1, QSizeF(623.6, 311.8), 27, 1, QSize()};
-        QTest::newRow("c5") << PaperRow{28, 0, QSizeF(459.2, 649.1), 28, 0, QSize()};
-        QTest::newRow("monarch") << PaperRow{37, 0, QSizeF(279, 540), 37, 0, QSize()};
-        QTest::newRow("six-and-three-quarter") << PaperRow{38, 0, QSizeF(261, 468), 38, 0, QSize()};
-        QTest::newRow("paper-code-zero-refused") << PaperRow{0, 1, QSizeF(792, 612), 1, 1, QSize()};
+            << 20 << 1 << QSizeF(684, 297) << 20 << 1 << QSize();
+        QTest::newRow("a4") << 9 << 0 << QSizeF(595.3, 841.9) << 9 << 0 << QSize();
+        QTest::newRow("dl-landscape") << 27 << 1 << QSizeF(623.6, 311.8) << 27 << 1 << QSize();
+        QTest::newRow("c5") << 28 << 0 << QSizeF(459.2, 649.1) << 28 << 0 << QSize();
+        QTest::newRow("monarch") << 37 << 0 << QSizeF(279, 540) << 37 << 0 << QSize();
+        QTest::newRow("six-and-three-quarter") << 38 << 0 << QSizeF(261, 468) << 38 << 0 << QSize();
+        QTest::newRow("paper-code-zero-refused") << 0 << 1 << QSizeF(792, 612) << 1 << 1 << QSize();
         QTest::newRow("unknown-paper-code-refused")
-            << PaperRow{999, 0, QSizeF(612, 792), 1, 0, QSize()};
+            << 999 << 0 << QSizeF(612, 792) << 1 << 0 << QSize();
         QTest::newRow("b6-envelope-landscape-stays-landscape")
-            << PaperRow{35, 1, QSizeF(498.9, 354.3), 35, 1, QSize()};
+            << 35 << 1 << QSizeF(498.9, 354.3) << 35 << 1 << QSize();
         QTest::newRow("custom-continuous-row-landscape")
-            << PaperRow{256, 1, QSizeF(1065.6, 72), 256, 1, QSize(21312, 1440)};
+            << 256 << 1 << QSizeF(1065.6, 72) << 256 << 1 << QSize(21312, 1440);
         QTest::newRow("custom-without-a-size-refused")
-            << PaperRow{256, 0, QSizeF(612, 792), 1, 0, QSize()};
+            << 256 << 0 << QSizeF(612, 792) << 1 << 0 << QSize();
         QTest::newRow("orientation-two-refused")
-            << PaperRow{5, 2, QSizeF(612, 1008), 5, 0, QSize()};
+            << 5 << 2 << QSizeF(612, 1008) << 5 << 0 << QSize();
     }
 
     void paperAndOrientation()
     {
-        QFETCH(PaperRow, row);
+        QFETCH(int, paper);
+        QFETCH(int, orientation);
+        QFETCH(QSizeF, points);
+        QFETCH(QSize, customTwips);
 
         const QString file = print(QTest::currentDataTag(), [&](PageEngine &e) {
-            e.setOrientation(row.orientation);
-            e.setCustomPaperSize(row.customTwips.width(), row.customTwips.height());
-            e.setPaperSize(row.paper);
-            QCOMPARE(e.paperSize(), row.paperTaken);
-            QCOMPARE(e.orientation(), row.orientationTaken);
+            e.setOrientation(orientation);
+            e.setCustomPaperSize(customTwips.width(), customTwips.height());
+            e.setPaperSize(paper);
+            QTEST(e.paperSize(), "paperTaken");
+            QTEST(e.orientation(), "orientationTaken");
             e.setAction(SurfaceAction::StartDoc);
             e.setAction(SurfaceAction::EndDoc);
         });
         const QList<QSizeF> sizes = pdfprobe::pageSizes(file);
         QCOMPARE(sizes.size(), 1);
         QVERIFY2(
-            qAbs(sizes[0].width() - row.points.width()) < 1 &&
-                qAbs(sizes[0].height() - row.points.height()) < 1,
+            qAbs(sizes[0].width() - points.width()) < 1 &&
+                qAbs(sizes[0].height() - points.height()) < 1,
             qPrintable(QStringLiteral("%1 x %2 pt").arg(sizes[0].width()).arg(sizes[0].height())));
     }
 
     void textPlacement_data()
     {
-        columns<PlacementRow>("row");
+        // margins: left, top; indents: left, right
+        columns<QString, int, bool, QPoint, QPoint, QPoint, QStringList, QString>(
+            "text", "align", "wrap", "origin", "margins", "indents", "lines", "edges");
         // Per line: L starts at the text's left edge, R ends at its right edge,
         // C is centred between them, B touches both.
 
@@ -204,8 +171,8 @@ private Q_SLOTS:
         const auto row = [](const char *tag, const QString &text, int align,
                             const QStringList &lines, const QString &edges, QPoint origin = {},
                             QPoint margins = {}, QPoint indents = {}, bool wrap = true) {
-            QTest::newRow(tag) << PlacementRow{text,    align,   wrap,  origin,
-                                               margins, indents, lines, edges};
+            QTest::newRow(tag) << text << align << wrap << origin << margins << indents << lines
+                               << edges;
         };
         row("left-at-the-box-corner", hello, 0, {hello}, "L");
         row("printable-origin-moves-everything", hello, 0, {hello}, "L", QPoint(360, 720));
@@ -227,46 +194,52 @@ private Q_SLOTS:
 
     void textPlacement()
     {
-        QFETCH(PlacementRow, row);
+        QFETCH(QString, text);
+        QFETCH(int, align);
+        QFETCH(bool, wrap);
+        QFETCH(QPoint, origin);
+        QFETCH(QPoint, margins);
+        QFETCH(QPoint, indents);
+        QFETCH(QString, edges);
 
         const QRect area(1440, 1440, 2880, 1440);
         const QString file = print(
             QTest::currentDataTag(),
             [&](PageEngine &e) {
-                e.setMarginLeft(row.margins.x());
-                e.setMarginTop(row.margins.y());
-                e.setIndentLeft(row.indents.x());
-                e.setIndentRight(row.indents.y());
-                e.setTextAlign(row.align);
+                e.setMarginLeft(margins.x());
+                e.setMarginTop(margins.y());
+                e.setIndentLeft(indents.x());
+                e.setIndentRight(indents.y());
+                e.setTextAlign(align);
                 e.setAction(SurfaceAction::StartDoc);
-                e.textBox(row.text, area.x(), area.y(), area.width(), area.height(), row.wrap,
-                          false, false);
+                e.textBox(text, area.x(), area.y(), area.width(), area.height(), wrap, false,
+                          false);
                 e.setAction(SurfaceAction::EndDoc);
             },
-            row.origin);
+            origin);
 
         const QList<pdfprobe::Line> printed = pdfprobe::lines(file);
         QStringList texts;
         for (const auto &l : printed)
             texts << l.text;
-        QCOMPARE(texts, row.lines);
+        QTEST(texts, "lines");
 
-        const double left = (row.origin.x() + row.margins.x() + area.x() + row.indents.x()) / 20.0;
+        const double left = (origin.x() + margins.x() + area.x() + indents.x()) / 20.0;
         const double right =
-            (row.origin.x() + row.margins.x() + area.x() + area.width() - row.indents.y()) / 20.0;
-        const double top = (row.origin.y() + row.margins.y() + area.y()) / 20.0;
+            (origin.x() + margins.x() + area.x() + area.width() - indents.y()) / 20.0;
+        const double top = (origin.y() + margins.y() + area.y()) / 20.0;
         for (int i = 0; i < printed.size(); ++i) {
             const auto &l = printed[i];
             const QString where = QString::asprintf("line %d: %g..%g pt in %g..%g pt", i, l.left,
                                                     l.right, left, right);
             QVERIFY2(qAbs(l.top - (top + i * arialLine10 / 20.0)) < quarterPoint,
                      qPrintable(where));
-            const QChar edge = row.edges.at(i);
+            const QChar edge = edges.at(i);
             if (edge == u'L' || edge == u'B')
                 QVERIFY2(qAbs(l.left - left) < quarterPoint, qPrintable(where));
             if (edge == u'R' || edge == u'B')
                 QVERIFY2(qAbs(l.right - right) < quarterPoint, qPrintable(where));
-            if (edge == u'L' && row.wrap) // not stretched
+            if (edge == u'L' && wrap) // not stretched
                 QVERIFY2(l.right < right - 1, qPrintable(where));
             if (edge == u'C')
                 QVERIFY2(qAbs((l.left + l.right) / 2 - (left + right) / 2) < quarterPoint,
@@ -276,11 +249,12 @@ private Q_SLOTS:
 
     void textHeight_data()
     {
-        columns<HeightRow>("row");
+        // wrap: in a box 2 inches wide
+        columns<QString, int, bool, int>("text", "spacing", "wrap", "twips");
 
         const auto row = [](const char *tag, const QString &text, int twips, int spacing = 100,
                             bool wrap = false) {
-            QTest::newRow(tag) << HeightRow{text, 10.0, spacing, wrap, twips};
+            QTest::newRow(tag) << text << spacing << wrap << twips;
         };
         row("one-line", "Alpha", arialLine10);
         row("two-lines", "Alpha\rBeta", 2 * arialLine10);
@@ -298,16 +272,18 @@ private Q_SLOTS:
 
     void textHeight()
     {
-        QFETCH(HeightRow, row);
+        QFETCH(QString, text);
+        QFETCH(int, spacing);
+        QFETCH(bool, wrap);
+        QFETCH(int, twips);
         PageEngine e;
-        e.setFontSize(row.points);
-        e.setLineSpacing(row.spacing);
-        e.textBox(row.text, 0, 0, 2880, 100, row.wrap, true, false);
-        QVERIFY2(qAbs(e.textHeight() - row.twips) <= 1,
-                 qPrintable(QString::number(e.textHeight())));
+        e.setFontSize(10);
+        e.setLineSpacing(spacing);
+        e.textBox(text, 0, 0, 2880, 100, wrap, true, false);
+        QVERIFY2(qAbs(e.textHeight() - twips) <= 1, qPrintable(QString::number(e.textHeight())));
         // What is measured (the city line's fit) is what the box lays out.
-        if (!row.wrap)
-            QCOMPARE(qRound(e.TextWidth(row.text)), e.textWidthLaidOut());
+        if (!wrap)
+            QCOMPARE(qRound(e.TextWidth(text)), e.textWidthLaidOut());
     }
 
     void outputTextFollowsTheCurrentPosition()
@@ -345,27 +321,29 @@ private Q_SLOTS:
 
     void headerAndFooter_data()
     {
-        columns<HeaderRow>("row");
+        // expected: page 1 then page 2, top to bottom
+        columns<QString, QString, int, QStringList>("header", "footer", "firstNumber", "expected");
 
         QTest::newRow("header-counts-from-the-first-number")
-            << HeaderRow{QStringLiteral("Page %d"), QString(), 5,
-                         QStringList{"Page 5", "body", "Page 6", "body"}};
-        QTest::newRow("footer-below-the-body")
-            << HeaderRow{QString(), QStringLiteral("Sheet %d"), 1,
-                         QStringList{"body", "Sheet 1", "body", "Sheet 2"}};
+            << QStringLiteral("Page %d") << QString() << 5
+            << QStringList{"Page 5", "body", "Page 6", "body"};
+        QTest::newRow("footer-below-the-body") << QString() << QStringLiteral("Sheet %d") << 1
+                                               << QStringList{"body", "Sheet 1", "body", "Sheet 2"};
         // Wider than the margins leave: one line from the left margin, never a second.
         const QString wide =
             QStringLiteral("Page %d of the spring mailing to all the members and friends of "
                            "the Westbury Garden Society");
         QTest::newRow("wide-header-stays-one-line")
-            << HeaderRow{wide, QString(), 1,
-                         QStringList{QString(wide).replace("%d", "1"), "body",
-                                     QString(wide).replace("%d", "2"), "body"}};
+            << wide << QString() << 1
+            << QStringList{QString(wide).replace("%d", "1"), "body",
+                           QString(wide).replace("%d", "2"), "body"};
     }
 
     void headerAndFooter()
     {
-        QFETCH(HeaderRow, row);
+        QFETCH(QString, header);
+        QFETCH(QString, footer);
+        QFETCH(int, firstNumber);
         const int margin = 720, origin = 360;
         const QString file = print(
             QTest::currentDataTag(),
@@ -374,9 +352,9 @@ private Q_SLOTS:
                 e.setMarginBottom(margin);
                 e.setMarginLeft(2880);
                 e.setMarginRight(2880);
-                e.setHeader(row.header);
-                e.setFooter(row.footer);
-                e.setFirstPageNumber(row.firstNumber);
+                e.setHeader(header);
+                e.setFooter(footer);
+                e.setFirstPageNumber(firstNumber);
                 e.setAction(SurfaceAction::StartDoc);
                 box(e, QStringLiteral("body"));
                 e.setAction(SurfaceAction::NewPage);
@@ -397,68 +375,76 @@ private Q_SLOTS:
                          qPrintable(l.text));
             else
                 QVERIFY2(qAbs(l.left - left) < quarterPoint, qPrintable(l.text));
-            const double band =
-                row.header.isEmpty() ? (15840 - origin - margin) / 20.0 : origin / 20.0;
+            const double band = header.isEmpty() ? (15840 - origin - margin) / 20.0 : origin / 20.0;
             QVERIFY2(l.top >= band && l.top + arialLine10 / 20.0 <= band + margin / 20.0,
                      qPrintable(l.text));
         }
-        QCOMPARE(texts, row.expected);
+        QTEST(texts, "expected");
     }
 
     void previewFrames_data()
     {
-        columns<FrameRow>("row");
+        // frame: ink along all four edges; filled: ink in the lower right of the box;
+        // inkBelow: text running on below the box
+        columns<QString, bool, bool, int, int, int, bool, bool, bool>(
+            "text", "border", "layoutOnly", "pen", "brush", "penWidth", "frame", "filled",
+            "inkBelow");
 
         const QString hi = QStringLiteral("Hi"), tall = QStringLiteral("1\r2\r3\r4\r5\r6");
         QTest::newRow("frame-round-the-box-not-the-text")
-            << FrameRow{hi, true, false, 1, 0, 20, true, false, false};
+            << hi << true << false << 1 << 0 << 20 << true << false << false;
         QTest::newRow("thick-frame-stays-inside")
-            << FrameRow{QString(), true, false, 1, 0, 100, true, false, false};
+            << QString() << true << false << 1 << 0 << 100 << true << false << false;
         QTest::newRow("no-border-no-frame")
-            << FrameRow{hi, false, false, 1, 0, 20, false, false, false};
+            << hi << false << false << 1 << 0 << 20 << false << false << false;
         QTest::newRow("layout-only-draws-nothing")
-            << FrameRow{hi, true, true, 1, 1, 20, false, false, false};
+            << hi << true << true << 1 << 1 << 20 << false << false << false;
         QTest::newRow("pen-none-draws-no-frame")
-            << FrameRow{QString(), true, false, 0, 0, 20, false, false, false};
+            << QString() << true << false << 0 << 0 << 20 << false << false << false;
         QTest::newRow("solid-brush-fills-the-box")
-            << FrameRow{QString(), true, false, 1, 1, 20, true, true, false};
+            << QString() << true << false << 1 << 1 << 20 << true << true << false;
         QTest::newRow("tall-text-runs-on-below")
-            << FrameRow{tall, true, false, 1, 0, 20, true, false, true};
+            << tall << true << false << 1 << 0 << 20 << true << false << true;
     }
 
     void previewFrames()
     {
-        QFETCH(FrameRow, row);
+        QFETCH(QString, text);
+        QFETCH(bool, border);
+        QFETCH(bool, layoutOnly);
+        QFETCH(int, pen);
+        QFETCH(int, brush);
+        QFETCH(int, penWidth);
+        QFETCH(bool, frame);
         // No style the rows set (none, solid) is taken for an unknown one.
         QTest::failOnWarning(QRegularExpression(QStringLiteral("is not known")));
 
         // At 144 dpi a pixel is 10 twips: the box is (144, 144) 288 x 72 pixels.
         const QImage image = previewImage(
             [&](PageEngine &e) {
-                e.setPenStyle(row.pen);
-                e.setBrushStyle(row.brush);
-                e.setPenWidth(row.penWidth);
+                e.setPenStyle(pen);
+                e.setBrushStyle(brush);
+                e.setPenWidth(penWidth);
                 e.setAction(SurfaceAction::StartDoc);
-                e.textBox(row.text, 1440, 1440, 2880, 720, true, row.layoutOnly, row.border);
+                e.textBox(text, 1440, 1440, 2880, 720, true, layoutOnly, border);
                 e.setAction(SurfaceAction::EndDoc);
             },
             144);
         const QRect area(144, 144, 288, 72);
         // Nothing above or beside the box (a pixel of rounding allowed); below it
-        // only row.text that runs on.
+        // only text that runs on.
         const QRect upToBox(0, 0, image.width(), area.bottom() + 2);
         QCOMPARE(darkPixels(image, upToBox) - darkPixels(image, area.adjusted(-1, -1, 1, 1)), 0);
-        QCOMPARE(darkPixels(image, QRect(0, area.bottom() + 2, image.width(), image.height())) > 0,
-                 row.inkBelow);
+        QTEST(darkPixels(image, QRect(0, area.bottom() + 2, image.width(), image.height())) > 0,
+              "inkBelow");
         const QList<QRect> edges{QRect(area.left() + 40, area.top(), 200, 1),
                                  QRect(area.left() + 40, area.bottom(), 200, 1),
                                  QRect(area.left(), area.top() + 20, 1, 30),
                                  QRect(area.right(), area.top() + 20, 1, 30)};
         for (const QRect &edge : edges)
-            QCOMPARE(darkPixels(image, edge) > edge.width() * edge.height() / 3, row.frame);
-        QCOMPARE(darkPixels(image, QRect(area.left() + 160, area.top() + 40, 100, 20)) > 0,
-                 row.filled);
-        if (row.penWidth >= 100) // a ring 10 pixels wide, all inside
+            QCOMPARE(darkPixels(image, edge) > edge.width() * edge.height() / 3, frame);
+        QTEST(darkPixels(image, QRect(area.left() + 160, area.top() + 40, 100, 20)) > 0, "filled");
+        if (penWidth >= 100) // a ring 10 pixels wide, all inside
             QCOMPARE(darkPixels(image, QRect(area.left() + 40, area.top() + 8, 200, 1)), 200);
     }
 
@@ -518,37 +504,39 @@ private Q_SLOTS:
 
     void errorCodes_data()
     {
-        columns<ErrorRow>("row");
+        columns<bool, QString, bool, int>("preview", "file", "abort", "error");
 
-        QTest::newRow("preview-never-fails") << ErrorRow{true, false, QString(), false, 0};
-        QTest::newRow("writable-pdf") << ErrorRow{false, true, QStringLiteral("ok.pdf"), false, 0};
+        QTest::newRow("preview-never-fails") << true << QString() << false << 0;
+        QTest::newRow("writable-pdf") << false << QStringLiteral("ok.pdf") << false << 0;
         QTest::newRow("aborted-pdf-leaves-no-file")
-            << ErrorRow{false, true, QStringLiteral("gone.pdf"), true, 0};
+            << false << QStringLiteral("gone.pdf") << true << 0;
         QTest::newRow("unwritable-pdf")
-            << ErrorRow{false, true, QStringLiteral("/quirra-no-such-dir/x.pdf"), false, 2};
-        QTest::newRow("no-output-at-all") << ErrorRow{false, false, QString(), false, 1};
+            << false << QStringLiteral("/quirra-no-such-dir/x.pdf") << false << 2;
+        QTest::newRow("no-output-at-all") << false << QString() << false << 1;
     }
 
     void errorCodes()
     {
-        QFETCH(ErrorRow, row);
-        const QString path =
-            row.file.startsWith(u'/') || row.file.isEmpty() ? row.file : m_dir.filePath(row.file);
+        QFETCH(bool, preview);
+        QFETCH(QString, file);
+        QFETCH(bool, abort);
+        QFETCH(int, error);
+        const QString path = file.startsWith(u'/') || file.isEmpty() ? file : m_dir.filePath(file);
         PdfTarget target(path);
         PageEngine e;
-        e.setPreview(row.preview);
-        e.setPrintTarget(row.hasTarget ? &target : nullptr);
+        e.setPreview(preview);
+        e.setPrintTarget(file.isEmpty() ? nullptr : &target);
         e.setAction(SurfaceAction::StartDoc);
-        QCOMPARE(e.errorCode(), row.error);
+        QCOMPARE(e.errorCode(), error);
         // A document that failed to open takes drawing calls without harm.
         e.textBox(QStringLiteral("text"), 0, 0, 1440, 1440, true, false, true);
         e.outputText(QStringLiteral("text"));
         e.setAction(SurfaceAction::NewPage);
-        e.setAction(row.abort ? SurfaceAction::AbortDoc : SurfaceAction::EndDoc);
-        const bool printed = row.error == 0 && !row.preview && !row.abort;
+        e.setAction(abort ? SurfaceAction::AbortDoc : SurfaceAction::EndDoc);
+        const bool printed = error == 0 && !preview && !abort;
         QCOMPARE(pdfprobe::pageSizes(path).size(), printed ? 2 : 0);
         QCOMPARE(QFile::exists(path), printed);
-        // The next good start clears the row.error.
+        // The next good start clears the error.
         e.setPreview(true);
         e.setAction(SurfaceAction::StartDoc);
         QCOMPARE(e.errorCode(), 0);
@@ -656,29 +644,6 @@ private Q_SLOTS:
                                 .arg(afterAll)));
     }
 };
-
-QString TestPageEngine::print(const QString &name, const Script &script, QPoint origin)
-{
-    const QString path = m_dir.filePath(name + u".pdf");
-    PdfTarget target(path);
-    PageEngine engine;
-    engine.setPrintTarget(&target);
-    engine.setPreview(false);
-    engine.setPrintableOrigin(origin.x(), origin.y());
-    script(engine);
-    return path;
-}
-
-QImage TestPageEngine::previewImage(const Script &script, int dpi)
-{
-    PageEngine engine;
-    script(engine);
-    QImage image((engine.pageSizeTwips(1) * dpi / 1440.0).toSize(), QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    engine.paintPage(painter, 1, dpi);
-    return image;
-}
 
 QTEST_MAIN(TestPageEngine)
 #include "tst_pageengine.moc"

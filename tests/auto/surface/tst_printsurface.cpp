@@ -6,10 +6,8 @@
 #include "nowindowleft.h"
 #include "pdfprobe.h"
 
-#include <QApplication>
 #include <QPrinter>
 #include <QScrollBar>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace quirra;
