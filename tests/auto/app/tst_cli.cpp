@@ -122,8 +122,7 @@ private Q_SLOTS:
 
     void badInputLeavesNoFile()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(QStringList, message);
+        const auto [arguments, message] = fetched<QStringList, QStringList>("arguments", "message");
 
         // An older file of the target's name stays as it was.
         QVERIFY(fixture::overwrite(out(QStringLiteral("out.pdf")), "older run"));
@@ -156,12 +155,9 @@ private Q_SLOTS:
 
     void printsEveryRecordOnItsPiece()
     {
-        QFETCH(QString, csv);
-        QFETCH(QString, piece);
-        QFETCH(int, pages);
-        QFETCH(QSizeF, pageSize);
-        QFETCH(QString, lastFirstName);
-        QFETCH(QStringList, options);
+        const auto [csv, piece, pages, pageSize, lastFirstName, options] =
+            fetched<QString, QString, int, QSizeF, QString, QStringList>(
+                "csv", "piece", "pages", "pageSize", "lastFirstName", "options");
 
         const QString pdf = out(QStringLiteral("run.pdf"));
         const Run run = quirra(QStringList{"print", "--piece", piece, "--pdf", pdf, csv} + options);
@@ -222,8 +218,7 @@ private Q_SLOTS:
 
     void printedPage()
     {
-        QFETCH(QStringList, options);
-        QFETCH(double, addressLeft);
+        const auto [options, addressLeft] = fetched<QStringList, double>("options", "addressLeft");
 
         Quirra control;
         control.AddressLeft(0.5f);
@@ -278,9 +273,8 @@ private Q_SLOTS:
 
     void outputPathKinds()
     {
-        QFETCH(QString, kind);
-        QFETCH(int, status);
-        QFETCH(QString, message);
+        const auto [kind, status, message] =
+            fetched<QString, int, QString>("kind", "status", "message");
 
         const QString path = out(QStringLiteral("out.pdf"));
         const QByteArray native = QFile::encodeName(path);
@@ -330,8 +324,7 @@ private Q_SLOTS:
 
     void versionAndHelp()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, output);
+        const auto [arguments, output] = fetched<QStringList, QString>("arguments", "output");
 
         const Run run = quirra(arguments);
         QCOMPARE(run.status, 0);

@@ -133,8 +133,7 @@ private Q_SLOTS:
 
     void rows()
     {
-        QFETCH(QByteArray, input);
-        QFETCH(QString, error);
+        auto [input, error] = fetched<QByteArray, QString>("input", "error");
         // All at once, and trickling in a byte or two at a time (a byte order
         // mark or a character split between reads).
         for (const int step : {0, 1, 2}) {
@@ -246,9 +245,8 @@ private Q_SLOTS:
 
     void mapsRows()
     {
-        QFETCH(QStringList, header);
-        QFETCH(QStringList, row);
-        QFETCH(QString, recipient);
+        const auto [header, row, recipient] =
+            fetched<QStringList, QStringList, QString>("header", "row", "recipient");
 
         AddressColumns columns;
         QString error;
@@ -300,8 +298,7 @@ private Q_SLOTS:
 
     void setsByType()
     {
-        QFETCH(QString, argument);
-        QFETCH(QVariant, expected);
+        const auto [argument, expected] = fetched<QString, QVariant>("argument", "expected");
 
         PropertyAssignment assignment;
         QString error;
@@ -342,8 +339,7 @@ private Q_SLOTS:
 
     void refuses()
     {
-        QFETCH(QString, argument);
-        QFETCH(QString, error);
+        const auto [argument, error] = fetched<QString, QString>("argument", "error");
 
         PropertyAssignment assignment;
         QString actual;

@@ -120,11 +120,9 @@ private Q_SLOTS:
 
     void hostileInput()
     {
-        QFETCH(QByteArray, csv);
-        QFETCH(bool, junkCatalogue);
-        QFETCH(QStringList, arguments);
-        QFETCH(int, status);
-        QFETCH(QString, message);
+        auto [csv, junkCatalogue, arguments, status, message] =
+            fetched<QByteArray, bool, QStringList, int, QString>("csv", "junkCatalogue",
+                                                                 "arguments", "status", "message");
 
         QProcessEnvironment env = environment();
         if (junkCatalogue) {
@@ -363,9 +361,8 @@ private Q_SLOTS:
 
     void preflight()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(QByteArray, rows);
-        QFETCH(QStringList, said);
+        auto [arguments, rows, said] =
+            fetched<QStringList, QByteArray, QStringList>("arguments", "rows", "said");
         const QString pdf = write(QStringLiteral("out.pdf"), "an older file\n");
         arguments.replaceInStrings(QStringLiteral("%OUT%"), pdf);
         const QuirraRun run = quirra(arguments << write(QStringLiteral("in.csv"), Header + rows));

@@ -166,10 +166,8 @@ private Q_SLOTS:
 
     void printsThroughTheSpooler()
     {
-        QFETCH(QString, piece);
-        QFETCH(int, records);
-        QFETCH(QString, returnText);
-        QFETCH(QSizeF, paper);
+        const auto [piece, records, returnText, paper] =
+            fetched<QString, int, QString, QSizeF>("piece", "records", "returnText", "paper");
 
         Quirra control;
         control.PieceName(piece);

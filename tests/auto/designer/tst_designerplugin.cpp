@@ -103,9 +103,8 @@ private Q_SLOTS:
 
     void sheetGivesDesignerTypes()
     {
-        QFETCH(QString, name);
-        QFETCH(QVariant, written);
-        QFETCH(QVariant, read);
+        const auto [name, written, read] =
+            fetched<QString, QVariant, QVariant>("name", "written", "read");
         auto *properties =
             qt_extension<QDesignerPropertySheetExtension *>(m_core->extensionManager(), m_quirra);
         const int index = properties->indexOf(name);
@@ -149,9 +148,8 @@ private Q_SLOTS:
 
     void cancelledDialogChangesNothing()
     {
-        QFETCH(int, action);
-        QFETCH(QString, dialog);
-        QFETCH(bool, onForm);
+        const auto [action, dialog, onForm] =
+            fetched<int, QString, bool>("action", "dialog", "onForm");
         Quirra loose;
         Quirra *widget = onForm ? m_quirra : &loose;
         QDesignerTaskMenuExtension *menu = taskMenu(widget);

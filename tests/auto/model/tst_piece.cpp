@@ -45,10 +45,8 @@ private Q_SLOTS:
 
     void derivePageSetup()
     {
-        QFETCH(QList<float>, sheet);
-        QFETCH(QString, pageSize);
-        QFETCH(float, pageW);
-        QFETCH(float, pageH);
+        auto [sheet, pageSize, pageW, pageH] =
+            fetched<QList<float>, QString, float, float>("sheet", "pageSize", "pageW", "pageH");
         Piece p;
         p.PageWidth = pageW;
         p.PageHeight = pageH;

@@ -142,12 +142,9 @@ private Q_SLOTS:
 
     void notes()
     {
-        QFETCH(QString, piece);
-        QFETCH(Tweak, tweak);
-        QFETCH(QStringList, second);
-        QFETCH(QList<NoteKind>, kinds);
-        QFETCH(int, record);
-        QFETCH(QString, detail);
+        auto [piece, tweak, second, kinds, record, detail] =
+            fetched<QString, Tweak, QStringList, QList<NoteKind>, int, QString>(
+                "piece", "tweak", "second", "kinds", "record", "detail");
 
         PieceModel &model = PieceModel::shared();
         QVERIFY(LoadPieceByName(piece, model));
@@ -220,12 +217,9 @@ private Q_SLOTS:
 
     void previewDrawsEachPageAsTheWholeRun()
     {
-        QFETCH(QString, piece);
-        QFETCH(int, rows);
-        QFETCH(int, records);
-        QFETCH(int, firstSlot);
-        QFETCH(QPoint, range);
-        QFETCH(int, pages);
+        const auto [piece, rows, records, firstSlot, range, pages] =
+            fetched<QString, int, int, int, QPoint, int>("piece", "rows", "records", "firstSlot",
+                                                         "range", "pages");
         PieceModel &model = PieceModel::shared();
         QVERIFY(LoadPieceByName(piece, model));
         if (rows > 0)
@@ -299,8 +293,7 @@ private Q_SLOTS:
 
     void overflowStaysOnItsPiece()
     {
-        QFETCH(bool, pdf);
-        QFETCH(bool, wrap);
+        const auto [pdf, wrap] = fetched<bool, bool>("pdf", "wrap");
         PieceModel &model = PieceModel::shared();
         QVERIFY(LoadPieceByName(Labels, model));
         model.item(ItemId::Address).Wrap = wrap;

@@ -40,11 +40,9 @@ private Q_SLOTS:
 
     void verifiedPageSetup()
     {
-        QFETCH(int, refusals);
-        QFETCH(int, attempts);
-        QFETCH(int, paper);
-        QFETCH(QSize, takenCustom);
-        QFETCH(int, paperAttempts);
+        auto [refusals, attempts, paper, takenCustom, paperAttempts] =
+            fetched<int, int, int, QSize, int>("refusals", "attempts", "paper", "takenCustom",
+                                               "paperAttempts");
         fixture::feed({});
         Piece &piece = PieceModel::shared().piece;
         piece.PieceOrientation = 1;
@@ -222,10 +220,8 @@ private Q_SLOTS:
 
     void verticalOffset()
     {
-        QFETCH(int, align);
-        QFETCH(float, heightInches);
-        QFETCH(int, lines);
-        QFETCH(int, offset);
+        const auto [align, heightInches, lines, offset] =
+            fetched<int, float, int, int>("align", "heightInches", "lines", "offset");
         Piece piece = PieceModel::shared().piece;
         piece.PrinterLeft = 0;
         piece.PrinterTop = 0;
@@ -301,10 +297,8 @@ private Q_SLOTS:
 
     void badGeometryIsAnErrorOfTheRun()
     {
-        QFETCH(int, across);
-        QFETCH(int, down);
-        QFETCH(QString, message);
-        QFETCH(int, start);
+        const auto [across, down, message, start] =
+            fetched<int, int, QString, int>("across", "down", "message", "start");
         useLabelSheet(across, down);
         PieceModel::shared().PieceStartSlot = short(start);
         fixture::feed(fixture::numbered(2));

@@ -272,10 +272,8 @@ private Q_SLOTS:
 
     void textHeight()
     {
-        QFETCH(QString, text);
-        QFETCH(int, spacing);
-        QFETCH(bool, wrap);
-        QFETCH(int, twips);
+        const auto [text, spacing, wrap, twips] =
+            fetched<QString, int, bool, int>("text", "spacing", "wrap", "twips");
         PageEngine e;
         e.setFontSize(10);
         e.setLineSpacing(spacing);
@@ -517,10 +515,8 @@ private Q_SLOTS:
 
     void errorCodes()
     {
-        QFETCH(bool, preview);
-        QFETCH(QString, file);
-        QFETCH(bool, abort);
-        QFETCH(int, error);
+        const auto [preview, file, abort, error] =
+            fetched<bool, QString, bool, int>("preview", "file", "abort", "error");
         const QString path = file.startsWith(u'/') || file.isEmpty() ? file : m_dir.filePath(file);
         PdfTarget target(path);
         PageEngine e;

@@ -35,9 +35,8 @@ private Q_SLOTS:
 
     void printing()
     {
-        QFETCH(QString, outputFile);
-        QFETCH(QString, printerName);
-        QFETCH(bool, fails);
+        const auto [outputFile, printerName, fails] =
+            fetched<QString, QString, bool>("outputFile", "printerName", "fails");
         PrintSurface surface;
         if (!printerName.isEmpty()) {
             surface.printer()->setOutputFormat(QPrinter::NativeFormat);
@@ -79,9 +78,7 @@ private Q_SLOTS:
 
     void pageOnShow()
     {
-        QFETCH(int, page);
-        QFETCH(int, zoom);
-        QFETCH(QSizeF, inches);
+        const auto [page, zoom, inches] = fetched<int, int, QSizeF>("page", "zoom", "inches");
         PrintSurface surface;
         surface.resize(900, 700);
         surface.show();
