@@ -22,3 +22,20 @@ template <typename... Types, typename... Names> std::tuple<Types...> fetched(con
     static_assert(sizeof...(Types) == sizeof...(Names), "one name for each column type");
     return {*static_cast<Types *>(QTest::qData(names, qMetaTypeId<Types>()))...};
 }
+
+// A data table: declares its columns and makes its rows, each value taken as
+// its column's type (a string literal as a QString, a brace list as a list):
+//   const Rows<QString, int> row("text", "count");
+//   row("two-lines", "a\rb", 2);
+template <typename... Types> class Rows
+{
+public:
+    template <typename... Names> explicit Rows(const Names &...names)
+    {
+        columns<Types...>(names...);
+    }
+    void operator()(const char *tag, const Types &...values) const
+    {
+        (QTest::newRow(tag) << ... << values);
+    }
+};

@@ -68,13 +68,9 @@ private Q_SLOTS:
 
     void badInputLeavesNoFile_data()
     {
-        columns<QStringList, int, QStringList>("arguments", "status", "message");
+        const Rows<QStringList, int, QStringList> row("arguments", "status", "message");
 
         const QString pdf = QStringLiteral("--pdf=%OUT%/out.pdf");
-        const auto row = [](const char *tag, const QStringList &arguments, int status,
-                            const QStringList &message) {
-            QTest::newRow(tag) << arguments << status << message;
-        };
         row("empty-file", {pdf, "%DATA%/empty.csv"}, 1,
             {"empty.csv: the file is empty", "header row"});
         row("header-only", {pdf, "%DATA%/header_only.csv"}, 1,
@@ -189,14 +185,10 @@ private Q_SLOTS:
     void printedPage_data()
     {
         // addressLeft: points from the paper's edge
-        columns<QStringList, QStringList, double>("options", "lines", "addressLeft");
+        const Rows<QStringList, QStringList, double> row("options", "lines", "addressLeft");
 
         const QStringList address{"Margaret Holloway", "1427 Birchwood Lane",
                                   "Springfield, IL 62704"};
-        const auto row = [](const char *tag, const QStringList &options, const QStringList &lines,
-                            double addressLeft) {
-            QTest::newRow(tag) << options << lines << addressLeft;
-        };
         row("later-set-wins", {"--set", "ReturnText=First", "--set", "ReturnText=Second"},
             QStringList{"Second"} + address, 312.0);
         row("bool-hides-the-address",

@@ -195,11 +195,7 @@ private Q_SLOTS:
     void mapsRows_data()
     {
         // recipient: or "refused: " and the start of the error
-        columns<QStringList, QStringList, QString>("header", "row", "recipient");
-        const auto row = [](const char *tag, const QStringList &header, const QStringList &values,
-                            const QString &recipient) {
-            QTest::newRow(tag) << header << values << recipient;
-        };
+        const Rows<QStringList, QStringList, QString> row("header", "row", "recipient");
 
         row("plain-names",
             {"first", "middle", "last", "address1", "address2", "city", "state", "zip"},
@@ -314,10 +310,7 @@ private Q_SLOTS:
 
     void refuses_data()
     {
-        columns<QString, QString>("argument", "error");
-        const auto row = [](const char *tag, const QString &assignment, const QString &message) {
-            QTest::newRow(tag) << assignment << message;
-        };
+        const Rows<QString, QString> row("argument", "error");
 
         row("unknown-name", "Bottom=1", "--set Bottom: the control has no property \"Bottom\"");
         row("wrong-case-suggests", "horzalign=1", "did you mean HorzAlign?");

@@ -89,11 +89,7 @@ private Q_SLOTS:
 
     void designActionsRefreshWhenAccepted_data()
     {
-        columns<QString, QString, QString, bool>("action", "dialog", "button", "refreshed");
-        const auto row = [](const char *tag, const QString &action, const QString &dialog,
-                            const QString &button, bool refreshed) {
-            QTest::newRow(tag) << action << dialog << button << refreshed;
-        };
+        const Rows<QString, QString, QString, bool> row("action", "dialog", "button", "refreshed");
         row("layout-ok", "edit_layout_act", "piece_layout_edit_form", "ok_btn", true);
         row("layout-cancel", "edit_layout_act", "piece_layout_edit_form", "cancel_btn", false);
         row("properties-ok", "properties_act", "property_sheet", "ok_btn", true);

@@ -101,12 +101,8 @@ private Q_SLOTS:
     void loadPieceByName_data()
     {
         // layout: across x down, paper code, orientation
-        columns<QString, bool, QString, QString, bool>("name", "found", "layout", "pageSize",
-                                                       "othersVisible");
-        const auto row = [](const char *tag, const QString &name, bool found, const QString &layout,
-                            const QString &pageSize, bool othersVisible) {
-            QTest::newRow(tag) << name << found << layout << pageSize << othersVisible;
-        };
+        const Rows<QString, bool, QString, QString, bool> row("name", "found", "layout", "pageSize",
+                                                              "othersVisible");
 
         const QString no10 = QStringLiteral("4 1/8 x 9 1/2");
         row("no10-envelope", "Size 10 - Envelope", true, "1x1 20 1", no10, true);
@@ -248,11 +244,7 @@ private Q_SLOTS:
 
     void generatorRefusesBadFacts_data()
     {
-        columns<QString, QString, QString>("column", "value", "message");
-        const auto row = [](const char *tag, const QString &column, const QString &value,
-                            const QString &message) {
-            QTest::newRow(tag) << column << value << message;
-        };
+        const Rows<QString, QString, QString> row("column", "value", "message");
         row("comma-in-a-product", "product", "Labels, large", "cannot carry");
         row("pieces-past-the-sheet", "sheet_w_in", "8", "past the sheet");
         row("no-pieces-across", "across", "0", "not a count");
@@ -286,12 +278,8 @@ private Q_SLOTS:
 
     void readPieceSpec_data()
     {
-        columns<QString, QString, QString>("name", "numbers", "pageDesc");
+        const Rows<QString, QString, QString> row("name", "numbers", "pageDesc");
 
-        const auto row = [](const char *tag, const QString &name, const QString &numbers,
-                            const QString &pageDesc) {
-            QTest::newRow(tag) << name << numbers << pageDesc;
-        };
         const QString letter = QStringLiteral("Letter (8 1/2 x 11 in)");
         row("complete", "Acme 30-up", "2.625 1 8.5 11 0.1875 0.5 2.75 1 3 10", letter);
         row("capital-x-does-not-split", "Capital X", "0 0 8.5 11 0.1875 0.5 2.75 1 3 10", "Letter");

@@ -88,12 +88,8 @@ private Q_SLOTS:
 
     void itemInformation_data()
     {
-        columns<QString, QString, QString, float, QString>("label", "item", "shownName", "top",
-                                                           "shownTop");
-        const auto row = [](const char *tag, const QString &label, const QString &item,
-                            const QString &shownName, float top, const QString &shownTop) {
-            QTest::newRow(tag) << label << item << shownName << top << shownTop;
-        };
+        const Rows<QString, QString, QString, float, QString> row("label", "item", "shownName",
+                                                                  "top", "shownTop");
         row("thousandths-rounded", "lblAdd", "Address", "Address", 1.23456f, "1.235");
         row("half-down-to-even", "lblRet", "Return", "Return", 1.0625f, "1.062");
         row("half-up-to-even", "lblM1", "Message1", "Message 1", 1.1875f, "1.188");

@@ -203,11 +203,7 @@ private Q_SLOTS:
     void readValues_data()
     {
         // expected: invalid: the inherited font
-        columns<QString, QJsonValue, QVariant>("name", "saved", "expected");
-        const auto row = [](const char *tag, const QString &name, const QJsonValue &saved,
-                            const QVariant &expected) {
-            QTest::newRow(tag) << name << saved << expected;
-        };
+        const Rows<QString, QJsonValue, QVariant> row("name", "saved", "expected");
         row("button-height-clamped", "ButtonMaxHeight", QJsonValue(1000), QVariant(400));
         row("text-for-a-number", "ButtonMaxHeight", QJsonValue("tall"), QVariant(240));
         row("fraction-for-a-count", "PieceNumDown", QJsonValue(2.5), QVariant(1));

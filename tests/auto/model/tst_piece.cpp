@@ -15,14 +15,10 @@ private Q_SLOTS:
     void derivePageSetup_data()
     {
         // sheet: across, down, width, height, pitches, margins
-        columns<QList<float>, QString, float, float, int, int>("sheet", "pageSize", "pageW",
-                                                               "pageH", "orientation", "paper");
+        const Rows<QList<float>, QString, float, float, int, int> row(
+            "sheet", "pageSize", "pageW", "pageH", "orientation", "paper");
         using S = QList<float>;
         const S no10{1, 1, 9.5f, 4.125f, 9.5f, 4.125f, 0, 0};
-        const auto row = [](const char *tag, const QList<float> &sheet, const QString &pageSize,
-                            float pageW, float pageH, int orientation, int paper) {
-            QTest::newRow(tag) << sheet << pageSize << pageW << pageH << orientation << paper;
-        };
         row("no10-envelope-is-landscape-paper-20", no10, "4 1/8 x 9 1/2", 0.f, 0.f, 1, 20);
         row("letter-label-sheet-is-portrait", S{3, 10, 2.625f, 1, 2.75f, 1, 0.1875f, 0.5f},
             "Letter (8 1/2 x 11 in)", 8.5f, 11.f, 0, 1);

@@ -99,9 +99,7 @@ private Q_SLOTS:
     {
         // S StartDoc, E EndDoc, X the file removed behind the writer's back,
         // a digit NewPiece with that record; the writer is then destroyed.
-        columns<QString, QString, bool>("calls", "records", "header");
-        const auto row = [](const char *tag, const QString &calls, const QString &records,
-                            bool header) { QTest::newRow(tag) << calls << records << header; };
+        const Rows<QString, QString, bool> row("calls", "records", "header");
 
         row("three-records", "S123E", "123", true);
         row("new-piece-without-start-doc-creates-header", "1E", "1", true);
@@ -236,12 +234,9 @@ private Q_SLOTS:
 
     void readsValuesAsListItems_data()
     {
-        columns<QByteArray, QStringList>("bytes", "run");
+        const Rows<QByteArray, QStringList> row("bytes", "run");
 
         const QByteArray h = fixture::Header;
-        const auto row = [](const char *tag, const QByteArray &bytes, const QStringList &run) {
-            QTest::newRow(tag) << bytes << run;
-        };
         row("three-records-city-comma-kept", h + John + John + John,
             {JohnRead, JohnRead, JohnRead});
         row("header-only", h, QStringList());
@@ -555,11 +550,7 @@ private Q_SLOTS:
 
     void encodes_data()
     {
-        columns<QString, QString, QString, QString>("barCode", "zip", "routing", "bars");
-        const auto row = [](const char *tag, const QString &barCode, const QString &zip,
-                            const QString &routing, const QString &bars) {
-            QTest::newRow(tag) << barCode << zip << routing << bars;
-        };
+        const Rows<QString, QString, QString, QString> row("barCode", "zip", "routing", "bars");
         // The postal service's own examples: one tracking code with each length
         // of routing code.
         row("no-routing", "01234567094987654321", "", "",
@@ -586,9 +577,7 @@ private Q_SLOTS:
 
     void refuses_data()
     {
-        columns<QString, QString, QString>("barCode", "zip", "why");
-        const auto row = [](const char *tag, const QString &barCode, const QString &zip,
-                            const QString &why) { QTest::newRow(tag) << barCode << zip << why; };
+        const Rows<QString, QString, QString> row("barCode", "zip", "why");
         row("letters", "0123456709498765432A", "98101", "holds more than digits");
         row("short", "0123456709498765432", "98101", "has 19 digits");
         row("routing-of-one", "012345670949876543219", "98101", "has 21 digits");

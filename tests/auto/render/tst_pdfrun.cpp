@@ -190,11 +190,7 @@ private Q_SLOTS:
 
     void barcodeAsThePostalServiceMeasuresIt_data()
     {
-        columns<QString, QString, int, int>("barCode", "zip", "align", "vertical");
-        const auto row = [](const char *tag, const QString &barCode, const QString &zip, int align,
-                            int vertical) {
-            QTest::newRow(tag) << barCode << zip << align << vertical;
-        };
+        const Rows<QString, QString, int, int> row("barCode", "zip", "align", "vertical");
         row("zip5-after-dash", "01234567094987654321-01234", "99999", int(haLeft), int(vaTop));
         row("zip11-run-on", "0123456709498765432101234567891", "", int(haCenter), int(vaMiddle));
         row("zip9-from-record", "01234567094987654321", "01234-5678", int(haLeft), int(vaBottom));

@@ -69,7 +69,7 @@ private Q_SLOTS:
         // record: the first record noted
         // count: records with the first kind
         // detail: part of the first kind's detail
-        columns<QString, Tweak, QStringList, QList<NoteKind>, int, int, QString>(
+        const Rows<QString, Tweak, QStringList, QList<NoteKind>, int, int, QString> row(
             "piece", "tweak", "second", "kinds", "record", "count", "detail");
 
         const QStringList bob = person("Bob", "Roe");
@@ -95,11 +95,6 @@ private Q_SLOTS:
             engine.textBox(message.Text, 0, 0, 2880, 720, false, true, false);
             message.Width = float(engine.textWidthLaidOut() - 1) / 1440;
             message.Height = float(engine.textHeight() - 1) / 1440;
-        };
-        const auto row = [](const char *tag, const QString &piece, const Tweak &tweak,
-                            const QStringList &second, const QList<NoteKind> &kinds, int record,
-                            int count, const QString &detail) {
-            QTest::newRow(tag) << piece << tweak << second << kinds << record << count << detail;
         };
         row("clean", Envelope, {}, bob, {}, 0, 0, QString());
         // 162 mm is 459.2 pt; the paper is 459 pt, and nothing is lost.

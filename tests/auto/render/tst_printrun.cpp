@@ -93,17 +93,11 @@ private Q_SLOTS:
         // cancelAfter: pieces drawn when the run is cancelled; 0: never
         // firstSlot: the first sheet's first slot; past 1 with outlines in preview
         // scale: PrinterScaleX and Y, percent, about the page's corner
-        columns<int, int, int, int, QStringList, int, int, QPoint>(
+        const Rows<int, int, int, int, QStringList, int, int, QPoint> row(
             "records", "across", "down", "pages", "lastPageBoxes", "cancelAfter", "firstSlot",
             "scale");
         const QPoint same(100, 100);
 
-        const auto row = [](const char *tag, int records, int across, int down, int pages,
-                            const QStringList &lastPageBoxes, int cancelAfter, int firstSlot,
-                            const QPoint &scale) {
-            QTest::newRow(tag) << records << across << down << pages << lastPageBoxes << cancelAfter
-                               << firstSlot << scale;
-        };
         row("seven-on-three-by-two-spill-one", 7, 3, 2, 2, {"360 360"}, 0, 1, same);
         row("eight-on-three-by-two-spill-two", 8, 3, 2, 2, {"360 360", "3960 360"}, 0, 1, same);
         row("six-on-three-by-two-fill-one-page", 6, 3, 2, 1,

@@ -178,11 +178,7 @@ private Q_SLOTS:
 
     void formatNumber_data()
     {
-        columns<double, QString, QString>("value", "pattern", "expected");
-        const auto row = [](const char *tag, double value, const QString &format,
-                            const QString &expected) {
-            QTest::newRow(tag) << value << format << expected;
-        };
+        const Rows<double, QString, QString> row("value", "pattern", "expected");
 
         row("whole-number-keeps-point", 2.0, "#0.##", "2.");
         row("half-away-on-15-digits", 2.675, "#0.##", "2.68");
@@ -285,6 +281,8 @@ private Q_SLOTS:
         // A grown file gets its old time back: only the size tells the change.
         QTest::newRow("grown-file-same-time") << QByteArray("[A]\nk=longer") << 0 << "longer";
         QTest::newRow("same-size-newer-time") << QByteArray("[A]\nk=two") << 2 << "two";
+        // Only the change time (the inode's) tells this one.
+        QTest::newRow("same-size-same-time") << QByteArray("[A]\nk=two") << 0 << "two";
         QTest::newRow("file-removed") << QByteArray() << -1 << "<none>";
     }
 
@@ -343,12 +341,8 @@ private Q_SLOTS:
     void makeTempFileName_data()
     {
         // expected: the name's pattern, or what the error says
-        columns<QString, QString, QString>("prefix", "folder", "expected");
+        const Rows<QString, QString, QString> row("prefix", "folder", "expected");
 
-        const auto row = [](const char *tag, const QString &prefix, const QString &folder,
-                            const QString &expected) {
-            QTest::newRow(tag) << prefix << folder << expected;
-        };
         row("spool-prefix", "qzv", "", "^qzv\\w{6}\\.tmp$");
         row("long-prefix-cut-to-three", "quirra", "", "^qui\\w{6}\\.tmp$");
         row("slash-cannot-leave-the-folder", "../x", "", "^\\.\\._\\w{6}\\.tmp$");
@@ -444,15 +438,11 @@ private Q_SLOTS:
     void boxes_data()
     {
         // box: top, left, height, width (inches)
-        columns<float, float, int, QList<float>, bool>("h", "w", "item", "box", "visible");
+        const Rows<float, float, int, QList<float>, bool> row("h", "w", "item", "box", "visible");
         using B = QList<float>;
         const int a = int(ItemId::Address), r = int(ItemId::Return), s = int(ItemId::Stamp),
                   m1 = int(ItemId::Message1), m2 = int(ItemId::Message2);
 
-        const auto row = [](const char *tag, float h, float w, int item, const QList<float> &box,
-                            bool visible) {
-            QTest::newRow(tag) << h << w << item << box << visible;
-        };
         row("no10-address", 4.125f, 9.5f, a, B{1.75f, 4.3333f, 1.5f, 3}, true);
         row("no10-message1-capped", 4.125f, 9.5f, m1, B{2.525f, 0.1f, 1.5f, 3}, true);
         row("label-address", 1.f, 2.625f, a, B{0.0333f, 0.0875f, 0.95f, 2.4938f}, true);
