@@ -284,6 +284,35 @@ private Q_SLOTS:
             QCOMPARE(qRound(e.TextWidth(text)), e.textWidthLaidOut());
     }
 
+    // Each style a host sets shows in what is drawn.
+    void fontStylesShow_data()
+    {
+        const Rows<int> row("style");
+        row("bold", 0);
+        row("italic", 1);
+        row("underline", 2);
+        row("strike-out", 3);
+    }
+
+    void fontStylesShow()
+    {
+        QFETCH(int, style);
+        const auto drawn = [style](bool on) {
+            return previewImage(
+                [&](PageEngine &e) {
+                    e.setAction(SurfaceAction::StartDoc);
+                    const std::array<void (PageEngine::*)(bool), 4> setters{
+                        &PageEngine::setFontBold, &PageEngine::setFontItalic,
+                        &PageEngine::setFontUnderline, &PageEngine::setFontStrikethrough};
+                    (e.*setters[size_t(style)])(on);
+                    box(e, QStringLiteral("Hello"));
+                    e.setAction(SurfaceAction::EndDoc);
+                },
+                144);
+        };
+        QVERIFY(drawn(true) != drawn(false));
+    }
+
     void outputTextFollowsTheCurrentPosition()
     {
         int afterHello = 0, nextY = 0;
