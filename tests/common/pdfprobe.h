@@ -56,6 +56,16 @@ inline QList<QSizeF> pageSizes(const QString &file)
     return sizes;
 }
 
+// pdftotext -bbox writes a word as XML text: "&quot;" for '"' and so on.
+inline QString unescaped(QString text)
+{
+    return text.replace(QLatin1String("&quot;"), QLatin1String("\""))
+        .replace(QLatin1String("&apos;"), QLatin1String("'"))
+        .replace(QLatin1String("&lt;"), QLatin1String("<"))
+        .replace(QLatin1String("&gt;"), QLatin1String(">"))
+        .replace(QLatin1String("&amp;"), QLatin1String("&"));
+}
+
 inline QList<Word> words(const QString &file)
 {
     static const QRegularExpression re(QStringLiteral(
@@ -68,7 +78,7 @@ inline QList<Word> words(const QString &file)
             ++page;
         else
             result.append(
-                Word{page, m.captured(5),
+                Word{page, unescaped(m.captured(5)),
                      QRectF(QPointF(m.captured(1).toDouble(), m.captured(2).toDouble()),
                             QPointF(m.captured(3).toDouble(), m.captured(4).toDouble()))});
     }

@@ -448,8 +448,7 @@ private Q_SLOTS:
                 instruction << word.text;
             }
         }
-        const QString said = instruction.join(u' ').replace("&quot;", "\""),
-                      named = '"' + piece + '"';
+        const QString said = instruction.join(u' '), named = '"' + piece + '"';
         QVERIFY2(said.startsWith("Calibration of " + named + ':') &&
                      said.contains("--piece " + named + " --measured"),
                  qPrintable(said));
